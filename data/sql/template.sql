@@ -1,0 +1,60 @@
+-- A stage template (.jsk): page and background, stage objects, draw-area and parade styles.
+-- Template files are copied and hashed whole, so they keep the plain rollback journal.
+CREATE TABLE IF NOT EXISTS LuckBg (
+  ID INTEGER PRIMARY KEY,
+  BgW INTEGER NOT NULL DEFAULT 1024,
+  BgH INTEGER NOT NULL DEFAULT 768,
+  BgColor TEXT DEFAULT '0x000000',
+  BgImg TEXT DEFAULT ''
+);
+CREATE TABLE IF NOT EXISTS LuckObj (
+  ObjName TEXT PRIMARY KEY,
+  ObjType TEXT NOT NULL,
+  ObjDepth INTEGER DEFAULT 0,
+  ObjDirection INTEGER DEFAULT 0,
+  ObjX REAL DEFAULT 0,
+  ObjY REAL DEFAULT 0,
+  ObjW INTEGER DEFAULT 0,
+  ObjH INTEGER DEFAULT 0,
+  ObjAlpha INTEGER DEFAULT 100,
+  bgColor TEXT DEFAULT '0xFFFFFF',
+  bgAlpha INTEGER DEFAULT 0,
+  borderNum INTEGER DEFAULT 0,
+  borderType TEXT DEFAULT 'box',
+  fTxt TEXT DEFAULT '',
+  fFont TEXT DEFAULT '黑体',
+  fColor TEXT DEFAULT '0x000000',
+  fSize INTEGER DEFAULT 16,
+  fBold TEXT DEFAULT 'false',
+  fItalic TEXT DEFAULT 'false',
+  fUnderline TEXT DEFAULT 'false',
+  lineHeight REAL DEFAULT 0,
+  txtAlign TEXT DEFAULT 'left',
+  isShadown INTEGER DEFAULT 0,
+  SrcV INTEGER DEFAULT 1,
+  ImgPath TEXT DEFAULT '',
+  isImgFilter TEXT DEFAULT 'false',
+  isVisible INTEGER DEFAULT 1
+);
+CREATE TABLE IF NOT EXISTS LuckPlay (
+  ObjName TEXT PRIMARY KEY,
+  BgType TEXT DEFAULT 'box',
+  BgColor TEXT DEFAULT '0xFFFFFF',
+  BgAlpha INTEGER DEFAULT 100,
+  DotX INTEGER DEFAULT 0,
+  DotY INTEGER DEFAULT 0,
+  PaddingNum INTEGER DEFAULT 0,
+  boxW INTEGER DEFAULT 80,
+  boxH INTEGER DEFAULT 80,
+  Speed INTEGER DEFAULT 5,
+  ColNum INTEGER DEFAULT 4,
+  fName TEXT DEFAULT '黑体',
+  fColor TEXT DEFAULT '0xFF0000',
+  fSize INTEGER DEFAULT 26,
+  txtAlpha INTEGER DEFAULT 100,
+  fBold TEXT DEFAULT 'false',
+  fItalic TEXT DEFAULT 'false',
+  fUnderline TEXT DEFAULT 'false',
+  txtAlign TEXT DEFAULT 'center',
+  isShadown INTEGER DEFAULT 0
+);

@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# Installs the Debian packages Quellio needs to build, test and run. Safe to run again: when
+# everything is present it only checks and returns.
+set -euo pipefail
+
+packages=(
+  build-essential cmake ninja-build clang-format pkg-config
+  qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite qt6-qpa-plugins
+  qt6-declarative-dev qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-controls
+  qml6-module-qtquick-layouts qml6-module-qtquick-templates qml6-module-qtqml-workerscript
+  qml6-module-qtquick-shapes qml6-module-qt5compat-graphicaleffects qml6-module-qtquick-particles
+  qt6-multimedia-dev qml6-module-qtmultimedia libqt6multimediawidgets6
+  qt6-svg-dev qt6-image-formats-plugins
+  libsqlite3-dev libfreexl-dev libzip-dev
+  fonts-noto-cjk xvfb xauth sqlite3
+)
+
+missing=()
+for p in "${packages[@]}"; do
+  if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed"; then
+    missing+=("$p")
+  fi
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+sudo=""
+[ "$(id -u)" -ne 0 ] && sudo="sudo"
+echo "Installing: ${missing[*]}"
+export DEBIAN_FRONTEND=noninteractive
+$sudo apt-get update -qq
+$sudo apt-get install -y -qq --no-install-recommends "${missing[@]}"

@@ -1,0 +1,21 @@
+#include <QApplication>
+
+#include "core/frmMain.h"
+#include "core/startup.h"
+#include "core/widgethelpers.h"
+
+int main(int argc, char *argv[]) {
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("quellio"));
+    QApplication::setOrganizationName(QStringLiteral("quellio"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Quellio抽奖(全能版)"));
+    if (!startUp(QApplication::applicationDirPath())) return 1;
+
+    frmMain console;
+    setConsoleWindow(&console);
+    centerForm(&console);
+    console.show();
+    const int code = QApplication::exec();
+    exitProgram(true);
+    return code;
+}

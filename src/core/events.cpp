@@ -1,0 +1,6 @@
+#include "core/events.h"
+
+Events &events() {
+    static Events instance;
+    return instance;
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+// Small file and text helpers shared by every subsystem.
+
+// False for an empty path; otherwise true when path names an existing file (not a folder).
+bool fileExists(const QString &path);
+// "." + the text after the last ".", or empty when there is no dot. "a.tar.gz" gives ".gz".
+QString getExt(const QString &path);
+// The last piece of a path, after the last "/" or "\".
+QString getFileName(const QString &path);
+// Deletes every file of folder whose name holds a capital "U": the participants' photos
+// ("U<ID>.jpg"), while prize pictures ("JP<ID>...") stay. Returns the number removed.
+int clearUserPhotos(const QString &folder);
+// Random text over 0-9 and a-z, for new stage object names.
+QString makeRandomName(int length);
+// The password digest: MD5 of the trimmed text's UTF-8 bytes in lower-case hexadecimal; form 32
+// gives all 32 characters, any other form the 16 middle ones (characters 9 to 24).
+QString md5(const QString &text, int form);
+// Turns "\" into "/" so paths kept by older data work on every platform.
+QString normalizeSlashes(QString path);

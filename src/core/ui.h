@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+#include <memory>
+
+class QWidget;
+
+enum class MsgStyle { Information, Exclamation, Critical };
+
+// Every message box, question, input box, file and colour dialog of the program goes through
+// this service. The program installs WidgetUi; tests install a scripted one that records each
+// message and answers from a queue.
+class Ui {
+public:
+    virtual ~Ui() = default;
+
+    // A notice with one OK button. Titles are "提示", "警告", "错误" and the like.
+    virtual void message(const QString &text, MsgStyle style, const QString &title) = 0;
+    // A Yes/No question; true for Yes.
+    virtual bool question(const QString &text, const QString &title) = 0;
+    // A line of text; a null string when cancelled.
+    virtual QString inputText(const QString &prompt, const QString &title,
+                              const QString &initial) = 0;
+    // File dialogs; an empty result (or list) when cancelled.
+    virtual QString openFile(const QString &title, const QString &dir, const QString &filter) = 0;
+    virtual QStringList openFiles(const QString &title, const QString &dir,
+                                  const QString &filter) = 0;
+    virtual QString saveFile(const QString &title, const QString &suggested,
+                             const QString &filter) = 0;
+    virtual QString chooseDirectory(const QString &title, const QString &dir) = 0;
+    // An invalid colour when cancelled.
+    virtual QColor chooseColor(const QColor &initial, const QString &title) = 0;
+    // Opens a file or address with the desktop's default program.
+    virtual bool openUrl(const QUrl &url) = 0;
+};
+
+// The dialogs of Qt Widgets, parented to the active window.
+class WidgetUi : public Ui {
+public:
+    void message(const QString &text, MsgStyle style, const QString &title) override;
+    bool question(const QString &text, const QString &title) override;
+    QString inputText(const QString &prompt, const QString &title, const QString &initial) override;
+    QString openFile(const QString &title, const QString &dir, const QString &filter) override;
+    QStringList openFiles(const QString &title, const QString &dir, const QString &filter) override;
+    QString saveFile(const QString &title, const QString &suggested,
+                     const QString &filter) override;
+    QString chooseDirectory(const QString &title, const QString &dir) override;
+    QColor chooseColor(const QColor &initial, const QString &title) override;
+    bool openUrl(const QUrl &url) override;
+};
+
+Ui &ui();
+// Installs the service; the previous one is destroyed. Passing null restores WidgetUi.
+void setUi(std::unique_ptr<Ui> service);
+
+// Common titles.
+namespace titles {
+inline const QString notice = QStringLiteral("提示");
+inline const QString warning = QStringLiteral("警告");
+inline const QString error = QStringLiteral("错误");
+}  // namespace titles

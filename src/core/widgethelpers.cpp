@@ -1,0 +1,73 @@
+#include "core/widgethelpers.h"
+
+#include <QComboBox>
+#include <QFont>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QPointer>
+#include <QScreen>
+#include <QWidget>
+
+namespace {
+QPointer<QWidget> g_console;
+}
+
+void selectCombo(QComboBox *combo, const QString &text) {
+    for (int i = 0; i < combo->count(); ++i) {
+        if (combo->itemText(i).trimmed() == text) {
+            combo->setCurrentIndex(i);
+            return;
+        }
+        combo->setCurrentIndex(0);
+    }
+}
+
+void selectAllText(QLineEdit *edit) {
+    edit->selectAll();
+}
+
+void setConsoleWindow(QWidget *console) {
+    g_console = console;
+}
+
+QWidget *consoleWindow() {
+    return g_console;
+}
+
+void centerForm(QWidget *form) {
+    QRect area;
+    if (g_console && g_console != form)
+        area = g_console->frameGeometry();
+    else if (QScreen *screen = QGuiApplication::primaryScreen())
+        area = screen->availableGeometry();
+    const QSize size = form->frameGeometry().size();
+    const int left = area.left() + (area.width() - size.width()) / 2;
+    const int top = area.top() + (area.height() - size.height()) / 2;
+    form->move(std::max(0, left), std::max(0, top));
+}
+
+void listChineseFonts(QComboBox *combo) {
+    const QStringList families = QFontDatabase::families(QFontDatabase::SimplifiedChinese);
+    for (const QString &family : families) {
+        if (!family.contains(QLatin1Char('@'))) combo->addItem(family);
+    }
+    if (combo->count() > 0) combo->setCurrentIndex(0);
+}
+
+void installFontSubstitutes() {
+    const QStringList sans{QStringLiteral("Noto Sans CJK SC"), QStringLiteral("WenQuanYi Zen Hei"),
+                           QStringLiteral("Droid Sans Fallback")};
+    const QStringList serif{QStringLiteral("Noto Serif CJK SC"), QStringLiteral("Noto Sans CJK SC"),
+                            QStringLiteral("AR PL UMing CN")};
+    const QStringList sansNames{QStringLiteral("黑体"), QStringLiteral("微软雅黑"),
+                                QStringLiteral("幼圆"), QStringLiteral("SimHei"),
+                                QStringLiteral("Microsoft YaHei")};
+    const QStringList serifNames{QStringLiteral("宋体"), QStringLiteral("新宋体"),
+                                 QStringLiteral("仿宋"), QStringLiteral("楷体"),
+                                 QStringLiteral("隶书"), QStringLiteral("SimSun")};
+    for (const QString &name : sansNames)
+        QFont::insertSubstitutions(name, sans);
+    for (const QString &name : serifNames)
+        QFont::insertSubstitutions(name, serif);
+}

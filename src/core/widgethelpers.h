@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+class QComboBox;
+class QLineEdit;
+class QWidget;
+
+// Helpers for the controls of every screen.
+
+// Selects the item whose trimmed text equals text; with no match item 0 stays selected.
+void selectCombo(QComboBox *combo, const QString &text);
+// Selects the whole text, for numeric fields on focus.
+void selectAllText(QLineEdit *edit);
+// The console: dialogs are centred on it.
+void setConsoleWindow(QWidget *console);
+QWidget *consoleWindow();
+// Centres a dialog on the console (on the screen when there is none); never above or left of 0.
+void centerForm(QWidget *form);
+// Fills combo with the installed fonts that can show Simplified Chinese and selects item 0.
+void listChineseFonts(QComboBox *combo);
+// Lets "黑体", "宋体" and the other Windows font names of older templates reach an installed
+// CJK font wherever a font is asked for by family.
+void installFontSubstitutes();

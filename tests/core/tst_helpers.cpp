@@ -1,0 +1,150 @@
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "core/helpers.h"
+#include "core/widgethelpers.h"
+
+class TestHelpers : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void extensions_data();
+    void extensions();
+    void fileNames_data();
+    void fileNames();
+    void fileExistsOnlyForFiles();
+    void clearUserPhotosKeepsPrizePictures();
+    void randomNames();
+    void digest_data();
+    void digest();
+    void selectComboFallsBackToTheFirstItem_data();
+    void selectComboFallsBackToTheFirstItem();
+    void centerFormNeverLeavesTheScreen();
+};
+
+void TestHelpers::extensions_data() {
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("ext");
+    QTest::newRow("double extension") << "a.tar.gz"
+                                      << ".gz";
+    QTest::newRow("no dot") << "name"
+                            << "";
+    QTest::newRow("dotted folder") << "/data/photos.2026/name"
+                                   << ".2026/name";
+    QTest::newRow("upper case kept") << "Photos/U1.JPG"
+                                     << ".JPG";
+    QTest::newRow("empty") << ""
+                           << "";
+}
+
+void TestHelpers::extensions() {
+    QFETCH(QString, path);
+    QFETCH(QString, ext);
+    QCOMPARE(getExt(path), ext);
+}
+
+void TestHelpers::fileNames_data() {
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("slash") << "/a/b/c.jpg"
+                           << "c.jpg";
+    QTest::newRow("backslash from old data") << "Photos\\U3.jpg"
+                                             << "U3.jpg";
+    QTest::newRow("bare") << "c.jpg"
+                          << "c.jpg";
+    QTest::newRow("folder") << "a/b/"
+                            << "";
+}
+
+void TestHelpers::fileNames() {
+    QFETCH(QString, path);
+    QFETCH(QString, name);
+    QCOMPARE(getFileName(path), name);
+}
+
+void TestHelpers::fileExistsOnlyForFiles() {
+    QTemporaryDir dir;
+    QFile file(dir.filePath(QStringLiteral("x.txt")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    QVERIFY(fileExists(file.fileName()));
+    QVERIFY(!fileExists(dir.path()));
+    QVERIFY(!fileExists(QString()));
+    QVERIFY(!fileExists(dir.filePath(QStringLiteral("missing.txt"))));
+}
+
+void TestHelpers::clearUserPhotosKeepsPrizePictures() {
+    QTemporaryDir dir;
+    const QStringList names{"U1.jpg", "U200.png", "JP3.jpg", "JP12.png", "u5.jpg", "camertemp.jpg"};
+    for (const QString &name : names) {
+        QFile f(dir.filePath(name));
+        QVERIFY(f.open(QIODevice::WriteOnly));
+    }
+    QCOMPARE(clearUserPhotos(dir.path() + QLatin1Char('/')), 2);
+    const QStringList left = QDir(dir.path()).entryList(QDir::Files, QDir::Name);
+    QCOMPARE(left, (QStringList{"JP12.png", "JP3.jpg", "camertemp.jpg", "u5.jpg"}));
+}
+
+void TestHelpers::randomNames() {
+    const QString a = makeRandomName(16);
+    QCOMPARE(a.size(), 16);
+    QVERIFY(QRegularExpression(QStringLiteral("^[0-9a-z]{16}$")).match(a).hasMatch());
+    QVERIFY(a != makeRandomName(16));
+}
+
+void TestHelpers::digest_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("form");
+    QTest::addColumn<QString>("digest");
+    QTest::newRow("factory password") << "628413" << 16 << "c6363a424fa0677a";
+    QTest::newRow("full form") << "628413" << 32 << "9a475f31c6363a424fa0677a3670f77b";
+    QTest::newRow("blanks trimmed") << "  abc  " << 16 << "3cd24fb0d6963f7d";
+    QTest::newRow("same as untrimmed") << "abc" << 16 << "3cd24fb0d6963f7d";
+    QTest::newRow("empty") << "" << 32 << "d41d8cd98f00b204e9800998ecf8427e";
+}
+
+void TestHelpers::digest() {
+    QFETCH(QString, text);
+    QFETCH(int, form);
+    QFETCH(QString, digest);
+    QCOMPARE(md5(text, form), digest);
+}
+
+void TestHelpers::selectComboFallsBackToTheFirstItem_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("index");
+    QTest::newRow("match with blanks in the item") << "B" << 1;
+    QTest::newRow("last item") << "C" << 2;
+    QTest::newRow("no match") << "Z" << 0;
+}
+
+void TestHelpers::selectComboFallsBackToTheFirstItem() {
+    QFETCH(QString, text);
+    QFETCH(int, index);
+    QComboBox combo;
+    combo.addItems({"A", " B ", "C"});
+    combo.setCurrentIndex(2);
+    selectCombo(&combo, text);
+    QCOMPARE(combo.currentIndex(), index);
+}
+
+void TestHelpers::centerFormNeverLeavesTheScreen() {
+    QWidget console;
+    console.setGeometry(0, 0, 200, 100);
+    setConsoleWindow(&console);
+    QWidget dialog;
+    dialog.resize(600, 400);
+    centerForm(&dialog);
+    QCOMPARE(dialog.pos(), QPoint(0, 0));
+    console.setGeometry(100, 100, 757, 448);
+    dialog.resize(357, 248);
+    centerForm(&dialog);
+    QCOMPARE(dialog.pos(), console.frameGeometry().topLeft() + QPoint(200, 100));
+    setConsoleWindow(nullptr);
+}
+
+QTEST_MAIN(TestHelpers)
+#include "tst_helpers.moc"

@@ -1,0 +1,182 @@
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "core/profile.h"
+
+namespace {
+
+QByteArray readAll(const QString &file) {
+    QFile f(file);
+    f.open(QIODevice::ReadOnly);
+    return f.readAll();
+}
+
+void writeAll(const QString &file, const QByteArray &bytes) {
+    QFile f(file);
+    f.open(QIODevice::WriteOnly | QIODevice::Truncate);
+    f.write(bytes);
+}
+
+}  // namespace
+
+class TestProfile : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void reading_data();
+    void reading();
+    void writingKeepsTheRestOfTheFile_data();
+    void writingKeepsTheRestOfTheFile();
+    void writtenValuesReadBack_data();
+    void writtenValuesReadBack();
+    void longValuesAndNulCharacters();
+
+private:
+    QTemporaryDir m_dir;
+    QString file() const { return m_dir.filePath(QStringLiteral("config.ini")); }
+};
+
+void TestProfile::reading_data() {
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("section");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("expected");
+
+    const QByteArray basic = "[main]\nBT1=年会\nluckDelay=\n[music]\nBT1=other\n";
+    QTest::newRow("plain") << basic << "main"
+                           << "BT1" << QStringLiteral("年会");
+    QTest::newRow("empty value") << basic << "main"
+                                 << "luckDelay"
+                                 << "";
+    QTest::newRow("missing key") << basic << "main"
+                                 << "nothing"
+                                 << "";
+    QTest::newRow("missing section") << basic << "other"
+                                     << "BT1"
+                                     << "";
+    QTest::newRow("other section") << basic << "music"
+                                   << "BT1"
+                                   << "other";
+    QTest::newRow("any case") << basic << "MAIN"
+                              << "bt1" << QStringLiteral("年会");
+    QTest::newRow("first equals splits") << QByteArray("[main]\nBT1=a=b;c\n") << "main"
+                                         << "BT1"
+                                         << "a=b;c";
+    QTest::newRow("blanks dropped") << QByteArray("[main]\n  BT1 =   x y  \n") << "main"
+                                    << "BT1"
+                                    << "x y";
+    QTest::newRow("double quotes dropped") << QByteArray("[main]\nBT1=\"  quoted \"\n") << "main"
+                                           << "BT1"
+                                           << "  quoted ";
+    QTest::newRow("single quotes dropped") << QByteArray("[main]\nBT1='x'\n") << "main"
+                                           << "BT1"
+                                           << "x";
+    QTest::newRow("unmatched quotes stay") << QByteArray("[main]\nBT1=\"x'\n") << "main"
+                                           << "BT1"
+                                           << "\"x'";
+    QTest::newRow("CR LF lines") << QByteArray("[main]\r\nBT1=v\r\nBT2=w\r\n") << "main"
+                                 << "BT2"
+                                 << "w";
+    QTest::newRow("byte-order mark") << QByteArray("\xEF\xBB\xBF[main]\nBT1=v\n") << "main"
+                                     << "BT1"
+                                     << "v";
+    QTest::newRow("comment is no key") << QByteArray("[main]\n;BT1=no\n") << "main"
+                                       << "BT1"
+                                       << "";
+}
+
+void TestProfile::reading() {
+    QFETCH(QByteArray, content);
+    QFETCH(QString, section);
+    QFETCH(QString, key);
+    QFETCH(QString, expected);
+    writeAll(file(), content);
+    QCOMPARE(readIni(section, key, file()), expected);
+}
+
+void TestProfile::writingKeepsTheRestOfTheFile_data() {
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QString>("section");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QByteArray>("after");
+
+    const QByteArray base = "; settings\n[main]\nBT1=a\nmyOwnKey=keep\nselJxid=0\n\n[music]\nx=1\n";
+    QTest::newRow("replace in place")
+        << base << "main"
+        << "selJxid"
+        << "7"
+        << QByteArray("; settings\n[main]\nBT1=a\nmyOwnKey=keep\nselJxid=7\n\n[music]\nx=1\n");
+    QTest::newRow("replace keeps case of nothing else")
+        << base << "main"
+        << "bt1"
+        << "b"
+        << QByteArray("; settings\n[main]\nbt1=b\nmyOwnKey=keep\nselJxid=0\n\n[music]\nx=1\n");
+    QTest::newRow("new key at end of its section")
+        << base << "main"
+        << "newKey"
+        << "v"
+        << QByteArray(
+               "; settings\n[main]\nBT1=a\nmyOwnKey=keep\nselJxid=0\nnewKey=v\n\n[music]\nx=1\n");
+    QTest::newRow("new section at end")
+        << base << "extra"
+        << "k"
+        << "v"
+        << QByteArray(
+               "; "
+               "settings\n[main]\nBT1=a\nmyOwnKey=keep\nselJxid=0\n\n[music]\nx=1\n[extra]\nk=v\n");
+    QTest::newRow("CR LF kept") << QByteArray("[main]\r\nBT1=a\r\n") << "main"
+                                << "BT1"
+                                << "b" << QByteArray("[main]\r\nBT1=b\r\n");
+    QTest::newRow("byte-order mark kept") << QByteArray("\xEF\xBB\xBF[main]\nBT1=a\n") << "main"
+                                          << "BT1"
+                                          << "b" << QByteArray("\xEF\xBB\xBF[main]\nBT1=b\n");
+    QTest::newRow("file created") << QByteArray() << "main"
+                                  << "BT1" << QStringLiteral("标题")
+                                  << QStringLiteral("[main]\nBT1=标题\n").toUtf8();
+}
+
+void TestProfile::writingKeepsTheRestOfTheFile() {
+    QFETCH(QByteArray, before);
+    QFETCH(QString, section);
+    QFETCH(QString, key);
+    QFETCH(QString, value);
+    QFETCH(QByteArray, after);
+    QFile::remove(file());
+    if (!before.isEmpty()) writeAll(file(), before);
+    QVERIFY(writeIni(section, key, value, file()));
+    QCOMPARE(readAll(file()), after);
+}
+
+void TestProfile::writtenValuesReadBack_data() {
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("readBack");
+    QTest::newRow("semicolon and equals") << "a=b;c=d"
+                                          << "a=b;c=d";
+    QTest::newRow("chinese") << QStringLiteral("新年快乐！") << QStringLiteral("新年快乐！");
+    QTest::newRow("blanks around are lost") << "  title  "
+                                            << "title";
+    QTest::newRow("matching quotes are lost") << "\"title\""
+                                              << "title";
+    QTest::newRow("empty") << ""
+                           << "";
+}
+
+void TestProfile::writtenValuesReadBack() {
+    QFETCH(QString, value);
+    QFETCH(QString, readBack);
+    writeAll(file(), "[main]\nBT1=x\n");
+    writeIni(QStringLiteral("main"), QStringLiteral("BT1"), value, file());
+    QCOMPARE(readIni(QStringLiteral("main"), QStringLiteral("BT1"), file()), readBack);
+}
+
+void TestProfile::longValuesAndNulCharacters() {
+    writeAll(file(),
+             "[main]\nBT1=" + QByteArray(12000, 'x') + "\nBT2=a" + QByteArray(1, '\0') + "b\n");
+    QCOMPARE(readIni(QStringLiteral("main"), QStringLiteral("BT1"), file()).size(), 10000);
+    QCOMPARE(readIni(QStringLiteral("main"), QStringLiteral("BT2"), file()), QStringLiteral("ab"));
+}
+
+QTEST_GUILESS_MAIN(TestProfile)
+#include "tst_profile.moc"

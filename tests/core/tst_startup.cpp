@@ -1,0 +1,158 @@
+#include <QFile>
+#include <QLockFile>
+#include <QStandardPaths>
+#include <QtTest>
+
+#include "core/appstate.h"
+#include "core/programfolder.h"
+#include "core/settings.h"
+#include "core/startup.h"
+#include "core/store.h"
+#include "support/scriptedui.h"
+#include "support/tempprogramfolder.h"
+
+class TestStartup : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_ui = installScriptedUi(); }
+    void startsOnTheFactoryFolder();
+    void loadErrors_data();
+    void loadErrors();
+    void missingStoreIsALoadErrorAndStaysMissing();
+    void secondInstanceIsRefused();
+    void settingsWriterUpdatesFileAndMirror();
+    void programFolderResolution();
+
+private:
+    ScriptedUi *m_ui = nullptr;
+};
+
+void TestStartup::startsOnTheFactoryFolder() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    QVERIFY(m_ui->records.isEmpty());
+    const AppState &state = appState();
+    QCOMPARE(state.appPath, folder.path());
+    QVERIFY(state.appPath.endsWith(QLatin1Char('/')));
+    QCOMPARE(state.iniPath, folder.path(QStringLiteral("config.ini")));
+    QCOMPARE(state.maxImgWidth, qint16(200));
+    QCOMPARE(state.maxImgHeight, qint16(200));
+    QCOMPARE(state.luckType, qint16(0));
+    QCOMPARE(state.guideHide, qint16(0));
+    QCOMPARE(state.timeProtectNum, qint16(3));
+    QCOMPARE(state.hideReStr, QStringLiteral("*"));
+    QVERIFY(!state.BT1.isEmpty());
+    QCOMPARE(state.title1, state.BT1);
+    QCOMPARE(state.title2, state.BT2);
+    QVERIFY(store::mainConn().isOpen());
+}
+
+void TestStartup::loadErrors_data() {
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("value");  // null: remove the key
+    QTest::addColumn<QString>("inMessage");
+    QTest::newRow("missing key") << "selJxid" << QString() << "selJxid";
+    QTest::newRow("empty luckDelay") << "luckDelay"
+                                     << ""
+                                     << "luckDelay";
+    QTest::newRow("not a number") << "maxImgWidth"
+                                  << "wide"
+                                  << "maxImgWidth";
+    QTest::newRow("beyond 16 bits") << "hideLeft"
+                                    << "40000"
+                                    << "hideLeft";
+    QTest::newRow("a fraction") << "timeProtectNum"
+                                << "2.5"
+                                << "timeProtectNum";
+}
+
+void TestStartup::loadErrors() {
+    QFETCH(QString, key);
+    QFETCH(QString, value);
+    QFETCH(QString, inMessage);
+    TempProgramFolder folder;
+    if (value.isNull())
+        folder.removeConfigKey(key);
+    else
+        folder.setConfig(QStringLiteral("main"), key, value);
+    QVERIFY(!folder.start());
+    QCOMPARE(m_ui->records.size(), 1);
+    QCOMPARE(m_ui->last().title, QStringLiteral("加载错误"));
+    QCOMPARE(m_ui->last().style, MsgStyle::Critical);
+    QVERIFY2(m_ui->last().text.contains(inMessage), qPrintable(m_ui->last().text));
+    QVERIFY(m_ui->openedUrls.isEmpty());
+    QVERIFY(!store::mainConn().isOpen());
+}
+
+void TestStartup::missingStoreIsALoadErrorAndStaysMissing() {
+    for (const QString &lost : {QStringLiteral("quellio.db"), QStringLiteral("sys/preview.qml")}) {
+        TempProgramFolder folder;
+        QVERIFY(QFile::remove(folder.path(lost)));
+        QVERIFY(!folder.start());
+        QCOMPARE(m_ui->last().title, QStringLiteral("加载错误"));
+        QVERIFY(m_ui->last().text.contains(lost));
+        QVERIFY(!QFile::exists(folder.path(lost)));
+        m_ui->clear();
+    }
+}
+
+void TestStartup::secondInstanceIsRefused() {
+    TempProgramFolder folder;
+    QLockFile other(folder.path(QStringLiteral("quellio.lock")));
+    QVERIFY(other.tryLock(0));
+    QVERIFY(!folder.start());
+    QCOMPARE(m_ui->last().text, QStringLiteral("程序已经在运行!!"));
+    QCOMPARE(m_ui->last().title, QStringLiteral("提示"));
+    QCOMPARE(m_ui->last().style, MsgStyle::Exclamation);
+    other.unlock();
+    m_ui->clear();
+    QVERIFY(folder.start());
+    QVERIFY(m_ui->records.isEmpty());
+}
+
+void TestStartup::settingsWriterUpdatesFileAndMirror() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    settings::write(QStringLiteral("selJxid"), 12);
+    settings::write(QStringLiteral("hideReStr"), QStringLiteral("某"));
+    QCOMPARE(appState().selJxid, qint16(12));
+    QCOMPARE(appState().hideReStr, QStringLiteral("某"));
+    shutDown();
+    resetAppState();
+    QVERIFY(folder.start());
+    QCOMPARE(appState().selJxid, qint16(12));
+    QCOMPARE(appState().hideReStr, QStringLiteral("某"));
+}
+
+void TestStartup::programFolderResolution() {
+    QTemporaryDir root;
+    const QString bin = root.filePath(QStringLiteral("bin"));
+    QDir().mkpath(bin);
+    qputenv("XDG_DATA_HOME", root.filePath(QStringLiteral("userdata")).toUtf8());
+    qunsetenv("QUELLIO_HOME");
+
+    // Installed: no config.ini beside the binary, nothing seeded yet, no factory files.
+    QCOMPARE(programfolder::resolve(bin), QString());
+
+    // With the factory files installed, the per-user folder is seeded from them.
+    QVERIFY(programfolder::copyTree(QStringLiteral(QUELLIO_FACTORY_DIR),
+                                    programfolder::factoryDir(bin)));
+    const QString user = programfolder::resolve(bin);
+    QVERIFY(user.startsWith(root.filePath(QStringLiteral("userdata"))));
+    QVERIFY(QFile::exists(user + QStringLiteral("quellio.db")));
+    QVERIFY(QFile::exists(user + QStringLiteral("History")));
+
+    // A portable copy: config.ini beside the binary wins.
+    QFile::copy(user + QStringLiteral("config.ini"), bin + QStringLiteral("/config.ini"));
+    QCOMPARE(programfolder::resolve(bin), bin + QLatin1Char('/'));
+
+    // QUELLIO_HOME wins over everything.
+    qputenv("QUELLIO_HOME", root.filePath(QStringLiteral("elsewhere")).toUtf8());
+    QCOMPARE(programfolder::resolve(bin), root.filePath(QStringLiteral("elsewhere/")));
+    qunsetenv("QUELLIO_HOME");
+    qunsetenv("XDG_DATA_HOME");
+}
+
+QTEST_MAIN(TestStartup)
+#include "tst_startup.moc"

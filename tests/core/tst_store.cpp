@@ -1,0 +1,135 @@
+#include <QFile>
+#include <QSqlQuery>
+#include <QtTest>
+
+#include "core/store.h"
+#include "support/tempprogramfolder.h"
+
+class TestStore : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void nextIdLooksOnlyAtTheTopRow();
+    void duplicates_data();
+    void duplicates();
+    void likePatternsEscapeWildcards();
+    void missingStoreIsNotCreated();
+    void storeIsDurable();
+    void oldStoreIsUpgraded();
+};
+
+void TestStore::nextIdLooksOnlyAtTheTopRow() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    const QString table = QStringLiteral("UserList");
+    const QString id = QStringLiteral("ID");
+    QCOMPARE(store::getNextID(table, id), 1);
+    folder.addUsers({"a", "b", "c"});
+    QCOMPARE(store::getNextID(table, id), 4);
+    store::exec(folder.db(), QStringLiteral("DELETE FROM UserList WHERE ID=3"));
+    QCOMPARE(store::getNextID(table, id), 3);
+    store::exec(folder.db(), QStringLiteral("DELETE FROM UserList WHERE ID=1"));
+    QCOMPARE(store::getNextID(table, id), 3);
+}
+
+void TestStore::duplicates_data() {
+    QTest::addColumn<QString>("column2");
+    QTest::addColumn<QString>("value1");
+    QTest::addColumn<QString>("value2");
+    QTest::addColumn<int>("exceptId");
+    QTest::addColumn<bool>("duplicate");
+    QTest::newRow("name and part") << "UserPart"
+                                   << "张三"
+                                   << "研发部" << 0 << true;
+    QTest::newRow("same name other part") << "UserPart"
+                                          << "张三"
+                                          << "市场部" << 0 << false;
+    QTest::newRow("value2 Null compares the name only") << "UserPart"
+                                                        << "张三"
+                                                        << "Null" << 0 << true;
+    QTest::newRow("column2 Null compares the name only") << "Null"
+                                                         << "张三"
+                                                         << "x" << 0 << true;
+    QTest::newRow("own row excepted") << "UserPart"
+                                      << "张三"
+                                      << "研发部" << 1 << false;
+    QTest::newRow("quote in a name") << "UserPart"
+                                     << "O'Brien"
+                                     << "" << 0 << true;
+    QTest::newRow("unknown") << "Null"
+                             << "李四"
+                             << "Null" << 0 << false;
+}
+
+void TestStore::duplicates() {
+    QFETCH(QString, column2);
+    QFETCH(QString, value1);
+    QFETCH(QString, value2);
+    QFETCH(int, exceptId);
+    QFETCH(bool, duplicate);
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({QStringLiteral("张三|研发部"), QStringLiteral("O'Brien|")});
+    QCOMPARE(store::isDuplicate(QStringLiteral("UserList"), QStringLiteral("UserName"), column2,
+                                value1, value2, exceptId),
+             duplicate);
+}
+
+void TestStore::likePatternsEscapeWildcards() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"折扣50%", "折扣500", "a_b", "axb"});
+    const auto count = [&](const QString &text) {
+        return store::scalar(folder.db(),
+                             QStringLiteral("SELECT COUNT(*) FROM UserList WHERE UserName LIKE ? "
+                                            "ESCAPE '\\'"),
+                             {store::containsPattern(text)})
+            .toInt();
+    };
+    QCOMPARE(count(QStringLiteral("50%")), 1);
+    QCOMPARE(count(QStringLiteral("a_b")), 1);
+    QCOMPARE(count(QStringLiteral("折扣")), 2);
+    QCOMPARE(store::awardPattern(12), QStringLiteral("%|12|%"));
+    QCOMPARE(store::awardMarker(3), QStringLiteral("|3|"));
+}
+
+void TestStore::missingStoreIsNotCreated() {
+    TempProgramFolder folder;
+    const QString path = folder.path(QStringLiteral("nothing.db"));
+    QString error;
+    QVERIFY(!store::open(path, &error, QStringLiteral("probe")));
+    QVERIFY(error.contains(path));
+    QVERIFY(!QFile::exists(path));
+}
+
+void TestStore::storeIsDurable() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    QCOMPARE(store::scalar(folder.db(), QStringLiteral("PRAGMA journal_mode")).toString(),
+             QStringLiteral("wal"));
+    QCOMPARE(store::scalar(folder.db(), QStringLiteral("PRAGMA synchronous")).toInt(), 2);
+    QCOMPARE(store::nowText().size(), 19);
+    QCOMPARE(store::dateText(QDateTime(QDate(2026, 1, 2), QTime(3, 4, 5))),
+             QStringLiteral("2026-01-02 03:04:05"));
+}
+
+void TestStore::oldStoreIsUpgraded() {
+    TempProgramFolder folder;
+    const QString path = folder.path(QStringLiteral("old.db"));
+    QString error;
+    QVERIFY(store::openTemplate(path, QStringLiteral("old"), &error, true));
+    QVERIFY(store::exec(QSqlDatabase::database(QStringLiteral("old")),
+                        QStringLiteral("CREATE TABLE UserList (ID INTEGER PRIMARY KEY, UserName "
+                                       "TEXT, UserPart TEXT, UserPhoto TEXT, DiffNum INTEGER, "
+                                       "UserStatus INTEGER, JxID TEXT, UpdateTime TEXT)")));
+    store::close(QStringLiteral("old"));
+    QVERIFY2(store::open(path, &error, QStringLiteral("old")), qPrintable(error));
+    QSqlDatabase db = QSqlDatabase::database(QStringLiteral("old"));
+    QCOMPARE(store::scalar(db, QStringLiteral("PRAGMA user_version")).toInt(),
+             store::kSchemaVersion);
+    QVERIFY(db.tables().contains(QStringLiteral("JPList")));
+    store::close(QStringLiteral("old"));
+}
+
+QTEST_GUILESS_MAIN(TestStore)
+#include "tst_store.moc"
