@@ -132,10 +132,7 @@ bool copyConfig(const QString &data, const QString &out) {
 }
 
 // About 200 distinct Chinese names with departments, and three awards, for trying things out.
-bool fillDemo(const QString &out, QString *error) {
-    const QString connection = QStringLiteral("factory-demo");
-    if (!store::openTemplate(out + QStringLiteral("/quellio.db"), connection, error)) return false;
-    QSqlDatabase db = QSqlDatabase::database(connection);
+bool fillDemoRows(QSqlDatabase db) {
     const QStringList surnames = QStringLiteral(
                                      "王 李 张 刘 陈 杨 黄 赵 吴 周 徐 孙 马 朱 胡 郭 何 高 林 罗 "
                                      "郑 梁 谢 宋 唐 许 韩 冯 邓 曹 "
@@ -169,7 +166,13 @@ bool fillDemo(const QString &out, QString *error) {
     store::exec(db, award, {1, QStringLiteral("三等奖"), 30, 3, QStringLiteral("蓝牙耳机"), 1});
     store::exec(db, award, {2, QStringLiteral("二等奖"), 10, 2, QStringLiteral("平板电脑"), 2});
     store::exec(db, award, {3, QStringLiteral("一等奖"), 3, 1, QStringLiteral("笔记本电脑"), 3});
-    const bool ok = db.commit();
+    return db.commit();
+}
+
+bool fillDemo(const QString &out, QString *error) {
+    const QString connection = QStringLiteral("factory-demo");
+    if (!store::openTemplate(out + QStringLiteral("/quellio.db"), connection, error)) return false;
+    const bool ok = fillDemoRows(QSqlDatabase::database(connection));
     store::close(connection);
     return ok;
 }
