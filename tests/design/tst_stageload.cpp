@@ -1,0 +1,335 @@
+#include <QDir>
+#include <QFile>
+#include <QSqlQuery>
+#include <QtTest>
+
+#include "core/appstate.h"
+#include "core/store.h"
+#include "design/stageload.h"
+#include "stage/protocol.h"
+#include "support/recordingstage.h"
+#include "support/scriptedui.h"
+#include "support/tempprogramfolder.h"
+
+using namespace design;
+
+Q_DECLARE_METATYPE(design::Reader)
+
+// Templates read from .jsk files and pushed onto a recording stage, as the three screens do.
+class TestStageLoad : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void factoryTemplatesUseNoDefault_data();
+    void factoryTemplatesUseNoDefault();
+    void fullLoadConversation_data();
+    void fullLoadConversation();
+    void hiddenOnlyTemplate_data();
+    void hiddenOnlyTemplate();
+    void missingRowsFallBack();
+    void missingPictureShowsTheBlock();
+    void prizePictureHead();
+    void refreshOneObject();
+    void loadBlockFromTheTemplate();
+    void userPicturesAndKeys();
+
+private:
+    // Runs statements on a template of the folder, as an editor would have left it.
+    static void editTemplate(const QString &path, const QStringList &statements);
+};
+
+namespace {
+
+const QString k43 = QStringLiteral("skin/通用模板（4:3).jsk");
+
+}  // namespace
+
+void TestStageLoad::editTemplate(const QString &path, const QStringList &statements) {
+    QString error;
+    QVERIFY2(store::openTemplate(path, QStringLiteral("edit"), &error), qPrintable(error));
+    for (const QString &sql : statements)
+        QVERIFY(store::exec(QSqlDatabase::database(QStringLiteral("edit")), sql));
+    store::close(QStringLiteral("edit"));
+}
+
+void TestStageLoad::factoryTemplatesUseNoDefault_data() {
+    QTest::addColumn<QString>("file");
+    TempProgramFolder folder;
+    const QStringList files = QDir(folder.path(QStringLiteral("skin"))).entryList({"*.jsk"});
+    QVERIFY(files.size() >= 2);
+    for (const QString &file : files)
+        QTest::newRow(qPrintable(file)) << QStringLiteral("skin/") + file;
+}
+
+void TestStageLoad::factoryTemplatesUseNoDefault() {
+    QFETCH(QString, file);
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    TemplateData data;
+    QString error;
+    QVERIFY2(readTemplateFile(folder.path(file), &data, &error), qPrintable(error));
+    QCOMPARE(data.defaultsUsed, QStringList());
+    QVERIFY(data.bg.found && data.blockValue.found && data.playTitle.found && data.playName.found);
+    QCOMPARE(data.objects.size(), 8);
+    for (const Reader reader : {Reader::Console, Reader::Designer, Reader::Draw}) {
+        RecordingStage stage;
+        const LoadReport report = fullLoad(stage, data, contextFor(reader));
+        QCOMPARE(report.defaultsUsed, QStringList());
+        // Every system object reaches the stage; only the empty prize picture is a block.
+        QVERIFY(report.sentNames.contains(sysobj::ssm_vornex));
+        QCOMPARE(report.blockPictures,
+                 reader == Reader::Designer ? QStringList{sysobj::img_jpimgs} : QStringList());
+        QCOMPARE(report.prizePictureHead.isEmpty(), reader != Reader::Draw);
+    }
+    // The connection was for this task only.
+    QVERIFY(!QSqlDatabase::contains(QStringLiteral("quellio.template.read")));
+}
+
+void TestStageLoad::fullLoadConversation_data() {
+    QTest::addColumn<Reader>("reader");
+    QTest::addColumn<QStringList>("lines");
+    // The factory 4:3 template's text objects; the designer and the draw screen add lineHeight,
+    // txtAlign and isShadown. "@" stands for the program folder.
+    const QString obj = QStringLiteral("|100|0x000000|0|0|box|");
+    const QStringList texts{
+        "false|txt_zbt|1|312|28" + obj + "2026年度盛典|黑体|0xFFE08A|52|true|false|false",
+        "false|txt_fbt|2|412|104" + obj + "幸运大抽奖|黑体|0xFFF4D6|28|false|false|false",
+        "false|txt_jxname|3|48|176" + obj + "$Name2|黑体|0xFFE08A|40|true|false|false",
+        "false|txt_jpname|4|48|236" + obj + "奖品：$Name1|黑体|0xFFFFFF|24|false|false|false",
+        "false|txt_jpinfo|5|48|276" + obj +
+            "名额 $1 名，剩余 $2 名|黑体|0xFFF4D6|20|false|false|"
+            "false"};
+    const QStringList tails{"|0|center|1", "|0|center|1", "|0|left|1", "|0|left|0", "|0|left|0"};
+    const QString scroll = QStringLiteral(
+        "vbAddStxt=false|scr_luckls|8|0|48|700|928|40|0x000000|30|round|8||100|黑体|0xFFE08A|20|"
+        "false|false|false|3");
+    const auto withTexts = [&](QStringList lines, bool full) {
+        lines << QStringLiteral("ClsPage=yes");
+        for (int i = 0; i < texts.size(); ++i)
+            lines << "vbAddTxt=" + texts[i] + (full ? tails[i] : QString());
+        return lines;
+    };
+
+    // The console: scale and colour (no picture is set), short forms, the long draw area, and
+    // the prize picture without a file test.
+    QTest::newRow("console")
+        << Reader::Console
+        << (withTexts({"vbSetScale=23.046875", "setAsBgColor=1024|768|0x9E1B22"}, false)
+            << "vbAddImg=false|img_jpimgs|6|48|320|280|210|100|true|@"
+            << "vbAddJpBox=ssm_vornex|360|168|616|500|7|黑体|0xB0171F|30|true|false|false"
+            << scroll);
+    // The designer: the empty prize picture shows as the block; getAsDepth last.
+    QTest::newRow("designer")
+        << Reader::Designer
+        << (withTexts({"setAsBgColor=1024|768|0x9E1B22", "setAsBgImg=@|1024|768"}, true)
+            << "vbAddImg=false|img_jpimgs|6|48|320|128|128|100|true|@skin/Src/block.png"
+            << "vbAddJpBox=ssm_vornex|360|168|616|500|7" << scroll + "|0"
+            << "getAsDepth=true");
+    // The draw screen: luckDelay after the colour, the prize picture kept back.
+    QTest::newRow("draw")
+        << Reader::Draw
+        << (withTexts({"setAsBgColor=1024|768|0x9E1B22|10", "setAsBgImg=@|1024|768"}, true)
+            << "vbAddJpBox=ssm_vornex|360|168|616|500|7" << scroll + "|0");
+}
+
+void TestStageLoad::fullLoadConversation() {
+    QFETCH(Reader, reader);
+    QFETCH(QStringList, lines);
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    RecordingStage stage;
+    LoadReport report;
+    QVERIFY(loadTemplateFile(stage, folder.path(k43), contextFor(reader), &report));
+    QStringList expected;
+    for (QString line : lines)
+        expected << line.replace(QLatin1Char('@'), folder.path());
+    QCOMPARE(stage.lines(), expected);
+}
+
+void TestStageLoad::hiddenOnlyTemplate_data() {
+    QTest::addColumn<Reader>("reader");
+    QTest::addColumn<QStringList>("lines");
+    QTest::newRow("console") << Reader::Console
+                             << QStringList{"vbSetScale=23.046875",
+                                            "setAsBgColor=1024|768|0x9E1B22", "ClsPage=yes"};
+    QTest::newRow("designer") << Reader::Designer
+                              << QStringList{"setAsBgColor=1024|768|0x9E1B22",
+                                             "setAsBgImg=@|1024|768", "ClsPage=yes",
+                                             "getAsDepth=true"};
+    QTest::newRow("draw") << Reader::Draw
+                          << QStringList{"setAsBgColor=1024|768|0x9E1B22|10",
+                                         "setAsBgImg=@|1024|768", "ClsPage=yes"};
+}
+
+void TestStageLoad::hiddenOnlyTemplate() {
+    QFETCH(Reader, reader);
+    QFETCH(QStringList, lines);
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    editTemplate(folder.path(k43), {"UPDATE LuckObj SET isVisible=0"});
+    RecordingStage stage;
+    LoadReport report;
+    QVERIFY(loadTemplateFile(stage, folder.path(k43), contextFor(reader), &report));
+    QStringList expected;
+    for (QString line : lines)
+        expected << line.replace(QLatin1Char('@'), folder.path());
+    QCOMPARE(stage.lines(), expected);
+    QVERIFY(report.sentNames.isEmpty());
+    QVERIFY(report.prizePictureHead.isEmpty());
+}
+
+void TestStageLoad::missingRowsFallBack() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    editTemplate(folder.path(k43),
+                 {"DELETE FROM LuckBg", "DELETE FROM LuckPlay",
+                  "UPDATE LuckObj SET fFont=NULL, SrcV=NULL WHERE ObjName='txt_zbt'"});
+    TemplateData data;
+    QVERIFY(readTemplateFile(folder.path(k43), &data));
+    // A NULL in a column the text kind does not use (SrcV) is no default.
+    QCOMPARE(data.defaultsUsed,
+             (QStringList{"LuckBg", "LuckObj:txt_zbt.fFont", "LuckPlay:blockValue",
+                          "LuckPlay:playTitle", "LuckPlay:playName"}));
+    QCOMPARE(data.objects.first().fFont, QStringLiteral("宋体"));
+    QVERIFY(!data.playTitle.found);
+    QCOMPARE(data.playTitle.boxW, 70);
+    QCOMPARE(data.playName.BgColor, QStringLiteral("0xFFFFFF"));
+
+    // The console tells the operator itself and sends nothing; the designer skips the page.
+    RecordingStage console;
+    QVERIFY(!fullLoad(console, data, contextFor(Reader::Console)).bgFound);
+    QVERIFY(console.calls.isEmpty());
+    RecordingStage designer;
+    fullLoad(designer, data, contextFor(Reader::Designer));
+    QCOMPARE(designer.names().first(), proto::ClsPage);
+    QVERIFY(!designer.names().contains(proto::setAsBgColor));
+
+    // A file that is no template is reported, not read.
+    QString error;
+    QVERIFY(!readTemplateFile(folder.path(QStringLiteral("skin/none.jsk")), &data, &error));
+    QVERIFY(!error.isEmpty());
+}
+
+void TestStageLoad::missingPictureShowsTheBlock() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    editTemplate(folder.path(k43),
+                 {"INSERT INTO LuckObj (ObjName, ObjType, ObjDepth, ObjX, ObjY, ObjW, ObjH, "
+                  "ObjAlpha, isImgFilter, ImgPath) VALUES ('img_0000aaaa1111bbbb', 'vbAddImg', 9, "
+                  "50, 60, 300, 200, 90, 'false', 'skin\\sPhoto\\imgmissing.png')",
+                  "INSERT INTO LuckObj (ObjName, ObjType, ObjDepth, ObjX, ObjY, ImgPath) VALUES "
+                  "('swf_0000aaaa1111bbbb', 'vbAddSwf', 10, 70, 80, 'skin/sPhoto/swfgone.gif')"});
+    const QString block = folder.path(QStringLiteral("skin/Src/block.png"));
+    RecordingStage stage;
+    QVERIFY(loadTemplateFile(stage, folder.path(k43), contextFor(Reader::Designer)));
+    QCOMPARE(stage.values(proto::vbAddImg).last(),
+             "false|img_0000aaaa1111bbbb|9|50|60|128|128|90|false|" + block);
+    QCOMPARE(stage.values(proto::vbAddSwf),
+             QStringList{"false|swf_0000aaaa1111bbbb|10|70|80|128|128|" + block});
+    // The stored size stays as it was.
+    QString error;
+    QVERIFY(store::openTemplate(folder.path(k43), QStringLiteral("check"), &error));
+    QCOMPARE(store::scalar(QSqlDatabase::database(QStringLiteral("check")),
+                           QStringLiteral("SELECT ObjW || 'x' || ObjH FROM LuckObj WHERE "
+                                          "ObjName='img_0000aaaa1111bbbb'"))
+                 .toString(),
+             QStringLiteral("300x200"));
+    store::close(QStringLiteral("check"));
+
+    // With the file back, the row's own size and the path with "/" go out.
+    QVERIFY(QFile::copy(block, folder.path(QStringLiteral("skin/sPhoto/imgmissing.png"))));
+    RecordingStage again;
+    QVERIFY(loadTemplateFile(again, folder.path(k43), contextFor(Reader::Draw)));
+    QCOMPARE(again.values(proto::vbAddImg),
+             QStringList{"false|img_0000aaaa1111bbbb|9|50|60|300|200|90|false|" +
+                         folder.path(QStringLiteral("skin/sPhoto/imgmissing.png"))});
+    // The console shows no animations.
+    RecordingStage console;
+    QVERIFY(loadTemplateFile(console, folder.path(k43), contextFor(Reader::Console)));
+    QVERIFY(console.values(proto::vbAddSwf).isEmpty());
+}
+
+void TestStageLoad::prizePictureHead() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    TemplateData data;
+    QVERIFY(readTemplateFile(folder.path(k43), &data));
+    const QString head = QStringLiteral("false|img_jpimgs|6|48|320|280|210|100|true|");
+    QCOMPARE(design::prizePictureHead(data), head);
+    RecordingStage stage;
+    QCOMPARE(fullLoad(stage, data, contextFor(Reader::Draw)).prizePictureHead, head);
+    QVERIFY(!stage.lines().join('\n').contains(QLatin1String("img_jpimgs")));
+
+    editTemplate(folder.path(k43), {"UPDATE LuckObj SET isVisible=0 WHERE ObjName='img_jpimgs'"});
+    QVERIFY(readTemplateFile(folder.path(k43), &data));
+    QCOMPARE(design::prizePictureHead(data), QString());
+}
+
+void TestStageLoad::refreshOneObject() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    editTemplate(folder.path(k43), {"UPDATE LuckObj SET isVisible=0 WHERE ObjName='txt_jpinfo'",
+                                    "UPDATE LuckObj SET fTxt='ignored' WHERE ObjName='txt_zbt'"});
+    QVERIFY(store::openTemplate(folder.path(k43), QStringLiteral("skinConn"), nullptr));
+    const PayloadContext context = contextFor(Reader::Designer);
+    RecordingStage stage;
+    {
+        const QSqlDatabase db = QSqlDatabase::database(QStringLiteral("skinConn"));
+        for (const QString &name :
+             {sysobj::ssm_vornex, sysobj::txt_zbt, sysobj::txt_jpinfo, QStringLiteral("txt_gone")})
+            refreshObject(stage, db, name, context);
+    }
+    store::close(QStringLiteral("skinConn"));
+    QCOMPARE(
+        stage.lines(),
+        (QStringList{"vbAddJpBox=ssm_vornex|360|168|616|500|7|黑体|0xB0171F|30|true|false|false",
+                     "vbAddTxt=false|txt_zbt|1|312|28|100|0x000000|0|0|box|2026年度盛典|黑体|"
+                     "0xFFE08A|52|true|false|false|0|center|1",
+                     "delObj=txt_jpinfo", "delObj=txt_gone"}));
+}
+
+void TestStageLoad::loadBlockFromTheTemplate() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    ScriptedUi *ui = installScriptedUi();
+    QCOMPARE(longestUserName(folder.db()), proto::demoText);
+    folder.addUsers({"张三", "欧阳娜娜", "司马相如", "李四"});
+    QCOMPARE(longestUserName(folder.db()), QStringLiteral("欧阳娜娜"));
+    QVERIFY(store::exec(folder.db(), "INSERT INTO UserList (ID, UserName) VALUES (9, ?)",
+                        {QStringLiteral("上官|婉儿$")}));
+    QCOMPARE(longestUserName(folder.db()), QStringLiteral("上官|婉儿$"));
+
+    LoadBlockValues values{longestUserName(folder.db()), 200, 180, 1, 3};
+    QCOMPARE(loadBlockValue(folder.path(k43), values),
+             QStringLiteral("上官‖婉儿＄|200|180|1|3|round|0xFFF4D6|92|14|14|12|"
+                            "黑体|0xB0171F|30|100|true|false|false|center|0|s|"));
+    QVERIFY(ui->records.isEmpty());
+
+    editTemplate(folder.path(k43), {"DELETE FROM LuckPlay WHERE ObjName='blockValue'"});
+    QCOMPARE(
+        loadBlockValue(folder.path(k43), values),
+        QStringLiteral("上官‖婉儿＄|200|180||黑体|0xFF0000|26|100|true|false|false|center|1|s|"));
+    QCOMPARE(ui->records.size(), 1);
+    QCOMPARE(ui->last().text, QStringLiteral("找不到抽奖滚动文字样式数据!"));
+    QCOMPARE(ui->last().title, QStringLiteral("错误"));
+    QCOMPARE(ui->last().style, MsgStyle::Critical);
+    QVERIFY(!QSqlDatabase::contains(QStringLiteral("quellio.template.block")));
+}
+
+void TestStageLoad::userPicturesAndKeys() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    const QList<int> ids = folder.addUsers({"张三", "李四", "王五"});
+    QVERIFY(store::exec(folder.db(), "UPDATE UserList SET UserPhoto=? WHERE ID=?",
+                        {QStringLiteral("Photos/U1.jpg"), ids[0]}));
+    QVERIFY(store::exec(folder.db(), "UPDATE UserList SET UserPhoto=? WHERE ID=?",
+                        {QStringLiteral("Photos\\U3.jpg"), ids[2]}));
+    QCOMPARE(loadAllUserPicsPayload(appState().appPath, userPhotos(folder.db())),
+             folder.path() + QStringLiteral("|Photos/U1.jpg$1|Photos/U3.jpg$3"));
+    QCOMPARE(keysPayload(keyCodes(folder.db())), QStringLiteral("32|32|8|46|69|80|76|77|70"));
+    QVERIFY(store::exec(folder.db(), "DELETE FROM KeyBoard WHERE KeyName='soundKey'"));
+    QCOMPARE(keysPayload(keyCodes(folder.db())), QStringLiteral("32|32|8|46|69|80|76|-1|70"));
+}
+
+QTEST_MAIN(TestStageLoad)
+#include "tst_stageload.moc"
