@@ -4,6 +4,9 @@
 #include <QSqlRecord>
 #include <QVariant>
 
+#include <algorithm>
+#include <initializer_list>
+
 #include "core/helpers.h"
 #include "core/store.h"
 #include "stage/protocol.h"
@@ -64,35 +67,39 @@ ObjRow objectFrom(const QSqlQuery &query, QStringList *defaults) {
     row.ObjName = name;
     row.ObjType = in.text(QStringLiteral("ObjType"), QString());
     const QString kind = kindOfType(row.ObjType, name);
-    const auto uses = [&kind](const char *kinds) {
-        return QString::fromLatin1(kinds).split(QLatin1Char(' ')).contains(kind);
+    // Whether the row's kind shows this column: only those count as defaults when NULL.
+    const auto uses = [&kind](std::initializer_list<const char *> kinds) {
+        return std::any_of(kinds.begin(), kinds.end(),
+                           [&kind](const char *each) { return kind == QLatin1String(each); });
     };
-    const bool textual = uses("txt scr");
+    const bool textual = uses({"txt", "scr"});
     row.ObjDepth = static_cast<qint16>(in.integer(QStringLiteral("ObjDepth"), 0));
-    row.ObjDirection = in.integer(QStringLiteral("ObjDirection"), 0, kind == QLatin1String("scr"));
+    row.ObjDirection = in.integer(QStringLiteral("ObjDirection"), 0, uses({"scr"}));
     row.ObjX = in.real(QStringLiteral("ObjX"), 0);
     row.ObjY = in.real(QStringLiteral("ObjY"), 0);
-    row.ObjW = in.integer(QStringLiteral("ObjW"), row.ObjW, uses("img swf scr ssm"));
-    row.ObjH = in.integer(QStringLiteral("ObjH"), row.ObjH, uses("img swf scr ssm"));
-    row.ObjAlpha = in.integer(QStringLiteral("ObjAlpha"), row.ObjAlpha, uses("txt img scr"));
+    row.ObjW = in.integer(QStringLiteral("ObjW"), row.ObjW, uses({"img", "swf", "scr", "ssm"}));
+    row.ObjH = in.integer(QStringLiteral("ObjH"), row.ObjH, uses({"img", "swf", "scr", "ssm"}));
+    row.ObjAlpha =
+        in.integer(QStringLiteral("ObjAlpha"), row.ObjAlpha, uses({"txt", "img", "scr"}));
     row.bgColor = in.text(QStringLiteral("bgColor"), row.bgColor, textual);
     row.bgAlpha = in.integer(QStringLiteral("bgAlpha"), row.bgAlpha, textual);
     row.borderNum = in.integer(QStringLiteral("borderNum"), row.borderNum, textual);
     row.borderType = in.text(QStringLiteral("borderType"), row.borderType, textual);
     row.fTxt = in.text(QStringLiteral("fTxt"), row.fTxt, textual);
-    const bool font = uses("txt scr ssm");
+    const bool font = uses({"txt", "scr", "ssm"});
     row.fFont = in.text(QStringLiteral("fFont"), row.fFont, font);
     row.fColor = in.text(QStringLiteral("fColor"), row.fColor, font);
     row.fSize = in.integer(QStringLiteral("fSize"), row.fSize, font);
     row.fBold = in.text(QStringLiteral("fBold"), row.fBold, font);
     row.fItalic = in.text(QStringLiteral("fItalic"), row.fItalic, font);
     row.fUnderline = in.text(QStringLiteral("fUnderline"), row.fUnderline, font);
-    row.lineHeight = in.real(QStringLiteral("lineHeight"), row.lineHeight, kind == "txt");
-    row.txtAlign = in.text(QStringLiteral("txtAlign"), row.txtAlign, kind == "txt");
+    row.lineHeight = in.real(QStringLiteral("lineHeight"), row.lineHeight, uses({"txt"}));
+    row.txtAlign = in.text(QStringLiteral("txtAlign"), row.txtAlign, uses({"txt"}));
     row.isShadown = in.integer(QStringLiteral("isShadown"), row.isShadown, textual);
-    row.SrcV = in.integer(QStringLiteral("SrcV"), row.SrcV, kind == "scr");
-    row.ImgPath = normalizeSlashes(in.text(QStringLiteral("ImgPath"), QString(), uses("img swf")));
-    row.isImgFilter = in.text(QStringLiteral("isImgFilter"), row.isImgFilter, kind == "img");
+    row.SrcV = in.integer(QStringLiteral("SrcV"), row.SrcV, uses({"scr"}));
+    row.ImgPath =
+        normalizeSlashes(in.text(QStringLiteral("ImgPath"), QString(), uses({"img", "swf"})));
+    row.isImgFilter = in.text(QStringLiteral("isImgFilter"), row.isImgFilter, uses({"img"}));
     return row;
 }
 
@@ -148,7 +155,8 @@ BgRow readBg(QSqlDatabase db, QStringList *defaults) {
     BgRow bg;
     QSqlQuery query(db);
     query.setForwardOnly(true);
-    if (!query.exec(QStringLiteral("SELECT * FROM LuckBg LIMIT 1")) || !query.next()) {
+    if (!query.exec(QStringLiteral("SELECT * FROM LuckBg ORDER BY ROWID LIMIT 1")) ||
+        !query.next()) {
         note(defaults, QStringLiteral("LuckBg"));
         return bg;
     }
