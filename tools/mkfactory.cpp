@@ -191,9 +191,13 @@ int main(int argc, char *argv[]) {
         {QStringLiteral("out"), QStringLiteral("program folder"), QStringLiteral("dir")});
     parser.addOption({QStringLiteral("demo"), QStringLiteral("add a sample roster and awards")});
     parser.process(app);
-    const QString data = parser.value(QStringLiteral("data"));
-    const QString movies = parser.value(QStringLiteral("movies"));
-    const QString out = parser.value(QStringLiteral("out"));
+    const auto absolute = [&](const char *option) {
+        const QString value = parser.value(QString::fromLatin1(option));
+        return value.isEmpty() ? value : QDir(value).absolutePath();
+    };
+    const QString data = absolute("data");
+    const QString movies = absolute("movies");
+    const QString out = absolute("out");
     if (data.isEmpty() || movies.isEmpty() || out.isEmpty())
         return fail(QStringLiteral("usage: mkfactory --data DIR --movies DIR --out DIR [--demo]"));
 

@@ -1,5 +1,6 @@
 #include <QApplication>
 
+#include "chrome/style.h"
 #include "core/frmMain.h"
 #include "core/startup.h"
 #include "core/widgethelpers.h"
@@ -10,6 +11,7 @@ int main(int argc, char *argv[]) {
     QApplication::setOrganizationName(QStringLiteral("quellio"));
     QApplication::setApplicationDisplayName(QStringLiteral("Quellio抽奖(全能版)"));
     if (!startUp(QApplication::applicationDirPath())) return 1;
+    style::apply();
 
     frmMain console;
     setConsoleWindow(&console);

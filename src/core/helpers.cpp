@@ -49,3 +49,9 @@ QString md5(const QString &text, int form) {
 QString normalizeSlashes(QString path) {
     return path.replace(QLatin1Char('\\'), QLatin1Char('/'));
 }
+
+QString hideName(const QString &text, int left, int right, const QString &replacement) {
+    const int length = static_cast<int>(text.size());
+    if (text.isEmpty() || left + right >= length) return text;
+    return text.left(left) + replacement.repeated(length - left - right) + text.right(right);
+}

@@ -20,3 +20,6 @@ QString makeRandomName(int length);
 QString md5(const QString &text, int form);
 // Turns "\" into "/" so paths kept by older data work on every platform.
 QString normalizeSlashes(QString path);
+// Masks a name for the stage: the first `left` and last `right` characters stay and every
+// character between them becomes `replacement`. A name too short to mask stays whole.
+QString hideName(const QString &text, int left, int right, const QString &replacement);

@@ -27,9 +27,9 @@ QString factoryDir(const QString &executableDir) {
 
 bool copyTree(const QString &source, const QString &target) {
     if (!QDir().mkpath(target)) return false;
-    QDirIterator it(source, QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden,
+    const QDir from(QDir(source).absolutePath());
+    QDirIterator it(from.path(), QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden,
                     QDirIterator::Subdirectories);
-    const QDir from(source);
     bool ok = true;
     while (it.hasNext()) {
         const QString path = it.next();

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+
+class QWidget;
+
+// The console's colours and the one style sheet every screen shares.
+namespace style {
+
+inline const QColor kTint(255, 235, 236);  // backgrounds and tinted panels
+inline const QColor kDeep(128, 23, 25);    // rules, headings, strong text
+inline const QColor kSoft(169, 97, 100);   // secondary text
+inline const QColor kBright(200, 40, 58);  // banner and primary buttons
+inline const QColor kGold(255, 212, 96);
+
+QString styleSheet();
+// Applies the style sheet to the whole application.
+void apply();
+
+}  // namespace style
