@@ -88,6 +88,7 @@ frmMain::frmMain(QWidget *parent) : FramelessWindow(QSize(kWidth, kHeight), pare
     tmMove.setInterval(12);
     connect(&tmMove, &QTimer::timeout, this, &frmMain::moveStep);
     tjJX();
+    createPreviewStage();
 }
 
 frmMain::~frmMain() = default;
@@ -406,10 +407,6 @@ void frmMain::tjJX() {
 }
 
 void frmMain::getLuckPos() {}
-
-void frmMain::reFrashObj() {}
-
-void frmMain::reloadTemplate() {}
 
 void frmMain::AddUserRefrash() {
     comingSoon(QStringLiteral("名单管理"));

@@ -63,6 +63,7 @@ public:
     QPushButton *cmdSave = nullptr;
     QPushButton *cmdEditSkin = nullptr;
     QWidget *picView = nullptr;
+    Stage *objFlashJM = nullptr;
     QTimer tmMove;
     int luckTotal = 0;
 
@@ -84,5 +85,17 @@ private:
     void openRosterAction(int index);
     void comingSoon(const QString &screen);
 
+    // The interface page (frmMain_template.cpp).
+    void createPreviewStage();
+    void onPreviewCommand(const QString &command, const QString &args);
+    void listTemplates();
+    void loadTemplate();
+    void cmdSave_Click();
+    void labJmSet_Click();
+    void labHF_Click();
+    void openDesigner();
+
     std::unique_ptr<Stage> m_preview;
+    bool skipSkinSave = false;
+    bool skinListing = false;
 };

@@ -1,0 +1,72 @@
+#include "design/templatepage.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSqlDatabase>
+
+#include "core/helpers.h"
+#include "core/store.h"
+
+namespace design {
+
+namespace {
+
+bool isNumber(const QString &text) {
+    bool ok = false;
+    text.trimmed().toInt(&ok);
+    return ok;
+}
+
+bool replaceFile(const QString &source, const QString &target) {
+    if (QFileInfo(source).absoluteFilePath() == QFileInfo(target).absoluteFilePath()) return true;
+    QFile::remove(target);
+    return QFile::copy(source, target);
+}
+
+}  // namespace
+
+QStringList listTemplates(const QString &appPath) {
+    QStringList names;
+    const QStringList files = QDir(appPath + QStringLiteral("skin"))
+                                  .entryList({QStringLiteral("*.jsk")}, QDir::Files, QDir::Name);
+    for (const QString &file : files)
+        names << file.chopped(4);
+    return names;
+}
+
+QString templatePath(const QString &appPath, const QString &name) {
+    return appPath + QStringLiteral("skin/") + name + QStringLiteral(".jsk");
+}
+
+SizeCheck checkStageSize(const QString &width, const QString &height) {
+    if (!isNumber(width)) return {QStringLiteral("分辨率宽度需要输入数字"), true};
+    if (!isNumber(height)) return {QStringLiteral("分辨率高度需要输入数字"), false};
+    if (width.trimmed().toInt() < 257) return {QStringLiteral("分辨率宽度最小不低于257px"), true};
+    if (height.trimmed().toInt() < 177) return {QStringLiteral("分辨率高度不能低于177px"), false};
+    return {};
+}
+
+bool saveTemplatePage(const QString &appPath, const QString &templateName, int width, int height,
+                      const QString &backgroundFile, QString *error) {
+    QString sql = QStringLiteral("UPDATE LuckBg SET BgW=?, BgH=?");
+    QVariantList values{width, height};
+    if (!backgroundFile.trimmed().isEmpty() && fileExists(backgroundFile)) {
+        const QString relative =
+            QStringLiteral("skin/sPhoto/") + templateName + getExt(getFileName(backgroundFile));
+        replaceFile(backgroundFile, appPath + relative);
+        sql += QStringLiteral(", BgImg=?");
+        values << relative;
+    }
+    const QString connection = QStringLiteral("console-template");
+    if (!store::openTemplate(templatePath(appPath, templateName), connection, error)) return false;
+    const bool ok = store::exec(QSqlDatabase::database(connection), sql, values, error);
+    store::close(connection);
+    return ok;
+}
+
+bool copyToWorkingFile(const QString &appPath, const QString &templateName) {
+    return replaceFile(templatePath(appPath, templateName),
+                       appPath + QStringLiteral("skin/sdb.tmp"));
+}
+
+}  // namespace design

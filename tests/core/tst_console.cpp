@@ -1,0 +1,245 @@
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFile>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QtTest>
+
+#include "chrome/widgets.h"
+#include "core/appstate.h"
+#include "core/frmLogin.h"
+#include "core/frmMain.h"
+#include "core/frmPass.h"
+#include "core/password.h"
+#include "core/store.h"
+#include "design/templatepage.h"
+#include "stage/protocol.h"
+#include "support/recordingstage.h"
+#include "support/scriptedui.h"
+#include "support/tempprogramfolder.h"
+
+class TestConsole : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { m_folder.reset(); }
+    void stageSizeChecksRunInOrder_data();
+    void stageSizeChecksRunInOrder();
+    void previewDialogueLoadsTheStoredTemplate();
+    void savingThePage();
+    void templateWithoutPageRowIsReported();
+    void panelSlidesBetweenItsTwoPlaces();
+    void login_data();
+    void login();
+    void passwordDialogKeepsTheOldPasswordOnEmptyFields();
+    void passwordMismatch();
+
+private:
+    std::unique_ptr<TempProgramFolder> m_folder;
+    ScriptedUi *m_ui = nullptr;
+    QList<QPointer<RecordingStage>> *m_stages = nullptr;
+};
+
+void TestConsole::init() {
+    m_folder = std::make_unique<TempProgramFolder>();
+    QVERIFY(m_folder->start());
+    m_ui = installScriptedUi();
+    m_stages = &installRecordingStages();
+}
+
+void TestConsole::stageSizeChecksRunInOrder_data() {
+    QTest::addColumn<QString>("width");
+    QTest::addColumn<QString>("height");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<bool>("widthField");
+    QTest::newRow("smallest size passes") << "257"
+                                          << "177"
+                                          << "" << true;
+    QTest::newRow("width first even with a bad height") << "256"
+                                                        << "100"
+                                                        << "分辨率宽度最小不低于257px" << true;
+    QTest::newRow("empty width is no number") << ""
+                                              << "768"
+                                              << "分辨率宽度需要输入数字" << true;
+    QTest::newRow("height not a number") << "1024"
+                                         << "x"
+                                         << "分辨率高度需要输入数字" << false;
+    QTest::newRow("numbers before sizes") << "100"
+                                          << ""
+                                          << "分辨率高度需要输入数字" << false;
+    QTest::newRow("height too small") << "1024"
+                                      << "176"
+                                      << "分辨率高度不能低于177px" << false;
+}
+
+void TestConsole::stageSizeChecksRunInOrder() {
+    QFETCH(QString, width);
+    QFETCH(QString, height);
+    QFETCH(QString, message);
+    QFETCH(bool, widthField);
+    const design::SizeCheck check = design::checkStageSize(width, height);
+    QCOMPARE(check.message, message);
+    if (!message.isEmpty()) QCOMPARE(check.widthField, widthField);
+}
+
+void TestConsole::previewDialogueLoadsTheStoredTemplate() {
+    frmMain console;
+    QCOMPARE(m_stages->size(), 1);
+    RecordingStage &stage = *m_stages->first();
+    QVERIFY(stage.movie.endsWith(QStringLiteral("sys/preview.qml")));
+    QCOMPARE(console.ComboMB->count(), 2);
+    stage.reply(proto::cmd::asload);
+    QCOMPARE(stage.values(proto::getIsOk), QStringList{proto::yes});
+    stage.clear();
+    stage.reply(proto::cmd::startskin);
+    QCOMPARE(console.ComboMB->currentText(), appState().selSkinName);
+    QCOMPARE(stage.values(proto::ClsPage).size(), 1);
+    QCOMPARE(stage.values(proto::vbAddJpBox).size(), 1);
+    QCOMPARE(console.txtW->text(), QStringLiteral("1920"));
+    QCOMPARE(appState().bgW, qint16(1920));
+
+    // Another template: loaded, and remembered as the selected one.
+    stage.clear();
+    console.ComboMB->setCurrentIndex(console.ComboMB->findText(QStringLiteral("通用模板（4:3)")));
+    QCOMPARE(stage.values(proto::vbSetScale), QStringList{QStringLiteral("23.046875")});
+    QCOMPARE(appState().selSkinName, QStringLiteral("通用模板（4:3)"));
+    QVERIFY(m_ui->records.isEmpty());
+}
+
+void TestConsole::savingThePage() {
+    frmMain console;
+    m_stages->first()->reply(proto::cmd::startskin);
+    console.txtW->setText(QStringLiteral("256"));
+    console.txtH->setText(QStringLiteral("100"));
+    console.cmdSave->click();
+    QCOMPARE(m_ui->texts(), QStringList{QStringLiteral("分辨率宽度最小不低于257px")});
+    QCOMPARE(m_ui->last().title, QStringLiteral("警告"));
+
+    const QString picture = m_folder->path(QStringLiteral("bg.png"));
+    QImage(8, 8, QImage::Format_RGB32).save(picture);
+    m_ui->files.enqueue(picture);
+    Q_EMIT console.labJmSet->clicked();
+    console.txtW->setText(QStringLiteral("1280"));
+    console.txtH->setText(QStringLiteral("720"));
+    console.txtBTm->setText(QStringLiteral("新标题"));
+    console.cmdSave->click();
+    QCOMPARE(appState().title1, QStringLiteral("新标题"));
+    QCOMPARE(appState().BT1, QStringLiteral("新标题"));
+    const QString stored =
+        QStringLiteral("skin/sPhoto/") + appState().selSkinName + QStringLiteral(".png");
+    QVERIFY(QFile::exists(m_folder->path(stored)));
+    QCOMPARE(appState().bgW, qint16(1280));
+    QCOMPARE(console.txtW->text(), QStringLiteral("1280"));
+}
+
+void TestConsole::templateWithoutPageRowIsReported() {
+    const QString broken = design::templatePath(m_folder->path(), QStringLiteral("坏模板"));
+    QFile::copy(design::templatePath(m_folder->path(), QStringLiteral("通用模板（4:3)")), broken);
+    QString error;
+    QVERIFY(store::openTemplate(broken, QStringLiteral("broken"), &error));
+    store::exec(QSqlDatabase::database(QStringLiteral("broken")),
+                QStringLiteral("DELETE FROM LuckBg"));
+    store::close(QStringLiteral("broken"));
+
+    frmMain console;
+    RecordingStage &stage = *m_stages->first();
+    stage.reply(proto::cmd::startskin);
+    const QString before = appState().selSkinName;
+    stage.clear();
+    console.ComboMB->setCurrentIndex(console.ComboMB->findText(QStringLiteral("坏模板")));
+    QCOMPARE(m_ui->texts(), QStringList{QStringLiteral("界面数据文件损坏!")});
+    QCOMPARE(m_ui->last().title, QStringLiteral("错误"));
+    QVERIFY(stage.calls.isEmpty());
+    QCOMPARE(appState().selSkinName, before);
+}
+
+void TestConsole::panelSlidesBetweenItsTwoPlaces() {
+    frmMain console;
+    QCOMPARE(console.picSetBox->y(), frmMain::kPanelHidden);
+    console.showSet();
+    int ticks = 0;
+    while (console.tmMove.isActive()) {
+        console.moveStep();
+        ++ticks;
+    }
+    QCOMPARE(console.picSetBox->y(), frmMain::kPanelOpen);
+    QCOMPARE(ticks, 12);
+    console.panelClosing = true;
+    console.tmMove.start();
+    while (console.tmMove.isActive())
+        console.moveStep();
+    QCOMPARE(console.picSetBox->y(), frmMain::kPanelHidden);
+    QVERIFY(!console.panelClosing);
+}
+
+void TestConsole::login_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("empty") << "   "
+                           << "请输入密码!" << false;
+    QTest::newRow("wrong") << "123456"
+                           << "密码错误" << false;
+    QTest::newRow("right") << "628413"
+                           << "" << true;
+    QTest::newRow("right with blanks") << " 628413 "
+                                       << "" << true;
+}
+
+void TestConsole::login() {
+    QFETCH(QString, typed);
+    QFETCH(QString, message);
+    QFETCH(bool, accepted);
+    appState().loginFor = QStringLiteral("setluck");
+    frmLogin dialog;
+    dialog.pwd->setText(typed);
+    dialog.cmdOk->click();
+    QCOMPARE(m_ui->texts(), message.isEmpty() ? QStringList() : QStringList{message});
+    QCOMPARE(dialog.result() == QDialog::Accepted, accepted);
+    if (!accepted && typed.trimmed().size()) QVERIFY(dialog.pwd->text().isEmpty());
+}
+
+void TestConsole::passwordDialogKeepsTheOldPasswordOnEmptyFields() {
+    {
+        frmPass dialog;
+        QVERIFY(!dialog.chkIsPWD->isChecked());
+        QVERIFY(!dialog.pwd1->isEnabled());
+        dialog.chkIsPWD->setChecked(true);
+        dialog.cmdOk->click();
+    }
+    QCOMPARE(m_ui->texts(), QStringList{QStringLiteral("设置成功!")});
+    QVERIFY(password::isPassWordOn());
+    QVERIFY(password::matches(QStringLiteral("628413")));
+    {
+        frmPass dialog;
+        QVERIFY(dialog.chkIsPWD->isChecked());
+        dialog.pwd1->setText(QStringLiteral(" abc "));
+        dialog.pwd2->setText(QStringLiteral("abc"));
+        dialog.cmdOk->click();
+    }
+    QVERIFY(password::matches(QStringLiteral("abc")));
+    QVERIFY(!password::matches(QStringLiteral("628413")));
+    {
+        frmPass dialog;
+        dialog.chkIsPWD->setChecked(false);
+        dialog.cmdOk->click();
+    }
+    QVERIFY(!password::isPassWordOn());
+    QVERIFY(password::matches(QStringLiteral("abc")));
+}
+
+void TestConsole::passwordMismatch() {
+    frmPass dialog;
+    dialog.chkIsPWD->setChecked(true);
+    dialog.pwd1->setText(QStringLiteral("a"));
+    dialog.pwd2->setText(QStringLiteral("b"));
+    dialog.cmdOk->click();
+    QCOMPARE(m_ui->texts(), QStringList{QStringLiteral("两次输入的密码不一致")});
+    QCOMPARE(m_ui->last().title, QStringLiteral("警告"));
+    QVERIFY(!password::isPassWordOn());
+    QCOMPARE(dialog.pwd2->selectedText(), QStringLiteral("b"));
+}
+
+QTEST_MAIN(TestConsole)
+#include "tst_console.moc"
