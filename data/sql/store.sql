@@ -1,5 +1,5 @@
 -- The data store: roster, awards, hotkeys and the management password.
--- Statements are separated by ";" at the end of a line. Applied when user_version is below 1.
+-- Statements are separated by ";" at the end of a line. Applied when user_version is below the schema version.
 CREATE TABLE IF NOT EXISTS UserList (
   ID INTEGER PRIMARY KEY,
   UserName TEXT NOT NULL DEFAULT '',
@@ -14,6 +14,8 @@ CREATE INDEX IF NOT EXISTS UserList_Status ON UserList(UserStatus);
 CREATE INDEX IF NOT EXISTS UserList_NamePart ON UserList(UserName, UserPart);
 CREATE INDEX IF NOT EXISTS UserList_UpdateTime ON UserList(UpdateTime);
 CREATE INDEX IF NOT EXISTS UserList_DiffNum ON UserList(DiffNum);
+-- Lets the win counters read only the participants who hold some text in JxID.
+CREATE INDEX IF NOT EXISTS UserList_JxID ON UserList(JxID);
 CREATE TABLE IF NOT EXISTS JPList (
   ID INTEGER PRIMARY KEY,
   JXName TEXT NOT NULL DEFAULT '',

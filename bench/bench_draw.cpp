@@ -1,0 +1,122 @@
+// Times the draw on large rosters: a Start press (batch of 10), a scroll-sample tick, and the
+// console's progress figure with 20 awards. Each roster lives in a temporary program folder.
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+#include "core/appstate.h"
+#include "core/programfolder.h"
+#include "core/startup.h"
+#include "core/store.h"
+#include "draw/engine.h"
+#include "draw/progress.h"
+#include "stage/stage.h"
+
+namespace {
+
+double medianMs(int runs, const std::function<void()> &work) {
+    std::vector<double> times;
+    for (int i = 0; i < runs; ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        work();
+        times.push_back(double(timer.nsecsElapsed()) / 1e6);
+    }
+    std::sort(times.begin(), times.end());
+    return times[times.size() / 2];
+}
+
+// n participants with DiffNum 0..9; one in 200 already holds a win of one of 20 awards.
+void fillStore(QSqlDatabase db, int n) {
+    db.transaction();
+    QSqlQuery award(db);
+    award.prepare(QStringLiteral("INSERT INTO JPList (ID, JXName, JXNum, JXGroup, JPName, "
+                                 "OrderNum, isReLuck) VALUES (?, ?, ?, ?, ?, ?, 0)"));
+    for (int a = 1; a <= 20; ++a) {
+        award.addBindValue(a);
+        award.addBindValue(QStringLiteral("奖项%1").arg(a));
+        award.addBindValue(a == 1 ? 10 : 10000);
+        award.addBindValue(1);
+        award.addBindValue(QStringLiteral("奖品%1").arg(a));
+        award.addBindValue(a);
+        award.exec();
+    }
+    QSqlQuery user(db);
+    user.prepare(QStringLiteral("INSERT INTO UserList (ID, UserName, UserPart, UserPhoto, "
+                                "DiffNum, UserStatus, JxID, UpdateTime) "
+                                "VALUES (?, ?, '研发部', '', ?, ?, ?, ?)"));
+    const QString now = store::nowText();
+    for (int id = 1; id <= n; ++id) {
+        const bool winner = id % 200 == 0;
+        user.bindValue(0, id);
+        user.bindValue(1, QStringLiteral("员工%1").arg(id));
+        user.bindValue(2, id % 10);
+        user.bindValue(3, winner ? 3 : 0);
+        user.bindValue(4, winner ? store::awardMarker(2 + id % 19) : QVariant());
+        user.bindValue(5, winner ? QVariant(now) : QVariant());
+        user.exec();
+    }
+    db.commit();
+}
+
+void benchRoster(int n) {
+    QTemporaryDir dir;
+    programfolder::copyTree(QStringLiteral(QUELLIO_FACTORY_DIR), dir.path());
+    QFile::remove(dir.path() + QStringLiteral("/quellio.lock"));
+    qputenv("QUELLIO_HOME", dir.path().toUtf8());
+    if (!startUp(dir.path())) {
+        std::printf("start-up failed\n");
+        return;
+    }
+    fillStore(store::mainConn(), n);
+
+    SilentStage stage;
+    draw::DrawSession session;
+    draw::DrawEngine engine(stage, session);
+    // loadJx reads the candidates ahead; a cold press reads them itself, as after a change of
+    // the store that did not go through loadJx.
+    const double load = medianMs(5, [&] {
+        session.candidatesStamp = draw::StoreStamp();
+        engine.loadJx(1, true);
+    });
+    const double press = medianMs(7, [&] {
+        session.drawState = draw::Idle;
+        engine.pressStart();
+    });
+    const double coldPress = medianMs(5, [&] {
+        session.drawState = draw::Idle;
+        session.candidatesStamp = draw::StoreStamp();
+        engine.pressStart();
+    });
+    const double tick = medianMs(200, [&] { engine.pushScrollSample(); });
+    const qint64 total = draw::awardFigures(store::mainConn()).slotSum;
+    QString progress;
+    const double luckPos =
+        medianMs(7, [&] { progress = draw::luckProgress(store::mainConn(), total); });
+
+    std::printf("roster %7d: loadJx %7.2f ms | Start press (batch 10) %6.2f ms, cold %7.2f ms | "
+                "scroll tick %6.3f ms | getLuckPos (20 awards, %lld winners) %6.2f ms -> %s\n",
+                n, load, press, coldPress, tick, static_cast<long long>(n / 200), luckPos,
+                qPrintable(progress));
+    std::fflush(stdout);
+    shutDown();
+    resetAppState();
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    for (int n : {100000, 1000000})
+        benchRoster(n);
+    return 0;
+}

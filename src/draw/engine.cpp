@@ -1,0 +1,357 @@
+#include "draw/engine.h"
+
+#include <QRandomGenerator>
+#include <QSet>
+#include <QSqlError>
+#include <QSqlQuery>
+
+#include <algorithm>
+
+#include "core/appstate.h"
+#include "core/helpers.h"
+#include "core/settings.h"
+#include "core/store.h"
+#include "core/ui.h"
+#include "stage/protocol.h"
+#include "stage/stage.h"
+
+namespace draw {
+
+namespace {
+
+const QString kNamesGap = QStringLiteral("   ");
+
+QString idText(const std::vector<qint64> &ids) {
+    QStringList parts;
+    for (qint64 id : ids)
+        parts << QString::number(id);
+    return parts.join(QLatin1Char(','));
+}
+
+QList<qint64> parseIds(const QString &text) {
+    QList<qint64> ids;
+    for (const QString &part : text.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+        bool ok = false;
+        const qint64 id = part.trimmed().toLongLong(&ok);
+        if (ok) ids << id;
+    }
+    return ids;
+}
+
+// k distinct positions of [0, n) in random order, in O(k) (Floyd's algorithm, then a shuffle).
+std::vector<size_t> samplePositions(size_t n, size_t k) {
+    QRandomGenerator *random = QRandomGenerator::global();
+    k = std::min(k, n);
+    QSet<size_t> chosen;
+    chosen.reserve(qsizetype(k));
+    std::vector<size_t> positions;
+    positions.reserve(k);
+    for (size_t j = n - k; j < n; ++j) {
+        const size_t t = size_t(random->bounded(quint64(j) + 1));
+        const size_t pick = chosen.contains(t) ? j : t;
+        chosen.insert(pick);
+        positions.push_back(pick);
+    }
+    for (size_t i = positions.size(); i > 1; --i)
+        std::swap(positions[i - 1], positions[size_t(random->bounded(quint64(i)))]);
+    return positions;
+}
+
+void warn(const QString &text) { ui().message(text, MsgStyle::Exclamation, titles::warning); }
+
+}  // namespace
+
+int countAwardWinners(QSqlDatabase db, int id) {
+    // "JxID > ''" lets the JxID index skip the participants without any win.
+    return store::scalar(db,
+                         QStringLiteral("SELECT COUNT(*) FROM UserList WHERE JxID > '' AND JxID "
+                                        "LIKE ?"),
+                         {store::awardPattern(id)})
+        .toInt();
+}
+
+QString winnersText(QSqlDatabase db, int id) {
+    QSqlQuery query(db);
+    query.setForwardOnly(true);
+    query.prepare(QStringLiteral("SELECT UserName FROM UserList WHERE JxID LIKE ? "
+                                 "ORDER BY UpdateTime DESC, ID ASC"));
+    query.addBindValue(store::awardPattern(id));
+    query.exec();
+    const AppState &state = appState();
+    QString names;
+    while (query.next()) {
+        QString name = query.value(0).toString();
+        if (state.isHideName == 1)
+            name = hideName(name, state.hideLeft, state.hideRight, state.hideReStr);
+        names += name + kNamesGap;
+    }
+    return names;
+}
+
+DrawEngine::DrawEngine(Stage &stage, DrawSession &session, QObject *parent)
+    : QObject(parent), m_stage(stage), m_session(session) {}
+
+void DrawEngine::setBlockStyle(std::function<QString(int)> blockStyle) {
+    m_blockStyle = std::move(blockStyle);
+}
+
+void DrawEngine::send(const QString &name, const QString &value) {
+    m_stage.SetVariable(name, value);
+}
+
+QString DrawEngine::luckTypePrefix() const {
+    return QString::number(appState().luckType) + proto::kSep;
+}
+
+bool DrawEngine::loadJx(int id, bool resetButtons) {
+    QSqlDatabase db = store::mainConn();
+    const int have = countAwardWinners(db, id);
+    QSqlQuery query(db);
+    query.prepare(QStringLiteral("SELECT OrderNum, JXName, JXNum, JXGroup, JPName, JPPhoto, "
+                                 "isReLuck, RangeType, RangeNum1, RangeNum2 FROM JPList "
+                                 "WHERE ID=? LIMIT 1"));
+    query.addBindValue(id);
+    if (!query.exec() || !query.next()) {
+        warn(QStringLiteral("找不到指定的奖项!"));
+        return false;
+    }
+    LoadedAward award;
+    award.id = id;
+    award.orderNum = query.value(0).toInt();
+    award.name = query.value(1).toString();
+    award.prizeName = query.value(4).toString();
+    award.picturePath = normalizeSlashes(appState().appPath + query.value(5).toString());
+    award.rule = {id, query.value(6).toInt(), query.value(7).toInt(), query.value(8).toInt(),
+                  query.value(9).toInt()};
+    award.plan = planBatch(query.value(2).toInt(), query.value(3).toInt(), have);
+
+    const BatchPlan &plan = award.plan;
+    send(proto::vbLoadJx, QStringList{award.name, QString::number(plan.slotCount),
+                                      QString::number(plan.batches),
+                                      QString::number(plan.remaining), award.prizeName,
+                                      award.picturePath}
+                              .join(proto::kSep));
+    const QString names = winnersText(db, id);
+    send(proto::updateLuckLst, names.isEmpty()
+                                   ? QStringLiteral("当前奖项暂无获奖名单...")
+                                   : QStringLiteral("恭喜∶") + names + QStringLiteral("获得") +
+                                         award.name);
+    if (id != m_session.award.id) {
+        if (!m_session.prizeHead.trimmed().isEmpty())
+            send(proto::vbAddImg, m_session.prizeHead + award.picturePath);
+        send(proto::vbShowBlock, proto::falseText);
+        m_session.drawState = Idle;
+    } else {
+        m_session.drawState = Result;
+    }
+    if (resetButtons) {
+        send(proto::changBtn, proto::buttons::defulte);
+        m_session.drawState = Idle;
+    }
+    m_session.award = award;
+    m_session.batchCount = plan.batchCount;
+    if (plan.batchCount > 0) refreshCandidates();
+    return true;
+}
+
+void DrawEngine::reFrashJx(bool hideBlocks, bool resetButtons) {
+    loadJx(m_session.award.id, resetButtons);
+    if (hideBlocks) send(proto::vbShowBlock, proto::falseText);
+}
+
+void DrawEngine::defulteJx(bool resetButtons) {
+    send(proto::vbShowBlock, proto::falseText);
+    const int selected = appState().selJxid;
+    const QVariant found = store::scalar(
+        store::mainConn(), QStringLiteral("SELECT ID FROM JPList WHERE ID=? LIMIT 1"), {selected});
+    if (found.isValid())
+        loadJx(selected, resetButtons);
+    else
+        firstOpenAward(resetButtons);
+}
+
+void DrawEngine::firstOpenAward(bool resetButtons) {
+    QSqlDatabase db = store::mainConn();
+    QSqlQuery query(db);
+    query.setForwardOnly(true);
+    query.exec(QStringLiteral("SELECT ID, JXNum FROM JPList ORDER BY OrderNum ASC"));
+    bool any = false;
+    while (query.next()) {
+        any = true;
+        const int id = query.value(0).toInt();
+        if (query.value(1).toInt() - countAwardWinners(db, id) > 0) {
+            loadJx(id, resetButtons);
+            return;
+        }
+    }
+    if (!any) {
+        warn(QStringLiteral("当前未设置任何奖项,请先添加奖项!"));
+        return;
+    }
+    Q_EMIT allAwardsFull();
+}
+
+void DrawEngine::stepAward(bool forward, bool wrap) {
+    const QVariant next = store::scalar(
+        store::mainConn(),
+        forward ? QStringLiteral("SELECT ID FROM JPList WHERE OrderNum>? "
+                                 "ORDER BY OrderNum ASC LIMIT 1")
+                : QStringLiteral("SELECT ID FROM JPList WHERE OrderNum<? "
+                                 "ORDER BY OrderNum DESC LIMIT 1"),
+        {m_session.award.orderNum});
+    if (next.isValid())
+        loadJx(next.toInt(), false);
+    else if (wrap)
+        firstOpenAward(false);
+}
+
+DrawEngine::StartOutcome DrawEngine::pressStart() {
+    m_session.canCancel = false;
+    if (m_session.batchCount < 1) {
+        send(proto::changBtn, proto::buttons::defulte);
+        stepAward(true, true);
+        m_session.drawState = Idle;
+        return StartOutcome::Stepped;
+    }
+    m_session.winnerList.clear();
+    drawWinners();
+    send(proto::vbndluck, luckTypePrefix() + m_session.winnerList);
+    m_session.lastWinnerIds = m_session.winnerIds;
+    if (m_session.winnerList.isEmpty()) {
+        send(proto::changBtn, proto::buttons::defulte);
+        m_session.drawState = Idle;
+        warn(QStringLiteral("已无符合条件的抽奖名单可抽取!"));
+        return StartOutcome::Empty;
+    }
+    if (m_blockStyle) send(proto::vbLoadBlock, m_blockStyle(m_session.batchCount));
+    send(proto::changBtn, proto::buttons::start);
+    m_session.drawState = Running;
+    return StartOutcome::Drawn;
+}
+
+void DrawEngine::refreshCandidates() {
+    QSqlDatabase db = store::mainConn();
+    const StoreStamp before = storeStamp(db);
+    if (m_session.candidatesRule == m_session.award.rule && m_session.candidatesStamp == before)
+        return;
+    m_session.candidates = loadCandidates(db, m_session.award.rule);
+    m_session.candidatesDigest = candidateDigest(m_session.candidates);
+    m_session.candidatesRule = m_session.award.rule;
+    m_session.candidatesStamp = before;
+}
+
+void DrawEngine::drawWinners() {
+    refreshCandidates();
+    const AwardRule &rule = m_session.award.rule;
+    const Candidates &candidates = m_session.candidates;
+
+    PressRecord &press = m_session.lastPress;
+    press = PressRecord();
+    press.time = QDateTime::currentDateTime();
+    press.awardId = rule.awardId;
+    press.rule = rule;
+    press.batchCount = m_session.batchCount;
+    press.seed = newSeed();
+    press.candidateCount = candidates.count();
+    press.digest = m_session.candidatesDigest;
+    press.winners =
+        pickWinners(candidates.primary, candidates.fallback, press.seed, m_session.batchCount);
+    appendAudit(appState().appPath, press);
+
+    m_session.winnerList = joinWinnerItems(namesOf(press.winners), press.winners);
+    m_session.winnerIds = idText(press.winners);
+}
+
+QStringList DrawEngine::namesOf(const std::vector<qint64> &ids) {
+    QSqlQuery query(store::mainConn());
+    query.prepare(QStringLiteral("SELECT UserName FROM UserList WHERE ID=?"));
+    QStringList names;
+    for (qint64 id : ids) {
+        query.bindValue(0, id);
+        const bool found = query.exec() && query.next();
+        names << stageName(found ? query.value(0).toString() : QString());
+    }
+    return names;
+}
+
+QString DrawEngine::pushScrollSample() {
+    const std::vector<qint64> &pool = m_session.candidates.sample;
+    std::vector<qint64> ids;
+    for (size_t position : samplePositions(pool.size(), size_t(std::max(0, m_session.batchCount))))
+        ids.push_back(pool[position]);
+    if (ids.empty()) return QString();
+    const QString value = luckTypePrefix() + joinWinnerItems(namesOf(ids), ids);
+    send(proto::vbPushLst, value);
+    return value;
+}
+
+bool DrawEngine::recordWinners() {
+    const QList<qint64> ids = parseIds(m_session.winnerIds);
+    if (m_session.drawState != Running || ids.isEmpty()) return false;
+    const int awardId = m_session.award.id;
+    QSqlDatabase db = store::mainConn();
+
+    // One batch, one moment, one transaction: the batch is stored whole or not at all.
+    const QString time = store::nowText();
+    bool ok = db.transaction();
+    QSqlQuery query(db);
+    ok = ok && query.prepare(QStringLiteral("UPDATE UserList SET JxID=COALESCE(JxID,'') || ?, "
+                                            "UserStatus=3, UpdateTime=? WHERE ID=?"));
+    for (qint64 id : ids) {
+        if (!ok) break;
+        query.bindValue(0, store::awardMarker(awardId));
+        query.bindValue(1, time);
+        query.bindValue(2, id);
+        ok = query.exec();
+    }
+    const QString error = query.lastError().text();
+    query.finish();
+    ok = ok && db.commit();
+    if (!ok) {
+        db.rollback();
+        Q_EMIT recordFailed(error.isEmpty() ? db.lastError().text() : error);
+        return false;
+    }
+
+    loadJx(awardId, false);
+    m_session.canCancel = true;
+    settings::write(QStringLiteral("selJxid"), awardId);
+    Q_EMIT batchRecorded();
+    return true;
+}
+
+bool DrawEngine::cancelLastBatch() {
+    if (!m_session.canCancel) return false;
+    if (!ui().question(QStringLiteral("确定要撤消此次产生的中奖结果么?"), titles::notice))
+        return false;
+
+    const QString marker = store::awardMarker(m_session.award.id);
+    QSqlDatabase db = store::mainConn();
+    db.transaction();
+    QSqlQuery read(db);
+    read.prepare(QStringLiteral("SELECT JxID FROM UserList WHERE ID=?"));
+    for (qint64 id : parseIds(m_session.lastWinnerIds)) {
+        read.bindValue(0, id);
+        if (!read.exec() || !read.next()) continue;
+        QString wins = read.value(0).toString();
+        read.finish();
+        // A participant left with no win is back to normal; one who keeps another award stays
+        // a winner, and one who gave up meanwhile ("无") is left alone.
+        if (wins.trimmed() == marker)
+            store::exec(db, QStringLiteral("UPDATE UserList SET JxID='', UserStatus=0 WHERE ID=?"),
+                        {id});
+        else
+            store::exec(db, QStringLiteral("UPDATE UserList SET JxID=? WHERE ID=?"),
+                        {wins.remove(marker), id});
+    }
+    if (!db.commit()) db.rollback();
+
+    loadJx(m_session.award.id, false);
+    m_session.canCancel = false;
+    send(proto::vbShowBlock, proto::falseText);
+    send(proto::changBtn, proto::buttons::defulte);
+    Q_EMIT batchCancelled();
+    return true;
+}
+
+}  // namespace draw

@@ -1,0 +1,95 @@
+#include "draw/progress.h"
+
+#include <QFileInfo>
+#include <QHash>
+#include <QSqlQuery>
+
+#include "core/appstate.h"
+#include "core/settings.h"
+#include "core/store.h"
+#include "core/ui.h"
+#include "draw/batchplan.h"
+
+namespace draw {
+
+AwardFigures awardFigures(QSqlDatabase db) {
+    QSqlQuery query(db);
+    query.exec(QStringLiteral("SELECT COUNT(*), SUM(JXNum), SUM(JXGroup) FROM JPList"));
+    AwardFigures figures;
+    if (query.next() && query.value(0).toLongLong() > 0) {
+        figures.awardCount = query.value(0).toLongLong();
+        figures.slotSum = query.value(1).toLongLong();
+        figures.batchSum = query.value(2).toLongLong();
+    }
+    return figures;
+}
+
+QString luckProgress(QSqlDatabase db, qint64 luckTotal) {
+    QList<QString> markers;
+    QSqlQuery awards(db);
+    awards.setForwardOnly(true);
+    awards.exec(QStringLiteral("SELECT ID FROM JPList ORDER BY OrderNum ASC"));
+    while (awards.next())
+        markers << store::awardMarker(awards.value(0).toInt());
+    if (markers.isEmpty() || luckTotal <= 0) return QStringLiteral("0%");
+
+    // One pass over the participants holding any text in JxID (through its index) instead of
+    // one scan of the roster per award. Each (participant, award) pair counts once.
+    qint64 wins = 0;
+    QSqlQuery holders(db);
+    holders.setForwardOnly(true);
+    holders.exec(QStringLiteral("SELECT JxID FROM UserList WHERE JxID > ''"));
+    while (holders.next()) {
+        const QString text = holders.value(0).toString();
+        for (const QString &marker : markers)
+            wins += text.contains(marker) ? 1 : 0;
+    }
+    // Percent of a whole number: wins * 100 / luckTotal, halves to even.
+    return QString::number(divideHalfEven(wins * 100, luckTotal)) + QStringLiteral("%");
+}
+
+QString historySnapshotPath(const QString &appPath, const QDateTime &time) {
+    const QDate d = time.date();
+    const QTime t = time.time();
+    const QString base = appPath + QStringLiteral("History/") +
+                         QStringLiteral("%1%2%3%4%5")
+                             .arg(d.year())
+                             .arg(d.month())
+                             .arg(d.day())
+                             .arg(t.hour())
+                             .arg(t.minute());
+    QString path = base + QStringLiteral(".tmp");
+    for (int n = 2; QFileInfo::exists(path); ++n)
+        path = base + QStringLiteral("-%1.tmp").arg(n);
+    return path;
+}
+
+bool clearAllWins(QSqlDatabase db) {
+    bool ok = db.transaction();
+    ok = ok && store::exec(db, QStringLiteral("UPDATE UserList SET JxID='', UserStatus=0 WHERE "
+                                                "JxID<>'' OR UserStatus<>0 OR "
+                                                "UserStatus IS NULL"));
+    ok = ok && db.commit();
+    if (!ok) {
+        db.rollback();
+        return false;
+    }
+    settings::write(QStringLiteral("selJxid"), 0);
+    return true;
+}
+
+bool oneKeyReset(QSqlDatabase db, const QString &progressText,
+                 const WinnerExporter &exportWinners) {
+    if (progressText == QStringLiteral("0%")) return clearAllWins(db);
+    if (!ui().question(QStringLiteral("重要提示∶\n确认要清空所有中奖记录,复原至初始状态么?"),
+                       titles::warning))
+        return false;
+    const QString snapshot =
+        historySnapshotPath(appState().appPath, QDateTime::currentDateTime());
+    if (!exportWinners || !exportWinners(snapshot)) return false;
+    if (!clearAllWins(db)) return false;
+    ui().message(QStringLiteral("已恢复至初始抽奖状态!"), MsgStyle::Information, titles::notice);
+    return true;
+}
+
+}  // namespace draw

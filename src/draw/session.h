@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QString>
+
+#include "draw/audit.h"
+#include "draw/batchplan.h"
+#include "draw/selection.h"
+
+namespace draw {
+
+// drawState of the draw screen.
+enum DrawState : int { Idle = 0, Running = 1, Result = 2, Playback = 3 };
+
+// The award the draw screen has loaded, as read by loadJx.
+struct LoadedAward {
+    int id = 0;  // 0: none loaded yet
+    int orderNum = 0;
+    QString name;         // JXName
+    QString prizeName;    // JPName
+    QString picturePath;  // absolute, "/" separators
+    AwardRule rule;
+    BatchPlan plan;
+};
+
+// Everything the draw keeps between presses, for as long as the draw screen lives. The screen
+// owns one; the engine reads and writes it.
+struct DrawSession {
+    LoadedAward award;
+    int batchCount = 0;
+    int drawState = Idle;
+    bool canCancel = false;
+    // The press in progress: "name$id|name$id" for the stage, and the IDs joined by ",".
+    QString winnerList;
+    QString winnerIds;
+    // The winnerIds of the last Start, kept for Cancel and the printout of the batch.
+    QString lastWinnerIds;
+    // The nine leading vbAddImg fields of the prize picture, each followed by "|"; blank when the
+    // template shows no prize picture.
+    QString prizeHead;
+    // The eligible participants of the loaded award, read ahead at loadJx so that Start costs
+    // little, and read again at Start when the store has changed since (see StoreStamp). The
+    // scroll samples from here.
+    Candidates candidates;
+    QString candidatesDigest;
+    AwardRule candidatesRule;
+    StoreStamp candidatesStamp;
+    PressRecord lastPress;
+};
+
+}  // namespace draw
