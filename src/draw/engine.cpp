@@ -73,8 +73,10 @@ int countAwardWinners(QSqlDatabase db, int id) {
 QString winnersText(QSqlDatabase db, int id) {
     QSqlQuery query(db);
     query.setForwardOnly(true);
-    query.prepare(QStringLiteral("SELECT UserName FROM UserList WHERE JxID LIKE ? "
-                                 "ORDER BY UpdateTime DESC, ID ASC"));
+    // The + keeps the planner on the JxID index (the winners) instead of walking the whole
+    // roster in UpdateTime order.
+    query.prepare(QStringLiteral("SELECT UserName FROM UserList WHERE JxID > '' AND JxID LIKE ? "
+                                 "ORDER BY +UpdateTime DESC, ID ASC"));
     query.addBindValue(store::awardPattern(id));
     query.exec();
     const AppState &state = appState();

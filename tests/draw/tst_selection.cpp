@@ -1,0 +1,320 @@
+#include <QSet>
+#include <QtTest>
+
+#include <cmath>
+
+#include "core/appstate.h"
+#include "core/store.h"
+#include "draw/batchplan.h"
+#include "draw/selection.h"
+#include "support/scriptedui.h"
+#include "support/tempprogramfolder.h"
+
+using draw::AwardRule;
+using IdList = QList<qint64>;
+
+namespace {
+
+IdList toList(const std::vector<qint64> &ids) { return IdList(ids.begin(), ids.end()); }
+
+// Chi-square of observed counts against a uniform expectation.
+double chiSquare(const QList<int> &counts) {
+    double total = 0;
+    for (int c : counts)
+        total += c;
+    const double expected = total / counts.size();
+    double chi = 0;
+    for (int c : counts)
+        chi += (c - expected) * (c - expected) / expected;
+    return chi;
+}
+
+}  // namespace
+
+class TestSelection : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { installScriptedUi(); }
+    void batchTable_data();
+    void batchTable();
+    void shortBatchShiftsThePlan();
+    void batchEdges_data();
+    void batchEdges();
+    void rangePoolsAndFallback_data();
+    void rangePoolsAndFallback();
+    void whoMayWinAgain_data();
+    void whoMayWinAgain();
+    void scrollSampleNarrowsOnlyTheEqualsType();
+    void namesForTheStage_data();
+    void namesForTheStage();
+    void winsAreUniform();
+    void ordersAreNotFromAFewSeeds();
+    void keysNeverTie();
+};
+
+void TestSelection::batchTable_data() {
+    QTest::addColumn<int>("slotCount");
+    QTest::addColumn<int>("batches");
+    QTest::addColumn<QList<int>>("run");
+    QTest::newRow("10 over 3") << 10 << 3 << QList<int>{3, 3, 4};
+    QTest::newRow("11 over 3") << 11 << 3 << QList<int>{4, 4, 3};
+    QTest::newRow("10 over 6") << 10 << 6 << QList<int>{2, 2, 2, 2, 2};
+    QTest::newRow("9 over 6") << 9 << 6 << QList<int>{2, 2, 2, 2, 1};
+    QTest::newRow("5 over 2") << 5 << 2 << QList<int>{2, 3};
+    QTest::newRow("7 over 2") << 7 << 2 << QList<int>{4, 3};
+    QTest::newRow("1 over 5") << 1 << 5 << QList<int>{1};
+}
+
+void TestSelection::batchTable() {
+    QFETCH(int, slotCount);
+    QFETCH(int, batches);
+    QFETCH(QList<int>, run);
+    QList<int> drawn;
+    int have = 0;
+    for (int guard = 0; guard < 20; ++guard) {
+        const int next = draw::planBatch(slotCount, batches, have).batchCount;
+        if (next == 0) break;
+        drawn << next;
+        have += next;
+    }
+    QCOMPARE(drawn, run);
+    QCOMPARE(draw::planBatch(slotCount, batches, have).remaining, 0);
+}
+
+void TestSelection::shortBatchShiftsThePlan() {
+    // 10 over 3 with a first batch of only 2: then 3, then L = 4, and one slot stays for a batch
+    // of 1.
+    QCOMPARE(draw::planBatch(10, 3, 2).batchCount, 3);
+    QCOMPARE(draw::planBatch(10, 3, 5).done, 2);
+    QCOMPARE(draw::planBatch(10, 3, 5).batchCount, 4);
+    const draw::BatchPlan last = draw::planBatch(10, 3, 9);
+    QCOMPARE(last.done, 3);
+    QCOMPARE(last.lastBatch, 4);
+    QCOMPARE(last.batchCount, 1);
+    // Two make-up slots on a full award of 10 over 3: capped at the 2 slots.
+    QCOMPARE(draw::planBatch(12, 3, 10).batchCount, 2);
+}
+
+void TestSelection::batchEdges_data() {
+    QTest::addColumn<int>("slotCount");
+    QTest::addColumn<int>("batches");
+    QTest::addColumn<int>("have");
+    QTest::addColumn<int>("shownBatches");
+    QTest::addColumn<int>("remaining");
+    QTest::addColumn<int>("batchCount");
+    QTest::newRow("full") << 5 << 2 << 5 << 2 << 0 << 0;
+    QTest::newRow("slots reduced below winners") << 3 << 1 << 5 << 1 << -2 << 0;
+    QTest::newRow("batches above slots shown clamped") << 3 << 5 << 0 << 3 << 3 << 1;
+    QTest::newRow("no slot") << 0 << 1 << 0 << 0 << 0 << 0;
+    QTest::newRow("no batch") << 4 << 0 << 0 << 0 << 4 << 0;
+}
+
+void TestSelection::batchEdges() {
+    QFETCH(int, slotCount);
+    QFETCH(int, batches);
+    QFETCH(int, have);
+    const draw::BatchPlan plan = draw::planBatch(slotCount, batches, have);
+    QTEST(plan.batches, "shownBatches");
+    QTEST(plan.remaining, "remaining");
+    QTEST(plan.batchCount, "batchCount");
+    QCOMPARE(draw::divideHalfEven(5, 2), 2);
+    QCOMPARE(draw::divideHalfEven(7, 2), 4);
+    QCOMPARE(draw::divideHalfEven(250, 100), 2);
+    QCOMPARE(draw::divideHalfEven(350, 100), 4);
+}
+
+void TestSelection::rangePoolsAndFallback_data() {
+    QTest::addColumn<int>("rangeType");
+    QTest::addColumn<int>("n1");
+    QTest::addColumn<int>("n2");
+    QTest::addColumn<QList<int>>("diffNums");  // participant i+1 has diffNums[i]
+    QTest::addColumn<IdList>("primary");
+    QTest::addColumn<IdList>("fallback");
+    const QList<int> tenZeros(10, 0);
+    QTest::newRow("greater: four in range") << 1 << 5 << 0 << QList<int>{6, 7, 8, 9, 1, 2}
+                                            << IdList{1, 2, 3, 4} << IdList{5, 6};
+    QTest::newRow("greater: one in range") << 1 << 5 << 0 << (QList<int>{9} + tenZeros)
+                                           << IdList{1}
+                                           << IdList{2, 3, 4, 5, 6, 7, 8, 9, 10, 11};
+    QTest::newRow("greater: nobody in range")
+        << 1 << 5 << 0 << tenZeros << IdList{} << IdList{1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
+    QTest::newRow("equals 5, nobody has 5: only DiffNum 0 behind")
+        << 2 << 5 << 0 << QList<int>{0, 7, 0, 7} << IdList{} << IdList{1, 3};
+    QTest::newRow("equals 0, only 7 left") << 2 << 0 << 0 << QList<int>{7} << IdList{}
+                                           << IdList{1};
+    QTest::newRow("less") << 3 << 5 << 0 << QList<int>{4, 5, 6} << IdList{1} << IdList{2, 3};
+    QTest::newRow("between 10 and 20, edges outside")
+        << 4 << 10 << 20 << QList<int>{9, 10, 11, 19, 20, 21} << IdList{3, 4}
+        << IdList{1, 2, 5, 6};
+    QTest::newRow("no range") << 0 << 5 << 9 << QList<int>{1, 7, 3} << IdList{1, 2, 3}
+                              << IdList{};
+    QTest::newRow("unknown type is no range") << 9 << 5 << 9 << QList<int>{1, 7} << IdList{1, 2}
+                                              << IdList{};
+}
+
+void TestSelection::rangePoolsAndFallback() {
+    QFETCH(int, rangeType);
+    QFETCH(int, n1);
+    QFETCH(int, n2);
+    QFETCH(QList<int>, diffNums);
+    QFETCH(IdList, primary);
+    QFETCH(IdList, fallback);
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    QStringList rows;
+    for (int diff : diffNums)
+        rows << QStringLiteral("p|x|%1").arg(diff);
+    folder.addUsers(rows);
+    const AwardRule rule{1, 1, rangeType, n1, n2};
+    const draw::Candidates candidates = draw::loadCandidates(folder.db(), rule);
+    QCOMPARE(toList(candidates.primary), primary);
+    QCOMPARE(toList(candidates.fallback), fallback);
+
+    // A batch of 3 takes the range first, in key order, and fills up from the fallback.
+    for (quint64 seed : {1ULL, 42ULL, 0xdeadbeefcafef00dULL, draw::newSeed()}) {
+        const std::vector<qint64> winners =
+            draw::pickWinners(candidates.primary, candidates.fallback, seed, 3);
+        const int fromPrimary = std::min<int>(3, int(primary.size()));
+        QCOMPARE(int(winners.size()), std::min<int>(3, int(primary.size() + fallback.size())));
+        for (int i = 0; i < int(winners.size()); ++i)
+            QVERIFY((i < fromPrimary ? primary : fallback).contains(winners[size_t(i)]));
+        QCOMPARE(QSet<qint64>(winners.begin(), winners.end()).size(), qsizetype(winners.size()));
+    }
+}
+
+void TestSelection::whoMayWinAgain_data() {
+    QTest::addColumn<int>("isReLuck");
+    QTest::addColumn<int>("awardId");
+    QTest::addColumn<IdList>("eligible");
+    // 1 NULL, 2 empty, 3 |3||5|, 4 gave up "无", 5 |13|, 6 empty but status 1, 7 |5|
+    QTest::newRow("exclude all winners") << 1 << 3 << IdList{1, 2};
+    QTest::newRow("not twice award 3; 13 is not 3") << 0 << 3 << IdList{1, 2, 5, 7};
+    QTest::newRow("holder of 3 and 5 may win 7") << 0 << 7 << IdList{1, 2, 3, 5, 7};
+    QTest::newRow("not twice award 5") << 0 << 5 << IdList{1, 2, 5};
+    QTest::newRow("isReLuck 2 acts like 0") << 2 << 5 << IdList{1, 2, 5};
+}
+
+void TestSelection::whoMayWinAgain() {
+    QFETCH(int, isReLuck);
+    QFETCH(int, awardId);
+    QFETCH(IdList, eligible);
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"a", "b", "c", "d", "e", "f", "g"});
+    const QList<QVariantList> states = {{QVariant(), 0, 1}, {"", 0, 2},     {"|3||5|", 3, 3},
+                                        {"无", 1, 4},       {"|13|", 3, 5}, {"", 1, 6},
+                                        {"|5|", 3, 7}};
+    for (const QVariantList &s : states)
+        QVERIFY(store::exec(folder.db(),
+                            QStringLiteral("UPDATE UserList SET JxID=?, UserStatus=? WHERE ID=?"),
+                            s));
+    const draw::Candidates candidates =
+        draw::loadCandidates(folder.db(), AwardRule{awardId, isReLuck, 0, 0, 0});
+    QCOMPARE(toList(candidates.primary), eligible);
+    QCOMPARE(toList(candidates.sample), eligible);
+}
+
+void TestSelection::scrollSampleNarrowsOnlyTheEqualsType() {
+    const std::optional<qint64> none;
+    QVERIFY(draw::inScrollSample(AwardRule{1, 1, 2, 5, 0}, 5));
+    QVERIFY(draw::inScrollSample(AwardRule{1, 1, 2, 5, 0}, 0));
+    QVERIFY(!draw::inScrollSample(AwardRule{1, 1, 2, 5, 0}, 7));
+    QVERIFY(!draw::inScrollSample(AwardRule{1, 1, 2, 5, 0}, none));
+    QVERIFY(draw::inScrollSample(AwardRule{1, 1, 2, 0, 0}, 7));
+    // A greater-than range does not narrow the sample: names the result cannot hold may scroll.
+    QVERIFY(draw::inScrollSample(AwardRule{1, 1, 1, 5, 0}, 1));
+    QVERIFY(draw::inScrollSample(AwardRule{1, 1, 4, 10, 20}, none));
+    QCOMPARE(draw::classify(AwardRule{1, 1, 1, 5, 0}, none), draw::Pool::Excluded);
+    QCOMPARE(draw::classify(AwardRule{1, 1, 0, 5, 0}, none), draw::Pool::Primary);
+}
+
+void TestSelection::namesForTheStage_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("hide");
+    QTest::addColumn<int>("left");
+    QTest::addColumn<int>("right");
+    QTest::addColumn<QString>("mask");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("separators replaced") << "a|b$c" << 0 << 1 << 1 << "*"
+                                         << "a‖b＄c";
+    QTest::newRow("three characters") << "张小明" << 1 << 1 << 1 << "*"
+                                      << "张*明";
+    QTest::newRow("two characters shown whole") << "张三" << 1 << 1 << 1 << "*"
+                                                << "张三";
+    QTest::newRow("first kept, two stars") << "张小明" << 1 << 1 << 0 << "*"
+                                           << "张**";
+    QTest::newRow("longer mask text") << "abcdef" << 1 << 2 << 1 << "##"
+                                      << "ab######f";
+    QTest::newRow("empty stays empty") << "" << 1 << 0 << 0 << "*"
+                                       << "";
+    QTest::newRow("masking off") << "张小明" << 0 << 1 << 0 << "*"
+                                 << "张小明";
+    QTest::newRow("cleaned before masking") << "a|b$c" << 1 << 1 << 1 << "*"
+                                            << "a***c";
+}
+
+void TestSelection::namesForTheStage() {
+    QFETCH(QString, name);
+    QFETCH(int, hide);
+    QFETCH(int, left);
+    QFETCH(int, right);
+    QFETCH(QString, mask);
+    resetAppState();
+    appState().isHideName = qint16(hide);
+    appState().hideLeft = qint16(left);
+    appState().hideRight = qint16(right);
+    appState().hideReStr = mask;
+    QTEST(draw::stageName(name), "shown");
+    QCOMPARE(draw::joinWinnerItems({draw::stageName(name), "x"}, {7, 8}),
+             draw::stageName(name) + "$7|x$8");
+    resetAppState();
+}
+
+void TestSelection::winsAreUniform() {
+    // 12 participants, 24000 presses of one winner, then of batches of 3: every count should be
+    // near 2000 and 6000. The bound is the 0.1% point of chi-square with 11 degrees of freedom.
+    std::vector<qint64> roster;
+    for (qint64 id = 101; id <= 112; ++id)
+        roster.push_back(id);
+    for (int batch : {1, 3}) {
+        QList<int> counts(12, 0);
+        for (int press = 0; press < 24000; ++press) {
+            for (qint64 id : draw::pickWinners(roster, {}, draw::newSeed(), batch))
+                ++counts[int(id - 101)];
+        }
+        const double chi = chiSquare(counts);
+        QVERIFY2(chi < 31.26, qPrintable(QStringLiteral("chi-square %1").arg(chi)));
+    }
+    // A biased order (the lowest ID wins slightly more often) is caught by the same bound.
+    QList<int> biased(12, 2000);
+    biased[0] += 250;
+    biased[11] -= 250;
+    QVERIFY(chiSquare(biased) > 31.26);
+}
+
+void TestSelection::ordersAreNotFromAFewSeeds() {
+    // With 1000 possible seeds a press could only yield 1000 orders. Full orders of 8 people
+    // (40320 possible) over 5000 presses must nearly all differ.
+    std::vector<qint64> roster = {3, 5, 8, 13, 21, 34, 55, 89};
+    QSet<QString> orders;
+    for (int press = 0; press < 5000; ++press) {
+        QStringList order;
+        for (qint64 id : draw::pickWinners(roster, {}, draw::newSeed(), 8))
+            order << QString::number(id);
+        orders.insert(order.join(','));
+    }
+    QVERIFY2(orders.size() > 4400, qPrintable(QString::number(orders.size())));
+}
+
+void TestSelection::keysNeverTie() {
+    const quint64 seed = draw::newSeed();
+    QSet<quint64> keys;
+    for (qint64 id = 1; id <= 100000; ++id)
+        keys.insert(draw::orderKey(seed, id));
+    QCOMPARE(keys.size(), 100000);
+    QVERIFY(draw::orderKey(1, 5) != draw::orderKey(2, 5));
+}
+
+QTEST_GUILESS_MAIN(TestSelection)
+#include "tst_selection.moc"
