@@ -38,8 +38,9 @@ double medianMs(int runs, const std::function<void()> &work) {
 void fillStore(QSqlDatabase db, int n) {
     db.transaction();
     QSqlQuery award(db);
-    award.prepare(QStringLiteral("INSERT INTO JPList (ID, JXName, JXNum, JXGroup, JPName, "
-                                 "OrderNum, isReLuck) VALUES (?, ?, ?, ?, ?, ?, 0)"));
+    award.prepare(
+        QStringLiteral("INSERT INTO JPList (ID, JXName, JXNum, JXGroup, JPName, "
+                       "OrderNum, isReLuck) VALUES (?, ?, ?, ?, ?, ?, 0)"));
     for (int a = 1; a <= 20; ++a) {
         award.addBindValue(a);
         award.addBindValue(QStringLiteral("奖项%1").arg(a));
@@ -50,9 +51,10 @@ void fillStore(QSqlDatabase db, int n) {
         award.exec();
     }
     QSqlQuery user(db);
-    user.prepare(QStringLiteral("INSERT INTO UserList (ID, UserName, UserPart, UserPhoto, "
-                                "DiffNum, UserStatus, JxID, UpdateTime) "
-                                "VALUES (?, ?, '研发部', '', ?, ?, ?, ?)"));
+    user.prepare(
+        QStringLiteral("INSERT INTO UserList (ID, UserName, UserPart, UserPhoto, "
+                       "DiffNum, UserStatus, JxID, UpdateTime) "
+                       "VALUES (?, ?, '研发部', '', ?, ?, ?, ?)"));
     const QString now = store::nowText();
     for (int id = 1; id <= n; ++id) {
         const bool winner = id % 200 == 0;
@@ -102,10 +104,11 @@ void benchRoster(int n) {
     const double luckPos =
         medianMs(7, [&] { progress = draw::luckProgress(store::mainConn(), total); });
 
-    std::printf("roster %7d: loadJx %7.2f ms | Start press (batch 10) %6.2f ms, cold %7.2f ms | "
-                "scroll tick %6.3f ms | getLuckPos (20 awards, %lld winners) %6.2f ms -> %s\n",
-                n, load, press, coldPress, tick, static_cast<long long>(n / 200), luckPos,
-                qPrintable(progress));
+    std::printf(
+        "roster %7d: loadJx %7.2f ms | Start press (batch 10) %6.2f ms, cold %7.2f ms | "
+        "scroll tick %6.3f ms | getLuckPos (20 awards, %lld winners) %6.2f ms -> %s\n",
+        n, load, press, coldPress, tick, static_cast<long long>(n / 200), luckPos,
+        qPrintable(progress));
     std::fflush(stdout);
     shutDown();
     resetAppState();

@@ -58,8 +58,8 @@ bool parseAuditLine(const QString &line, PressRecord *record) {
     r.digest = fields.value(QStringLiteral("digest"));
     if (!seedOk || rule.size() != 4 || !fields.contains(QStringLiteral("winners"))) return false;
     r.rule = {r.awardId, rule[0].toInt(), rule[1].toInt(), rule[2].toInt(), rule[3].toInt()};
-    for (const QString &id : fields.value(QStringLiteral("winners")).split(QLatin1Char(','),
-                                                                         Qt::SkipEmptyParts))
+    for (const QString &id :
+         fields.value(QStringLiteral("winners")).split(QLatin1Char(','), Qt::SkipEmptyParts))
         r.winners.push_back(id.toLongLong());
     *record = r;
     return true;

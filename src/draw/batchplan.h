@@ -6,7 +6,7 @@
 namespace draw {
 
 struct BatchPlan {
-    int slotCount = 0;      // N, JXNum
+    int slotCount = 0;   // N, JXNum
     int batches = 0;     // G, JXGroup clamped to N: the value shown on the stage
     int have = 0;        // winners stored for the award
     int remaining = 0;   // N - have; negative when slots were reduced below the winners

@@ -57,7 +57,9 @@ std::vector<size_t> samplePositions(size_t n, size_t k) {
     return positions;
 }
 
-void warn(const QString &text) { ui().message(text, MsgStyle::Exclamation, titles::warning); }
+void warn(const QString &text) {
+    ui().message(text, MsgStyle::Exclamation, titles::warning);
+}
 
 }  // namespace
 
@@ -75,8 +77,9 @@ QString winnersText(QSqlDatabase db, int id) {
     query.setForwardOnly(true);
     // The + keeps the planner on the JxID index (the winners) instead of walking the whole
     // roster in UpdateTime order.
-    query.prepare(QStringLiteral("SELECT UserName FROM UserList WHERE JxID > '' AND JxID LIKE ? "
-                                 "ORDER BY +UpdateTime DESC, ID ASC"));
+    query.prepare(
+        QStringLiteral("SELECT UserName FROM UserList WHERE JxID > '' AND JxID LIKE ? "
+                       "ORDER BY +UpdateTime DESC, ID ASC"));
     query.addBindValue(store::awardPattern(id));
     query.exec();
     const AppState &state = appState();
@@ -109,9 +112,10 @@ bool DrawEngine::loadJx(int id, bool resetButtons) {
     QSqlDatabase db = store::mainConn();
     const int have = countAwardWinners(db, id);
     QSqlQuery query(db);
-    query.prepare(QStringLiteral("SELECT OrderNum, JXName, JXNum, JXGroup, JPName, JPPhoto, "
-                                 "isReLuck, RangeType, RangeNum1, RangeNum2 FROM JPList "
-                                 "WHERE ID=? LIMIT 1"));
+    query.prepare(
+        QStringLiteral("SELECT OrderNum, JXName, JXNum, JXGroup, JPName, JPPhoto, "
+                       "isReLuck, RangeType, RangeNum1, RangeNum2 FROM JPList "
+                       "WHERE ID=? LIMIT 1"));
     query.addBindValue(id);
     if (!query.exec() || !query.next()) {
         warn(QStringLiteral("找不到指定的奖项!"));
@@ -128,16 +132,14 @@ bool DrawEngine::loadJx(int id, bool resetButtons) {
     award.plan = planBatch(query.value(2).toInt(), query.value(3).toInt(), have);
 
     const BatchPlan &plan = award.plan;
-    send(proto::vbLoadJx, QStringList{award.name, QString::number(plan.slotCount),
-                                      QString::number(plan.batches),
-                                      QString::number(plan.remaining), award.prizeName,
-                                      award.picturePath}
-                              .join(proto::kSep));
+    send(proto::vbLoadJx,
+         QStringList{award.name, QString::number(plan.slotCount), QString::number(plan.batches),
+                     QString::number(plan.remaining), award.prizeName, award.picturePath}
+             .join(proto::kSep));
     const QString names = winnersText(db, id);
-    send(proto::updateLuckLst, names.isEmpty()
-                                   ? QStringLiteral("当前奖项暂无获奖名单...")
-                                   : QStringLiteral("恭喜∶") + names + QStringLiteral("获得") +
-                                         award.name);
+    send(proto::updateLuckLst,
+         names.isEmpty() ? QStringLiteral("当前奖项暂无获奖名单...")
+                         : QStringLiteral("恭喜∶") + names + QStringLiteral("获得") + award.name);
     if (id != m_session.award.id) {
         if (!m_session.prizeHead.trimmed().isEmpty())
             send(proto::vbAddImg, m_session.prizeHead + award.picturePath);
@@ -194,13 +196,13 @@ void DrawEngine::firstOpenAward(bool resetButtons) {
 }
 
 void DrawEngine::stepAward(bool forward, bool wrap) {
-    const QVariant next = store::scalar(
-        store::mainConn(),
-        forward ? QStringLiteral("SELECT ID FROM JPList WHERE OrderNum>? "
-                                 "ORDER BY OrderNum ASC LIMIT 1")
-                : QStringLiteral("SELECT ID FROM JPList WHERE OrderNum<? "
-                                 "ORDER BY OrderNum DESC LIMIT 1"),
-        {m_session.award.orderNum});
+    const QVariant next =
+        store::scalar(store::mainConn(),
+                      forward ? QStringLiteral("SELECT ID FROM JPList WHERE OrderNum>? "
+                                               "ORDER BY OrderNum ASC LIMIT 1")
+                              : QStringLiteral("SELECT ID FROM JPList WHERE OrderNum<? "
+                                               "ORDER BY OrderNum DESC LIMIT 1"),
+                      {m_session.award.orderNum});
     if (next.isValid())
         loadJx(next.toInt(), false);
     else if (wrap)

@@ -67,8 +67,8 @@ QString historySnapshotPath(const QString &appPath, const QDateTime &time) {
 bool clearAllWins(QSqlDatabase db) {
     bool ok = db.transaction();
     ok = ok && store::exec(db, QStringLiteral("UPDATE UserList SET JxID='', UserStatus=0 WHERE "
-                                                "JxID<>'' OR UserStatus<>0 OR "
-                                                "UserStatus IS NULL"));
+                                              "JxID<>'' OR UserStatus<>0 OR "
+                                              "UserStatus IS NULL"));
     ok = ok && db.commit();
     if (!ok) {
         db.rollback();
@@ -84,8 +84,7 @@ bool oneKeyReset(QSqlDatabase db, const QString &progressText,
     if (!ui().question(QStringLiteral("重要提示∶\n确认要清空所有中奖记录,复原至初始状态么?"),
                        titles::warning))
         return false;
-    const QString snapshot =
-        historySnapshotPath(appState().appPath, QDateTime::currentDateTime());
+    const QString snapshot = historySnapshotPath(appState().appPath, QDateTime::currentDateTime());
     if (!exportWinners || !exportWinners(snapshot)) return false;
     if (!clearAllWins(db)) return false;
     ui().message(QStringLiteral("已恢复至初始抽奖状态!"), MsgStyle::Information, titles::notice);

@@ -37,7 +37,6 @@ bool clearAllWins(QSqlDatabase db);
 // The one-key reset of the console. With some progress shown (anything but "0%") it asks, saves
 // a snapshot through `exportWinners`, clears and confirms; at "0%" it clears silently. Returns
 // true when the wins were cleared. A snapshot that cannot be written leaves the wins in place.
-bool oneKeyReset(QSqlDatabase db, const QString &progressText,
-                 const WinnerExporter &exportWinners);
+bool oneKeyReset(QSqlDatabase db, const QString &progressText, const WinnerExporter &exportWinners);
 
 }  // namespace draw

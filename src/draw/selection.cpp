@@ -15,15 +15,22 @@ namespace draw {
 
 namespace {
 
-bool hasFallback(int rangeType) { return rangeType >= 1 && rangeType <= 4; }
+bool hasFallback(int rangeType) {
+    return rangeType >= 1 && rangeType <= 4;
+}
 
 bool inPrimaryRange(const AwardRule &rule, qint64 n) {
     switch (rule.rangeType) {
-    case 1: return n > rule.rangeNum1;
-    case 2: return n == rule.rangeNum1;
-    case 3: return n < rule.rangeNum1;
-    case 4: return n > rule.rangeNum1 && n < rule.rangeNum2;
-    default: return true;
+        case 1:
+            return n > rule.rangeNum1;
+        case 2:
+            return n == rule.rangeNum1;
+        case 3:
+            return n < rule.rangeNum1;
+        case 4:
+            return n > rule.rangeNum1 && n < rule.rangeNum2;
+        default:
+            return true;
     }
 }
 
@@ -96,9 +103,14 @@ Candidates loadCandidates(QSqlDatabase db, const AwardRule &rule) {
         const std::optional<qint64> diffNum =
             diff.isNull() ? std::nullopt : std::optional<qint64>(diff.toLongLong());
         switch (classify(rule, diffNum)) {
-        case Pool::Primary: candidates.primary.push_back(id); break;
-        case Pool::Fallback: candidates.fallback.push_back(id); break;
-        case Pool::Excluded: break;
+            case Pool::Primary:
+                candidates.primary.push_back(id);
+                break;
+            case Pool::Fallback:
+                candidates.fallback.push_back(id);
+                break;
+            case Pool::Excluded:
+                break;
         }
         if (inScrollSample(rule, diffNum)) candidates.sample.push_back(id);
     }
@@ -112,7 +124,9 @@ StoreStamp storeStamp(QSqlDatabase db) {
     return stamp;
 }
 
-quint64 newSeed() { return QRandomGenerator::system()->generate64(); }
+quint64 newSeed() {
+    return QRandomGenerator::system()->generate64();
+}
 
 quint64 orderKey(quint64 seed, qint64 id) {
     // Two keyed rounds: the first spreads consecutive IDs, the second folds the seed in again so

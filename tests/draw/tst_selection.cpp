@@ -15,7 +15,9 @@ using IdList = QList<qint64>;
 
 namespace {
 
-IdList toList(const std::vector<qint64> &ids) { return IdList(ids.begin(), ids.end()); }
+IdList toList(const std::vector<qint64> &ids) {
+    return IdList(ids.begin(), ids.end());
+}
 
 // Chi-square of observed counts against a uniform expectation.
 double chiSquare(const QList<int> &counts) {
@@ -132,25 +134,21 @@ void TestSelection::rangePoolsAndFallback_data() {
     QTest::addColumn<IdList>("primary");
     QTest::addColumn<IdList>("fallback");
     const QList<int> tenZeros(10, 0);
-    QTest::newRow("greater: four in range") << 1 << 5 << 0 << QList<int>{6, 7, 8, 9, 1, 2}
-                                            << IdList{1, 2, 3, 4} << IdList{5, 6};
-    QTest::newRow("greater: one in range") << 1 << 5 << 0 << (QList<int>{9} + tenZeros)
-                                           << IdList{1}
+    QTest::newRow("greater: four in range")
+        << 1 << 5 << 0 << QList<int>{6, 7, 8, 9, 1, 2} << IdList{1, 2, 3, 4} << IdList{5, 6};
+    QTest::newRow("greater: one in range") << 1 << 5 << 0 << (QList<int>{9} + tenZeros) << IdList{1}
                                            << IdList{2, 3, 4, 5, 6, 7, 8, 9, 10, 11};
     QTest::newRow("greater: nobody in range")
         << 1 << 5 << 0 << tenZeros << IdList{} << IdList{1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
     QTest::newRow("equals 5, nobody has 5: only DiffNum 0 behind")
         << 2 << 5 << 0 << QList<int>{0, 7, 0, 7} << IdList{} << IdList{1, 3};
-    QTest::newRow("equals 0, only 7 left") << 2 << 0 << 0 << QList<int>{7} << IdList{}
-                                           << IdList{1};
+    QTest::newRow("equals 0, only 7 left") << 2 << 0 << 0 << QList<int>{7} << IdList{} << IdList{1};
     QTest::newRow("less") << 3 << 5 << 0 << QList<int>{4, 5, 6} << IdList{1} << IdList{2, 3};
     QTest::newRow("between 10 and 20, edges outside")
-        << 4 << 10 << 20 << QList<int>{9, 10, 11, 19, 20, 21} << IdList{3, 4}
-        << IdList{1, 2, 5, 6};
-    QTest::newRow("no range") << 0 << 5 << 9 << QList<int>{1, 7, 3} << IdList{1, 2, 3}
-                              << IdList{};
-    QTest::newRow("unknown type is no range") << 9 << 5 << 9 << QList<int>{1, 7} << IdList{1, 2}
-                                              << IdList{};
+        << 4 << 10 << 20 << QList<int>{9, 10, 11, 19, 20, 21} << IdList{3, 4} << IdList{1, 2, 5, 6};
+    QTest::newRow("no range") << 0 << 5 << 9 << QList<int>{1, 7, 3} << IdList{1, 2, 3} << IdList{};
+    QTest::newRow("unknown type is no range")
+        << 9 << 5 << 9 << QList<int>{1, 7} << IdList{1, 2} << IdList{};
 }
 
 void TestSelection::rangePoolsAndFallback() {
@@ -206,9 +204,8 @@ void TestSelection::whoMayWinAgain() {
                                         {"无", 1, 4},       {"|13|", 3, 5}, {"", 1, 6},
                                         {"|5|", 3, 7}};
     for (const QVariantList &s : states)
-        QVERIFY(store::exec(folder.db(),
-                            QStringLiteral("UPDATE UserList SET JxID=?, UserStatus=? WHERE ID=?"),
-                            s));
+        QVERIFY(store::exec(
+            folder.db(), QStringLiteral("UPDATE UserList SET JxID=?, UserStatus=? WHERE ID=?"), s));
     const draw::Candidates candidates =
         draw::loadCandidates(folder.db(), AwardRule{awardId, isReLuck, 0, 0, 0});
     QCOMPARE(toList(candidates.primary), eligible);
