@@ -235,13 +235,23 @@ DrawEngine::StartOutcome DrawEngine::pressStart() {
 
 void DrawEngine::refreshCandidates() {
     QSqlDatabase db = store::mainConn();
-    const StoreStamp before = storeStamp(db);
-    if (m_session.candidatesRule == m_session.award.rule && m_session.candidatesStamp == before)
-        return;
-    m_session.candidates = loadCandidates(db, m_session.award.rule);
+    const StoreStamp now = storeStamp(db);
+    const AwardRule &rule = m_session.award.rule;
+    if (m_session.candidatesRule == rule && m_session.candidatesStamp == now) return;
+    if (!(m_session.rosterStamp == now)) {
+        m_session.roster = readRoster(db);
+        m_session.rosterStamp = now;
+    }
+    m_session.candidates = selectCandidates(m_session.roster, excludedIds(db, rule), rule);
     m_session.candidatesDigest = candidateDigest(m_session.candidates);
-    m_session.candidatesRule = m_session.award.rule;
-    m_session.candidatesStamp = before;
+    m_session.candidatesRule = rule;
+    m_session.candidatesStamp = now;
+}
+
+void DrawEngine::keepRosterAfterOwnWrite(bool rosterWasCurrent) {
+    // Recording and cancelling touch JxID, UserStatus and UpdateTime only: if nobody else wrote
+    // in between, the roster's IDs and distinction numbers are still what was read.
+    if (rosterWasCurrent) m_session.rosterStamp = storeStamp(store::mainConn());
 }
 
 void DrawEngine::drawWinners() {
@@ -279,10 +289,11 @@ QStringList DrawEngine::namesOf(const std::vector<qint64> &ids) {
 }
 
 QString DrawEngine::pushScrollSample() {
-    const std::vector<qint64> &pool = m_session.candidates.sample;
+    const Candidates &pool = m_session.candidates;
     std::vector<qint64> ids;
-    for (size_t position : samplePositions(pool.size(), size_t(std::max(0, m_session.batchCount))))
-        ids.push_back(pool[position]);
+    const size_t count = size_t(std::max(0, m_session.batchCount));
+    for (size_t position : samplePositions(pool.sampleSize(), count))
+        ids.push_back(pool.sampleAt(position));
     if (ids.empty()) return QString();
     const QString value = luckTypePrefix() + joinWinnerItems(namesOf(ids), ids);
     send(proto::vbPushLst, value);
@@ -296,6 +307,7 @@ bool DrawEngine::recordWinners() {
     QSqlDatabase db = store::mainConn();
 
     // One batch, one moment, one transaction: the batch is stored whole or not at all.
+    const bool rosterCurrent = m_session.rosterStamp == storeStamp(db);
     const QString time = store::nowText();
     bool ok = db.transaction();
     QSqlQuery query(db);
@@ -308,12 +320,16 @@ bool DrawEngine::recordWinners() {
         query.bindValue(2, id);
         ok = query.exec();
     }
-    const QString error = query.lastError().text();
+    QString error = query.lastError().text();
     query.finish();
-    ok = ok && db.commit();
+    if (ok && !db.commit()) {
+        ok = false;
+        error = db.lastError().text();
+    }
+    if (!ok) db.rollback();
+    keepRosterAfterOwnWrite(rosterCurrent);
     if (!ok) {
-        db.rollback();
-        Q_EMIT recordFailed(error.isEmpty() ? db.lastError().text() : error);
+        Q_EMIT recordFailed(error);
         return false;
     }
 
@@ -331,6 +347,7 @@ bool DrawEngine::cancelLastBatch() {
 
     const QString marker = store::awardMarker(m_session.award.id);
     QSqlDatabase db = store::mainConn();
+    const bool rosterCurrent = m_session.rosterStamp == storeStamp(db);
     db.transaction();
     QSqlQuery read(db);
     read.prepare(QStringLiteral("SELECT JxID FROM UserList WHERE ID=?"));
@@ -349,6 +366,7 @@ bool DrawEngine::cancelLastBatch() {
                         {wins.remove(marker), id});
     }
     if (!db.commit()) db.rollback();
+    keepRosterAfterOwnWrite(rosterCurrent);
 
     loadJx(m_session.award.id, false);
     m_session.canCancel = false;

@@ -60,6 +60,7 @@ private:
     // The candidates of the loaded award, read again only when the award's rule or the store
     // has changed since the last read.
     void refreshCandidates();
+    void keepRosterAfterOwnWrite(bool rosterWasCurrent);
     QStringList namesOf(const std::vector<qint64> &ids);
     QString luckTypePrefix() const;
     void send(const QString &name, const QString &value);

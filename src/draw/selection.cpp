@@ -2,8 +2,10 @@
 
 #include <QCryptographicHash>
 #include <QRandomGenerator>
+#include <QSqlDriver>
 #include <QSqlQuery>
-#include <QtEndian>
+
+#include <sqlite3.h>
 
 #include <algorithm>
 
@@ -67,6 +69,12 @@ std::vector<qint64> smallestKeys(const std::vector<qint64> &pool, quint64 seed, 
     return ids;
 }
 
+sqlite3 *sqliteHandle(QSqlDatabase db) {
+    const QVariant handle = db.driver() ? db.driver()->handle() : QVariant();
+    if (!handle.isValid() || qstrcmp(handle.typeName(), "sqlite3*") != 0) return nullptr;
+    return *static_cast<sqlite3 *const *>(handle.constData());
+}
+
 }  // namespace
 
 Pool classify(const AwardRule &rule, std::optional<qint64> diffNum) {
@@ -82,26 +90,76 @@ bool inScrollSample(const AwardRule &rule, std::optional<qint64> diffNum) {
     return diffNum && (*diffNum == rule.rangeNum1 || *diffNum == 0);
 }
 
-Candidates loadCandidates(QSqlDatabase db, const AwardRule &rule) {
-    // The unary + keeps SQLite from answering through the JxID index: nearly every row
-    // qualifies, and a scan in ID order is what the digest and the pools want.
-    const bool anyWinExcludes = rule.isReLuck == 1;
+std::vector<qint64> excludedIds(QSqlDatabase db, const AwardRule &rule) {
+    // Every non-empty JxID sorts above '', which lets the JxID index skip those without a win.
     QSqlQuery query(db);
     query.setForwardOnly(true);
-    query.prepare(anyWinExcludes
-                      ? QStringLiteral("SELECT ID, DiffNum FROM UserList WHERE (+JxID IS NULL OR "
-                                       "+JxID='') AND UserStatus<>1 ORDER BY ID")
-                      : QStringLiteral("SELECT ID, DiffNum FROM UserList WHERE (+JxID IS NULL OR "
-                                       "+JxID NOT LIKE ?) AND UserStatus<>1 ORDER BY ID"));
-    if (!anyWinExcludes) query.addBindValue(store::awardPattern(rule.awardId));
+    if (rule.isReLuck == 1) {
+        query.prepare(
+            QStringLiteral("SELECT ID FROM UserList WHERE JxID > '' UNION "
+                           "SELECT ID FROM UserList WHERE UserStatus=1 OR "
+                           "UserStatus IS NULL ORDER BY 1"));
+    } else {
+        query.prepare(
+            QStringLiteral("SELECT ID FROM UserList WHERE JxID > '' AND JxID LIKE ? "
+                           "UNION SELECT ID FROM UserList WHERE UserStatus=1 OR "
+                           "UserStatus IS NULL ORDER BY 1"));
+        query.addBindValue(store::awardPattern(rule.awardId));
+    }
+    std::vector<qint64> ids;
+    query.exec();
+    while (query.next())
+        ids.push_back(query.value(0).toLongLong());
+    return ids;
+}
 
-    Candidates candidates;
-    if (!query.exec()) return candidates;
+Roster readRoster(QSqlDatabase db) {
+    Roster roster;
+    const qint64 rows =
+        store::scalar(db, QStringLiteral("SELECT COUNT(*) FROM UserList")).toLongLong();
+    roster.ids.reserve(size_t(rows));
+    roster.diffNums.reserve(size_t(rows));
+    const QString sql = QStringLiteral("SELECT ID, DiffNum FROM UserList ORDER BY ID");
+    // A million rows through QSqlQuery cost a QVariant per value; SQLite's own interface on the
+    // same connection reads them several times faster.
+    if (sqlite3 *handle = sqliteHandle(db)) {
+        sqlite3_stmt *statement = nullptr;
+        const QByteArray sqlText = sql.toUtf8();
+        if (sqlite3_prepare_v2(handle, sqlText.constData(), int(sqlText.size()), &statement,
+                               nullptr) != SQLITE_OK)
+            return roster;
+        while (sqlite3_step(statement) == SQLITE_ROW) {
+            roster.ids.push_back(sqlite3_column_int64(statement, 0));
+            roster.diffNums.push_back(sqlite3_column_type(statement, 1) == SQLITE_NULL
+                                          ? Roster::kNoNumber
+                                          : sqlite3_column_int64(statement, 1));
+        }
+        sqlite3_finalize(statement);
+        return roster;
+    }
+    QSqlQuery query(db);
+    query.setForwardOnly(true);
+    query.exec(sql);
     while (query.next()) {
-        const qint64 id = query.value(0).toLongLong();
+        roster.ids.push_back(query.value(0).toLongLong());
         const QVariant diff = query.value(1);
+        roster.diffNums.push_back(diff.isNull() ? Roster::kNoNumber : diff.toLongLong());
+    }
+    return roster;
+}
+
+Candidates selectCandidates(const Roster &roster, const std::vector<qint64> &excluded,
+                            const AwardRule &rule) {
+    Candidates candidates;
+    auto excludedAt = excluded.begin();
+    for (size_t i = 0; i < roster.ids.size(); ++i) {
+        const qint64 id = roster.ids[i];
+        while (excludedAt != excluded.end() && *excludedAt < id)
+            ++excludedAt;
+        if (excludedAt != excluded.end() && *excludedAt == id) continue;
+        const qint64 n = roster.diffNums[i];
         const std::optional<qint64> diffNum =
-            diff.isNull() ? std::nullopt : std::optional<qint64>(diff.toLongLong());
+            n == Roster::kNoNumber ? std::nullopt : std::optional<qint64>(n);
         switch (classify(rule, diffNum)) {
             case Pool::Primary:
                 candidates.primary.push_back(id);
@@ -110,11 +168,15 @@ Candidates loadCandidates(QSqlDatabase db, const AwardRule &rule) {
                 candidates.fallback.push_back(id);
                 break;
             case Pool::Excluded:
+                if (inScrollSample(rule, diffNum)) candidates.unranged.push_back(id);
                 break;
         }
-        if (inScrollSample(rule, diffNum)) candidates.sample.push_back(id);
     }
     return candidates;
+}
+
+Candidates loadCandidates(QSqlDatabase db, const AwardRule &rule) {
+    return selectCandidates(readRoster(db), excludedIds(db, rule), rule);
 }
 
 StoreStamp storeStamp(QSqlDatabase db) {
@@ -148,19 +210,24 @@ std::vector<qint64> pickWinners(const std::vector<qint64> &primary,
 }
 
 QString candidateDigest(const Candidates &candidates) {
-    // Each ID as 8 little-endian bytes, the primary pool, "/", the fallback pool.
-    QCryptographicHash hash(QCryptographicHash::Blake2b_256);
-    auto addPool = [&hash](const std::vector<qint64> &ids) {
-        std::vector<qint64> little(ids.size());
-        for (size_t i = 0; i < ids.size(); ++i)
-            little[i] = qToLittleEndian(ids[i]);
-        hash.addData(QByteArrayView(reinterpret_cast<const char *>(little.data()),
-                                    qsizetype(little.size() * sizeof(qint64))));
+    // Each pool as its size and then its IDs, every number an unsigned LEB128 varint (three
+    // bytes for IDs up to two million): the primary pool, then the fallback pool.
+    QByteArray bytes;
+    bytes.reserve(qsizetype(candidates.count() * 3 + 32));
+    auto addNumber = [&bytes](quint64 value) {
+        do {
+            const char low = char(value & 0x7f);
+            value >>= 7;
+            bytes.append(value ? char(low | 0x80) : low);
+        } while (value);
     };
-    addPool(candidates.primary);
-    hash.addData(QByteArrayView("/"));
-    addPool(candidates.fallback);
-    return QString::fromLatin1(hash.result().toHex());
+    for (const std::vector<qint64> *pool : {&candidates.primary, &candidates.fallback}) {
+        addNumber(pool->size());
+        for (qint64 id : *pool)
+            addNumber(static_cast<quint64>(id));
+    }
+    return QString::fromLatin1(
+        QCryptographicHash::hash(bytes, QCryptographicHash::Blake2b_256).toHex());
 }
 
 QString cleanName(QString name) {

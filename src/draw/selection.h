@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -36,17 +37,38 @@ Pool classify(const AwardRule &rule, std::optional<qint64> diffNum);
 // narrowed to the number and 0 only for the equals type with a non-zero number.
 bool inScrollSample(const AwardRule &rule, std::optional<qint64> diffNum);
 
-// The eligible participants of one press, split by pool, IDs ascending. `sample` holds the IDs
-// the scroll may show.
+// The eligible participants of one press, split by pool, IDs ascending. The scroll may show
+// both pools and `unranged`: those without a distinction number, who belong to no range.
 struct Candidates {
     std::vector<qint64> primary;
     std::vector<qint64> fallback;
-    std::vector<qint64> sample;
+    std::vector<qint64> unranged;
     qint64 count() const { return qint64(primary.size() + fallback.size()); }
+    size_t sampleSize() const { return primary.size() + fallback.size() + unranged.size(); }
+    // The i-th ID the scroll may show, i < sampleSize().
+    qint64 sampleAt(size_t i) const {
+        if (i < primary.size()) return primary[i];
+        i -= primary.size();
+        return i < fallback.size() ? fallback[i] : unranged[i - fallback.size()];
+    }
 };
 
-// Reads the eligible participants of an award in one pass: no win of this award (or none at all
-// for isReLuck 1), and never one who gave up (UserStatus 1).
+// The ID and distinction number of every participant, ascending by ID: what the ranges look at.
+// Wins and statuses are not part of it, so recording a batch leaves it valid.
+struct Roster {
+    static constexpr qint64 kNoNumber = std::numeric_limits<qint64>::min();  // NULL DiffNum
+    std::vector<qint64> ids;
+    std::vector<qint64> diffNums;
+};
+Roster readRoster(QSqlDatabase db);
+// The IDs that may not win an award, ascending: a status of 1 (or none), and a win of this
+// award, or any text at all in JxID when isReLuck is 1. Few, and found through indexes.
+std::vector<qint64> excludedIds(QSqlDatabase db, const AwardRule &rule);
+// The roster without the excluded, split into the pools of the rule.
+Candidates selectCandidates(const Roster &roster, const std::vector<qint64> &excluded,
+                            const AwardRule &rule);
+// The eligible participants of an award as the store holds them now: no win of this award (or
+// none at all for isReLuck 1), and never one who gave up (UserStatus 1).
 Candidates loadCandidates(QSqlDatabase db, const AwardRule &rule);
 
 // Tells whether the store may have changed: the rows this connection has changed since it was

@@ -42,6 +42,10 @@ struct DrawSession {
     // scroll samples from here.
     Candidates candidates;
     QString candidatesDigest;
+    // IDs and distinction numbers of the whole roster, read again only when the store changed
+    // in a way the draw's own recording does not explain.
+    Roster roster;
+    StoreStamp rosterStamp;
     AwardRule candidatesRule;
     StoreStamp candidatesStamp;
     PressRecord lastPress;

@@ -60,6 +60,7 @@ private Q_SLOTS:
     void interruptedRecordingStoresNothing();
     void pressIsReproducedFromTheAuditLog();
     void scrollSampleComesFromTheEligiblePool();
+    void storeChangesReachTheNextPress();
 
 private:
     ScriptedUi *m_ui = nullptr;
@@ -447,6 +448,30 @@ void TestEngine::scrollSampleComesFromTheEligiblePool() {
     rig.stage.clear();
     QVERIFY(rig.engine.pushScrollSample().isEmpty());
     QVERIFY(rig.stage.calls.isEmpty());
+}
+
+void TestEngine::storeChangesReachTheNextPress() {
+    // The roster is read ahead and kept across presses; any change made to the store outside
+    // the draw's own recording must still reach the next press.
+    Rig rig;
+    QVERIFY(rig.started);
+    const int award = rig.folder.addAward("一等奖", 10, 10, 1, 1, 5);  // greater than 5
+    const QList<int> ids = rig.folder.addUsers({"a|x|9", "b|x|1", "c|x|1"});
+    rig.engine.loadJx(award, false);
+    QVERIFY(rig.drawAndRecord());
+    QCOMPARE(rig.session.lastWinnerIds, QString::number(ids[0]));
+    // Recorded by the draw itself: the roster stays, the winner is out.
+    QCOMPARE(rig.session.candidates.count(), 2);
+
+    // Someone edits a distinction number, another adds a participant, a third gives up.
+    store::exec(rig.folder.db(), "UPDATE UserList SET DiffNum=8 WHERE ID=?", {ids[1]});
+    const int added = rig.folder.addUsers({"d|x|7"}).first();
+    rig.setWins(ids[2], "无", 1);
+    rig.session.drawState = draw::Idle;
+    QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Drawn);
+    QCOMPARE(rig.session.candidates.primary, (std::vector<qint64>{ids[1], added}));
+    QVERIFY(rig.session.candidates.fallback.empty());
+    QCOMPARE(rig.session.lastPress.candidateCount, 2);
 }
 
 QTEST_MAIN(TestEngine)

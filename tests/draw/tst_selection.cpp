@@ -209,7 +209,7 @@ void TestSelection::whoMayWinAgain() {
     const draw::Candidates candidates =
         draw::loadCandidates(folder.db(), AwardRule{awardId, isReLuck, 0, 0, 0});
     QCOMPARE(toList(candidates.primary), eligible);
-    QCOMPARE(toList(candidates.sample), eligible);
+    QCOMPARE(candidates.sampleSize(), size_t(eligible.size()));
 }
 
 void TestSelection::scrollSampleNarrowsOnlyTheEqualsType() {
