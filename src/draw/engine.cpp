@@ -261,7 +261,8 @@ void DrawEngine::drawWinners() {
 
     PressRecord &press = m_session.lastPress;
     press = PressRecord();
-    press.time = QDateTime::currentDateTime();
+    const QDateTime now = QDateTime::currentDateTime();
+    press.time = now.toOffsetFromUtc(now.offsetFromUtc());  // logged with its UTC offset
     press.awardId = rule.awardId;
     press.rule = rule;
     press.batchCount = m_session.batchCount;

@@ -392,6 +392,8 @@ void TestEngine::pressIsReproducedFromTheAuditLog() {
     QCOMPARE(record.batchCount, 4);
     QCOMPARE(record.candidateCount, 30);
     QCOMPARE(record.seed, rig.session.lastPress.seed);
+    QVERIFY(qAbs(record.time.secsTo(QDateTime::currentDateTime())) < 60);
+    QVERIFY(lines.last().contains(QRegularExpression("time=\\S+(Z|[+-]\\d\\d:\\d\\d)\\t")));
     QStringList winners;
     for (qint64 id : record.winners)
         winners << QString::number(id);
