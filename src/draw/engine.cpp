@@ -87,7 +87,7 @@ QString winnersText(QSqlDatabase db, int id) {
     while (query.next()) {
         QString name = query.value(0).toString();
         if (state.isHideName == 1)
-            name = hideName(name, state.hideLeft, state.hideRight, state.hideReStr);
+            name = ::hideName(name, state.hideLeft, state.hideRight, state.hideReStr);
         names += name + kNamesGap;
     }
     return names;

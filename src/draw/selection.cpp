@@ -10,6 +10,7 @@
 #include <algorithm>
 
 #include "core/appstate.h"
+#include "core/helpers.h"
 #include "core/store.h"
 #include "stage/protocol.h"
 
@@ -235,23 +236,11 @@ QString cleanName(QString name) {
         .replace(QStringLiteral("$"), QStringLiteral("＄"));
 }
 
-QString hideName(const QString &name, int left, int right, const QString &mask) {
-    left = std::max(0, left);
-    right = std::max(0, right);
-    const QList<uint> code = name.toUcs4();
-    const std::u32string chars(code.begin(), code.end());
-    const int length = int(chars.size());
-    if (name.isEmpty() || left + right >= length) return name;
-    const int hidden = length - left - right;
-    return QString::fromStdU32String(chars.substr(0, size_t(left))) + mask.repeated(hidden) +
-           QString::fromStdU32String(chars.substr(size_t(length - right)));
-}
-
 QString stageName(const QString &name) {
     const AppState &state = appState();
     const QString cleaned = cleanName(name);
     if (state.isHideName != 1) return cleaned;
-    return hideName(cleaned, state.hideLeft, state.hideRight, state.hideReStr);
+    return ::hideName(cleaned, state.hideLeft, state.hideRight, state.hideReStr);
 }
 
 QString joinWinnerItems(const QStringList &names, const std::vector<qint64> &ids) {

@@ -97,10 +97,8 @@ QString candidateDigest(const Candidates &candidates);
 
 // Names on their way to the stage: "|" and "$" are the grammar's separators.
 QString cleanName(QString name);
-// Masks the middle of a name: the first `left` and last `right` characters stay, each hidden
-// character becomes `mask`. A name not longer than left + right is shown whole.
-QString hideName(const QString &name, int left, int right, const QString &mask);
-// The shown form of a participant's name: cleaned, then masked when names are hidden.
+// The shown form of a participant's name: cleaned, then masked (hideName) when names are
+// hidden.
 QString stageName(const QString &name);
 // "name$id|name$id" for the stage, in the given order.
 QString joinWinnerItems(const QStringList &names, const std::vector<qint64> &ids);
