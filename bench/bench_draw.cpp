@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <ctime>
 #include <functional>
 #include <vector>
 
@@ -22,16 +23,46 @@
 
 namespace {
 
-double medianMs(int runs, const std::function<void()> &work) {
-    std::vector<double> times;
-    for (int i = 0; i < runs; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        work();
-        times.push_back(double(timer.nsecsElapsed()) / 1e6);
-    }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
+// Wall time, and the thread's own CPU time: the machine may be shared, and the CPU figure shows
+// the cost without the time spent waiting for a core.
+struct Timing {
+    double wall = 0;
+    double cpu = 0;
+};
+
+double threadCpuMs() {
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
+}
+
+Timing median(std::vector<Timing> runs) {
+    const size_t middle = runs.size() / 2;
+    auto byWall = [](const Timing &a, const Timing &b) { return a.wall < b.wall; };
+    auto byCpu = [](const Timing &a, const Timing &b) { return a.cpu < b.cpu; };
+    std::nth_element(runs.begin(), runs.begin() + long(middle), runs.end(), byWall);
+    const double wall = runs[middle].wall;
+    std::nth_element(runs.begin(), runs.begin() + long(middle), runs.end(), byCpu);
+    return {wall, runs[middle].cpu};
+}
+
+Timing timeOnce(const std::function<void()> &work) {
+    QElapsedTimer timer;
+    const double cpuStart = threadCpuMs();
+    timer.start();
+    work();
+    return {double(timer.nsecsElapsed()) / 1e6, threadCpuMs() - cpuStart};
+}
+
+Timing medianOf(int runs, const std::function<void()> &work) {
+    std::vector<Timing> times;
+    for (int i = 0; i < runs; ++i)
+        times.push_back(timeOnce(work));
+    return median(times);
+}
+
+void printLine(const char *what, Timing t) {
+    std::printf("  %-38s %9.3f ms wall %9.3f ms cpu\n", what, t.wall, t.cpu);
 }
 
 // n participants with DiffNum 0..9; one in 200 already holds a win of one of 20 awards.
@@ -89,43 +120,39 @@ void benchRoster(int n) {
         session.rosterStamp = draw::StoreStamp();
         session.candidatesStamp = draw::StoreStamp();
     };
-    const double load = medianMs(5, [&] {
+    const Timing load = medianOf(5, [&] {
         forgetRoster();
         engine.loadJx(1, true);
     });
-    const double press = medianMs(7, [&] {
+    const Timing press = medianOf(7, [&] {
         session.drawState = draw::Idle;
         engine.pressStart();
     });
-    std::vector<double> records;
+    std::vector<Timing> records;
     for (int i = 0; i < 5; ++i) {
         session.drawState = draw::Idle;
         engine.pressStart();
-        records.push_back(medianMs(1, [&] { engine.recordWinners(); }));
+        records.push_back(timeOnce([&] { engine.recordWinners(); }));
     }
-    std::sort(records.begin(), records.end());
-    const double record = records[records.size() / 2];
-    const double coldPress = medianMs(5, [&] {
+    const Timing coldPress = medianOf(5, [&] {
         session.drawState = draw::Idle;
         forgetRoster();
         engine.pressStart();
     });
-    const double tick = medianMs(200, [&] { engine.pushScrollSample(); });
+    const Timing tick = medianOf(200, [&] { engine.pushScrollSample(); });
     const qint64 total = draw::awardFigures(store::mainConn()).slotSum;
     QString progress;
-    const double luckPos =
-        medianMs(7, [&] { progress = draw::luckProgress(store::mainConn(), total); });
+    const Timing luckPos =
+        medianOf(7, [&] { progress = draw::luckProgress(store::mainConn(), total); });
 
-    std::printf(
-        "roster %7d:\n"
-        "  award load, roster read ahead      %8.2f ms\n"
-        "  Start press, batch of 10           %8.2f ms\n"
-        "  Start press, cold (roster read)    %8.2f ms\n"
-        "  recording a batch (with reload)    %8.2f ms\n"
-        "  scroll-sample tick                 %8.3f ms\n"
-        "  getLuckPos, 20 awards, %5lld wins  %8.2f ms (%s)\n",
-        n, load, press, coldPress, record, tick, static_cast<long long>(n / 200), luckPos,
-        qPrintable(progress));
+    std::printf("roster of %d (one in 200 already a winner):\n", n);
+    printLine("award load (roster read ahead)", load);
+    printLine("Start press, batch of 10", press);
+    printLine("Start press, cold (roster read)", coldPress);
+    printLine("recording a batch (with reload)", median(records));
+    printLine("scroll-sample tick", tick);
+    printLine("getLuckPos, 20 awards", luckPos);
+    std::printf("  progress shown: %s\n", qPrintable(progress));
     std::fflush(stdout);
     shutDown();
     resetAppState();

@@ -92,25 +92,27 @@ bool inScrollSample(const AwardRule &rule, std::optional<qint64> diffNum) {
 }
 
 std::vector<qint64> excludedIds(QSqlDatabase db, const AwardRule &rule) {
-    // Every non-empty JxID sorts above '', which lets the JxID index skip those without a win.
-    QSqlQuery query(db);
-    query.setForwardOnly(true);
-    if (rule.isReLuck == 1) {
-        query.prepare(
-            QStringLiteral("SELECT ID FROM UserList WHERE JxID > '' UNION "
-                           "SELECT ID FROM UserList WHERE UserStatus=1 OR "
-                           "UserStatus IS NULL ORDER BY 1"));
-    } else {
-        query.prepare(
-            QStringLiteral("SELECT ID FROM UserList WHERE JxID > '' AND JxID LIKE ? "
-                           "UNION SELECT ID FROM UserList WHERE UserStatus=1 OR "
-                           "UserStatus IS NULL ORDER BY 1"));
-        query.addBindValue(store::awardPattern(rule.awardId));
-    }
+    // Two statements, each answered by its own index: every non-empty JxID sorts above '', so
+    // the JxID index skips those without a win. (As one UNION, SQLite would scan the roster.)
     std::vector<qint64> ids;
-    query.exec();
-    while (query.next())
-        ids.push_back(query.value(0).toLongLong());
+    auto collect = [&](const QString &sql, const QVariantList &values) {
+        QSqlQuery query(db);
+        query.setForwardOnly(true);
+        query.prepare(sql);
+        for (const QVariant &value : values)
+            query.addBindValue(value);
+        query.exec();
+        while (query.next())
+            ids.push_back(query.value(0).toLongLong());
+    };
+    if (rule.isReLuck == 1)
+        collect(QStringLiteral("SELECT ID FROM UserList WHERE JxID > ''"), {});
+    else
+        collect(QStringLiteral("SELECT ID FROM UserList WHERE JxID > '' AND JxID LIKE ?"),
+                {store::awardPattern(rule.awardId)});
+    collect(QStringLiteral("SELECT ID FROM UserList WHERE UserStatus=1 OR UserStatus IS NULL"), {});
+    std::sort(ids.begin(), ids.end());
+    ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
     return ids;
 }
 
@@ -213,13 +215,13 @@ std::vector<qint64> pickWinners(const std::vector<qint64> &primary,
 QString candidateDigest(const Candidates &candidates) {
     // Each pool as its size and then its IDs, every number an unsigned LEB128 varint (three
     // bytes for IDs up to two million): the primary pool, then the fallback pool.
-    QByteArray bytes;
-    bytes.reserve(qsizetype(candidates.count() * 3 + 32));
-    auto addNumber = [&bytes](quint64 value) {
+    QByteArray bytes(qsizetype(candidates.count() + 2) * 10, Qt::Uninitialized);
+    char *out = bytes.data();
+    auto addNumber = [&out](quint64 value) {
         do {
             const char low = char(value & 0x7f);
             value >>= 7;
-            bytes.append(value ? char(low | 0x80) : low);
+            *out++ = value ? char(low | 0x80) : low;
         } while (value);
     };
     for (const std::vector<qint64> *pool : {&candidates.primary, &candidates.fallback}) {
@@ -227,6 +229,7 @@ QString candidateDigest(const Candidates &candidates) {
         for (qint64 id : *pool)
             addNumber(static_cast<quint64>(id));
     }
+    bytes.truncate(out - bytes.constData());
     return QString::fromLatin1(
         QCryptographicHash::hash(bytes, QCryptographicHash::Blake2b_256).toHex());
 }
