@@ -377,4 +377,15 @@ bool DrawEngine::cancelLastBatch() {
     return true;
 }
 
+bool DrawEngine::restartDraw(const WinnerExporter &exportWinners) {
+    if (!ui().question(QStringLiteral("您确定要删除所有中奖信息,重新开始抽奖么?"),
+                       QStringLiteral("重要提示")))
+        return false;
+    const QString snapshot = historySnapshotPath(appState().appPath, QDateTime::currentDateTime());
+    if (!exportWinners || !exportWinners(snapshot)) return false;
+    if (!clearAllWins(store::mainConn())) return false;
+    defulteJx(true);
+    return true;
+}
+
 }  // namespace draw

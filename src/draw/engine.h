@@ -6,6 +6,7 @@
 
 #include <functional>
 
+#include "draw/progress.h"
 #include "draw/session.h"
 
 class Stage;
@@ -47,6 +48,10 @@ public:
     bool recordWinners();
     // cmdCancel: asks, then takes the last batch back. True when something was undone.
     bool cancelLastBatch();
+    // The restart of the end-of-draw prompt: asks, saves the winners to History/ through
+    // `exportWinners`, clears every win and give-up, and loads the default award again. A
+    // snapshot that cannot be written leaves the wins in place.
+    bool restartDraw(const WinnerExporter &exportWinners);
 
 Q_SIGNALS:
     // Every award is full: the draw screen shows its end-of-draw prompt.

@@ -5,6 +5,7 @@
 
 #include "core/appstate.h"
 #include "core/profile.h"
+#include "core/settings.h"
 #include "core/store.h"
 #include "draw/engine.h"
 #include "stage/protocol.h"
@@ -61,6 +62,7 @@ private Q_SLOTS:
     void pressIsReproducedFromTheAuditLog();
     void scrollSampleComesFromTheEligiblePool();
     void storeChangesReachTheNextPress();
+    void restartClearsEverythingAfterASnapshot();
 
 private:
     ScriptedUi *m_ui = nullptr;
@@ -474,6 +476,43 @@ void TestEngine::storeChangesReachTheNextPress() {
     QCOMPARE(rig.session.candidates.primary, (std::vector<qint64>{ids[1], added}));
     QVERIFY(rig.session.candidates.fallback.empty());
     QCOMPARE(rig.session.lastPress.candidateCount, 2);
+}
+
+void TestEngine::restartClearsEverythingAfterASnapshot() {
+    Rig rig;
+    QVERIFY(rig.started);
+    const int first = rig.folder.addAward("一等奖", 1, 1);
+    const int second = rig.folder.addAward("二等奖", 1, 1);
+    const QList<int> ids = rig.folder.addUsers({"a", "b"});
+    rig.setWins(ids[0], "|1|", 3);
+    rig.setWins(ids[1], "无", 1);
+    rig.engine.loadJx(second, false);
+    settings::write("selJxid", second);
+
+    m_ui->answers.enqueue(false);
+    QVERIFY(!rig.engine.restartDraw([](const QString &) { return true; }));
+    m_ui->answers.enqueue(true);
+    QVERIFY(!rig.engine.restartDraw([](const QString &) { return false; }));  // no snapshot
+    QCOMPARE(rig.cell(ids[0], "JxID").toString(), QStringLiteral("|1|"));
+
+    m_ui->answers.enqueue(true);
+    QString snapshot;
+    rig.stage.clear();
+    QVERIFY(rig.engine.restartDraw([&](const QString &path) {
+        snapshot = path;
+        return true;
+    }));
+    QCOMPARE(m_ui->texts(), QStringList(3, "您确定要删除所有中奖信息,重新开始抽奖么?"));
+    QCOMPARE(m_ui->last().title, QStringLiteral("重要提示"));
+    QVERIFY(snapshot.startsWith(rig.folder.path("History/")));
+    QCOMPARE(rig.cell(ids[1], "JxID").toString(), QString());
+    QCOMPARE(rig.cell(ids[1], "UserStatus").toInt(), 0);
+    QCOMPARE(appState().selJxid, qint16(0));
+    QCOMPARE(readIni("main", "selJxid", appState().iniPath), QStringLiteral("0"));
+    // The first award again, buttons back to the start.
+    QCOMPARE(rig.session.award.id, first);
+    QCOMPARE(rig.stage.values(proto::changBtn), QStringList({"defulte"}));
+    QCOMPARE(rig.session.drawState, int(draw::Idle));
 }
 
 QTEST_MAIN(TestEngine)
