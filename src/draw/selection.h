@@ -31,7 +31,8 @@ enum class Pool { Primary, Fallback, Excluded };
 
 // The range is a preference, not a filter: the rest of the roster stands behind it, except for
 // the equals type with a non-zero number, whose fallback is only DiffNum 0. A NULL DiffNum
-// compares as nothing, so it belongs to no range (but to both pools of an award without one).
+// compares as nothing, so it belongs to no range (and is drawn normally for an award without
+// one).
 Pool classify(const AwardRule &rule, std::optional<qint64> diffNum);
 // True when the participant may appear in the decorative scroll: every eligible participant,
 // narrowed to the number and 0 only for the equals type with a non-zero number.
