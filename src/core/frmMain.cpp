@@ -18,8 +18,10 @@
 #include "core/frmLogin.h"
 #include "core/frmPass.h"
 #include "core/password.h"
+#include "core/store.h"
 #include "core/ui.h"
 #include "core/widgethelpers.h"
+#include "draw/progress.h"
 #include "stage/stage.h"
 
 namespace {

@@ -65,7 +65,7 @@ public:
     QWidget *picView = nullptr;
     Stage *objFlashJM = nullptr;
     QTimer tmMove;
-    int luckTotal = 0;
+    qint64 luckTotal = 0;
 
 Q_SIGNALS:
     // The operator asked for the draw screen (through the wizard or directly).

@@ -51,7 +51,14 @@ QString normalizeSlashes(QString path) {
 }
 
 QString hideName(const QString &text, int left, int right, const QString &replacement) {
-    const int length = static_cast<int>(text.size());
+    // Counted in characters, so a name with a character outside the basic plane masks right.
+    const QList<uint> codes = text.toUcs4();
+    const std::u32string characters(codes.begin(), codes.end());
+    const int length = static_cast<int>(characters.size());
+    left = std::max(0, left);
+    right = std::max(0, right);
     if (text.isEmpty() || left + right >= length) return text;
-    return text.left(left) + replacement.repeated(length - left - right) + text.right(right);
+    return QString::fromStdU32String(characters.substr(0, left)) +
+           replacement.repeated(length - left - right) +
+           QString::fromStdU32String(characters.substr(length - right));
 }
