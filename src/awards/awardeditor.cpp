@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
 #include <QTimer>
@@ -37,6 +38,24 @@ public:
             QTimer::singleShot(0, edit, [edit] { selectAllText(edit); });
         }
         return false;
+    }
+};
+
+// The style sheet's combo has no arrow of its own; this one draws a chevron in the text colour.
+class ChevronCombo : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+
+protected:
+    void paintEvent(QPaintEvent *event) override {
+        QComboBox::paintEvent(event);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(isEnabled() ? QColor(169, 97, 100) : QColor(210, 180, 182), 1.6,
+                            Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        const QPointF centre(width() - 13.0, height() / 2.0 + 1.0);
+        painter.drawPolyline(QPolygonF{centre + QPointF(-4, -2.5), centre + QPointF(0, 1.5),
+                                       centre + QPointF(4, -2.5)});
     }
 };
 
@@ -89,8 +108,12 @@ QWidget *AwardEditor::buildFields() {
     txtJxGroup = numberBox(page, 6, 72);
     txtJpName = new QLineEdit(page);
     txtJpName->setMaxLength(100);
-    ComboRange = new QComboBox(page);
+    ComboRange = new ChevronCombo(page);
     ComboRange->addItems(awardtext::rangeItems());
+    ComboRange->setMinimumWidth(132);
+    ComboRange->setStyleSheet(QStringLiteral(
+        "QComboBox::drop-down { subcontrol-origin: padding; subcontrol-position: center right;"
+        " width: 22px; border: none; }"));
     txtRangeNum1 = numberBox(page, 5, 64);
     txtRangeNum2 = numberBox(page, 5, 64);
     Label7 = new QLabel(QStringLiteral("-"), page);
@@ -103,10 +126,13 @@ QWidget *AwardEditor::buildFields() {
     counts->addSpacing(18);
     counts->addWidget(new QLabel(QStringLiteral("抽奖批次："), page));
     counts->addWidget(txtJxGroup);
+    counts->addSpacing(4);
     counts->addWidget(hint(QStringLiteral("(分几次抽取)"), page));
     counts->addStretch();
     auto *range = new QHBoxLayout;
+    range->setSpacing(6);
     range->addWidget(ComboRange);
+    range->addSpacing(4);
     range->addWidget(txtRangeNum1);
     range->addWidget(Label7);
     range->addWidget(txtRangeNum2);
