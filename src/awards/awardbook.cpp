@@ -111,10 +111,13 @@ AwardFault AwardBook::validate(const AwardInput &input) {
     return {};
 }
 
-QList<AwardRow> AwardBook::list() const {
+QList<AwardRow> AwardBook::list(QString *error) const {
     QList<AwardRow> rows;
     QSqlQuery query(m_db);
-    if (!query.exec(kColumns + QStringLiteral(" ORDER BY OrderNum ASC, ID ASC"))) return rows;
+    if (!query.exec(kColumns + QStringLiteral(" ORDER BY OrderNum ASC, ID ASC"))) {
+        if (error) *error = query.lastError().text();
+        return rows;
+    }
     while (query.next())
         rows.append(rowFrom(query));
     return rows;
@@ -287,8 +290,14 @@ bool AwardBook::remove(const QList<int> &ids, QString *error) {
 }
 
 bool AwardBook::renumber(QString *error) {
+    QString readError;
+    const QList<AwardRow> rows = list(&readError);
+    if (!readError.isEmpty()) {
+        if (error) *error = readError;
+        return false;
+    }
     int counter = 0;
-    for (const AwardRow &row : list())
+    for (const AwardRow &row : rows)
         if (!store::exec(m_db, QStringLiteral("UPDATE JPList SET OrderNum=? WHERE ID=?"),
                          {++counter, row.ID}, error))
             return false;

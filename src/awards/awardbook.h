@@ -80,7 +80,8 @@ public:
     bool isFull() const;
     static const QString kFullMessage;
 
-    QList<AwardRow> list() const;
+    // Every award in draw order; empty with the store's message in error when the read fails.
+    QList<AwardRow> list(QString *error = nullptr) const;
     std::optional<AwardRow> find(int id) const;
     bool hasWinners(int id) const;
 

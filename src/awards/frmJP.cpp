@@ -147,7 +147,9 @@ QTreeWidgetItem *frmJP::addRow(const AwardRow &row) {
 void frmJP::rdJXLst(const QString &key) {
     m_filling = true;
     lstJX->clear();
-    const QList<AwardRow> rows = m_book.list();
+    QString error;
+    const QList<AwardRow> rows = m_book.list(&error);
+    if (!error.isEmpty()) ui().message(error, MsgStyle::Critical, titles::error);
     QTreeWidgetItem *chosen = nullptr;
     for (const AwardRow &row : rows) {
         QTreeWidgetItem *item = addRow(row);

@@ -26,6 +26,8 @@ private Q_SLOTS:
     void selectedAwardReset_data();
     void selectedAwardReset();
     void deleteTwoAndRenumber();
+    void allOrNothing_data();
+    void allOrNothing();
     void move_data();
     void move();
     void addTakesNextIdAndOrder();
@@ -352,6 +354,48 @@ void TestAwardBook::deleteTwoAndRenumber() {
 
     QVERIFY(book.remove({1, 3, 5}, nullptr));
     QVERIFY(book.list().isEmpty());
+}
+
+void TestAwardBook::allOrNothing_data() {
+    QTest::addColumn<bool>("deleting");
+    QTest::newRow("edit") << false;
+    QTest::newRow("delete") << true;
+}
+
+// A store that refuses the last statement leaves every win and award as it was.
+void TestAwardBook::allOrNothing() {
+    QFETCH(bool, deleting);
+    addAwards(3);
+    const int winner = addWinner(QStringLiteral("甲"), QStringLiteral("|1||2|"));
+    const int other = addWinner(QStringLiteral("乙"), QStringLiteral("|2|"));
+    QVERIFY(store::exec(m_folder->db(),
+                        deleting ? QStringLiteral("CREATE TRIGGER refuse BEFORE DELETE ON JPList "
+                                                  "WHEN old.ID=3 BEGIN SELECT RAISE(ABORT, "
+                                                  "'refused'); END")
+                                 : QStringLiteral("CREATE TRIGGER refuse BEFORE UPDATE ON JPList "
+                                                  "BEGIN SELECT RAISE(ABORT, 'refused'); END")));
+    AwardBook book(m_folder->db());
+    QString error;
+    if (deleting) {
+        QVERIFY(!book.remove({2, 3}, &error));
+    } else {
+        const AwardInput input{QStringLiteral("奖"),
+                               QStringLiteral("1"),
+                               QStringLiteral("1"),
+                               QStringLiteral("P"),
+                               QStringLiteral("no"),
+                               true,
+                               0,
+                               QString(),
+                               QString()};
+        QVERIFY(!book.save(2, input, &error));
+    }
+    QVERIFY2(error.contains(QStringLiteral("refused")), qPrintable(error));
+    QCOMPARE(holder(winner).jxId, QStringLiteral("|1||2|"));
+    QCOMPARE(holder(other).jxId, QStringLiteral("|2|"));
+    QCOMPARE(holder(other).status, 3);
+    QCOMPARE(order(), (QList<int>{101, 202, 303}));
+    QCOMPARE(book.find(2)->JXName, QStringLiteral("奖2"));
 }
 
 void TestAwardBook::move_data() {
