@@ -11,6 +11,7 @@
 
 #include "awards/awardbook.h"
 #include "awards/awardeditor.h"
+#include "awards/camerahook.h"
 #include "awards/frmAddJP.h"
 #include "awards/frmJP.h"
 #include "chrome/style.h"
@@ -86,6 +87,7 @@ private Q_SLOTS:
     void emptyListDisablesEditor();
     void viewerShowsPictureAfterLoadok();
     void chooseAndRemovePicture();
+    void cameraPhoto();
     void addDialog();
     void addDialogValidates();
     void screenshot();
@@ -312,6 +314,28 @@ void TestAwardScreens::chooseAndRemovePicture() {
     QCOMPARE(stage->values(proto::vbAddImg), (QStringList{"/tmp/prize.png", ""}));
     QCOMPARE(dialogFilter(QStringLiteral("图片(*.png)|*.png;*.jpg|GIF|*.gif")),
              QStringLiteral("图片(*.png) (*.png *.jpg);;GIF (*.gif)"));
+}
+
+void TestAwardScreens::cameraPhoto() {
+    QString caller;
+    awardcamera::setShot([this, &caller](QWidget *) {
+        caller = appState().cameraCaller;
+        QDir().mkpath(m_folder->path(QStringLiteral("Photos")));
+        QFile file(m_folder->path(AwardBook::kCameraFile));
+        return file.open(QIODevice::WriteOnly) ? file.fileName() : QString();
+    });
+    const auto unregister = qScopeGuard([] { awardcamera::setShot(nullptr); });
+    frmAddJP dialog;
+    QVERIFY(dialog.editor->cmdCamera->isVisibleTo(&dialog));
+    dialog.editor->cmdCamera->click();
+    QCOMPARE(caller, QStringLiteral("frmAddJP"));
+    QCOMPARE(dialog.editor->txtPhoto->text(), QStringLiteral("camre"));
+    dialog.editor->txtJxName->setText(QStringLiteral("奖"));
+    dialog.editor->txtJxNum->setText(QStringLiteral("1"));
+    dialog.editor->txtJxGroup->setText(QStringLiteral("1"));
+    dialog.cmdAdd->click();  // a picture and no prize name is enough
+    QCOMPARE(AwardBook().find(dialog.addedId)->JPPhoto, QStringLiteral("Photos/JP1.jpg"));
+    QVERIFY(QFile::exists(m_folder->path(QStringLiteral("Photos/JP1.jpg"))));
 }
 
 void TestAwardScreens::addDialog() {
