@@ -1,0 +1,548 @@
+#include <QDir>
+#include <QFile>
+#include <QSqlQuery>
+#include <QtTest>
+
+#include "awards/awardbook.h"
+#include "core/appstate.h"
+#include "core/profile.h"
+#include "core/settings.h"
+#include "core/store.h"
+#include "support/scriptedui.h"
+#include "support/tempprogramfolder.h"
+
+Q_DECLARE_METATYPE(AwardField)
+
+class TestAwardBook : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { m_folder.reset(); }
+    void validation_data();
+    void validation();
+    void editClearsOnlyThatAward();
+    void saveWithoutWinners();
+    void selectedAwardReset_data();
+    void selectedAwardReset();
+    void deleteTwoAndRenumber();
+    void allOrNothing_data();
+    void allOrNothing();
+    void move_data();
+    void move();
+    void addTakesNextIdAndOrder();
+    void sixteenBitIds();
+    void pictures_data();
+    void pictures();
+
+private:
+    struct Holder {
+        int id;
+        QString jxId;
+        int status;
+    };
+    void addAwards(int count);
+    int addWinner(const QString &name, const QString &jxId, int status = 3);
+    Holder holder(int userId) const;
+    QList<int> order() const;
+
+    std::unique_ptr<TempProgramFolder> m_folder;
+    ScriptedUi *m_ui = nullptr;
+};
+
+void TestAwardBook::init() {
+    m_folder = std::make_unique<TempProgramFolder>();
+    QVERIFY(m_folder->start());
+    m_ui = installScriptedUi();
+}
+
+void TestAwardBook::addAwards(int count) {
+    for (int i = 1; i <= count; ++i)
+        m_folder->addAward(QStringLiteral("奖%1").arg(i), 2, 1, 1, 0, 0, 0, QStringLiteral("奖品"));
+}
+
+int TestAwardBook::addWinner(const QString &name, const QString &jxId, int status) {
+    const int id = m_folder->addUsers({name}).first();
+    store::exec(m_folder->db(),
+                QStringLiteral("UPDATE UserList SET JxID=?, UserStatus=? WHERE ID=?"),
+                {jxId, status, id});
+    return id;
+}
+
+TestAwardBook::Holder TestAwardBook::holder(int userId) const {
+    QSqlQuery query(m_folder->db());
+    query.prepare(QStringLiteral("SELECT JxID, UserStatus FROM UserList WHERE ID=?"));
+    query.addBindValue(userId);
+    if (!query.exec() || !query.next()) return {0, QString(), -1};
+    return {userId, query.value(0).toString(), query.value(1).toInt()};
+}
+
+QList<int> TestAwardBook::order() const {
+    QList<int> ids;
+    for (const AwardRow &row : AwardBook(m_folder->db()).list())
+        ids << row.ID * 100 + row.OrderNum;  // ID and position in one number: 301 = ID 3 at 1
+    return ids;
+}
+
+void TestAwardBook::validation_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("slotCount");
+    QTest::addColumn<QString>("batches");
+    QTest::addColumn<QString>("prize");
+    QTest::addColumn<QString>("photo");
+    QTest::addColumn<int>("rangeType");
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("second");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<AwardField>("field");
+    // Each row breaks the rule it names and every later one: the first fault wins.
+    QTest::newRow("blank name") << "  "
+                                << "0"
+                                << "0"
+                                << ""
+                                << "no" << 4 << "5"
+                                << "5"
+                                << "请输入奖项名称!" << AwardField::JxName;
+    QTest::newRow("no slots") << "一等奖"
+                              << "0"
+                              << ""
+                              << ""
+                              << "no" << 4 << "5"
+                              << "5"
+                              << "至少存在1个名额" << AwardField::JxNum;
+    QTest::newRow("empty slots") << "一等奖"
+                                 << ""
+                                 << "1"
+                                 << "P"
+                                 << "no" << 0 << "0"
+                                 << "0"
+                                 << "至少存在1个名额" << AwardField::JxNum;
+    QTest::newRow("32768 slots") << "一等奖"
+                                 << "32768"
+                                 << "0"
+                                 << ""
+                                 << "no" << 4 << "5"
+                                 << "5"
+                                 << "奖品名额最多为32767个" << AwardField::JxNum;
+    QTest::newRow("999999 slots") << "一等奖"
+                                  << "999999"
+                                  << "1"
+                                  << "P"
+                                  << "no" << 0 << "0"
+                                  << "0"
+                                  << "奖品名额最多为32767个" << AwardField::JxNum;
+    QTest::newRow("no batches") << "一等奖"
+                                << "32767"
+                                << "0"
+                                << ""
+                                << "no" << 4 << "5"
+                                << "5"
+                                << "至少存在1个抽奖批次" << AwardField::JxGroup;
+    QTest::newRow("32768 batches") << "一等奖"
+                                   << "3"
+                                   << "32768"
+                                   << ""
+                                   << "no" << 4 << "5"
+                                   << "5"
+                                   << "抽奖批次最多为32767次" << AwardField::JxGroup;
+    QTest::newRow("neither prize nor picture")
+        << "一等奖"
+        << "3"
+        << "32767"
+        << " "
+        << " no " << 4 << "5"
+        << "5"
+        << "奖品名称和奖品图片不能同时为空" << AwardField::JpName;
+    QTest::newRow("range equal") << "一等奖"
+                                 << "3"
+                                 << "1"
+                                 << "P"
+                                 << "no" << 4 << "5"
+                                 << "5"
+                                 << "区分编号范围值错误" << AwardField::RangeNum2;
+    QTest::newRow("range reversed") << "一等奖"
+                                    << "3"
+                                    << "1"
+                                    << ""
+                                    << "/p/a.png" << 4 << "9"
+                                    << "5"
+                                    << "区分编号范围值错误" << AwardField::RangeNum2;
+    QTest::newRow("range empty boxes") << "一等奖"
+                                       << "3"
+                                       << "1"
+                                       << "P"
+                                       << "no" << 4 << ""
+                                       << ""
+                                       << "区分编号范围值错误" << AwardField::RangeNum2;
+    QTest::newRow("range ok") << "一等奖"
+                              << "3"
+                              << "1"
+                              << "P"
+                              << "no" << 4 << "5"
+                              << "6"
+                              << "" << AwardField::None;
+    QTest::newRow("type 1 ignores the second box") << "一等奖"
+                                                   << "3"
+                                                   << "1"
+                                                   << "P"
+                                                   << "no" << 1 << "9"
+                                                   << "0"
+                                                   << "" << AwardField::None;
+    QTest::newRow("picture without prize name") << "一等奖"
+                                                << "1"
+                                                << "5"
+                                                << ""
+                                                << "camre" << 0 << "0"
+                                                << "0"
+                                                << "" << AwardField::None;
+    QTest::newRow("batches above slots") << "一等奖"
+                                         << "2"
+                                         << "9"
+                                         << "P"
+                                         << "no" << 0 << "0"
+                                         << "0"
+                                         << "" << AwardField::None;
+}
+
+void TestAwardBook::validation() {
+    QFETCH(QString, name);
+    QFETCH(QString, slotCount);
+    QFETCH(QString, batches);
+    QFETCH(QString, prize);
+    QFETCH(QString, photo);
+    QFETCH(int, rangeType);
+    QFETCH(QString, first);
+    QFETCH(QString, second);
+    QFETCH(QString, message);
+    QFETCH(AwardField, field);
+    const AwardInput input{name, slotCount, batches, prize, photo, true, rangeType, first, second};
+    const AwardFault fault = AwardBook::validate(input);
+    QCOMPARE(fault.message, message);
+    QCOMPARE(fault.field, field);
+}
+
+void TestAwardBook::editClearsOnlyThatAward() {
+    addAwards(7);
+    // The holder of 5 alone comes first: its status reset must not carry over to later rows.
+    const int onlyFive = addWinner(QStringLiteral("甲"), QStringLiteral("|5|"));
+    const int fiveAndSeven = addWinner(QStringLiteral("乙"), QStringLiteral("|5||7|"));
+    const int sevenAndFive = addWinner(QStringLiteral("丙"), QStringLiteral("|7||5|"));
+    const int onlySeven = addWinner(QStringLiteral("丁"), QStringLiteral("|7|"));
+    const int gaveUp = addWinner(QStringLiteral("戊"), QStringLiteral("无"), 1);
+    const int fifteen = addWinner(QStringLiteral("己"), QStringLiteral("|15|"));
+    AwardBook book(m_folder->db());
+    QVERIFY(book.hasWinners(5));
+    QVERIFY(!book.hasWinners(1));
+    AwardInput input{QStringLiteral("五等奖"),
+                     QStringLiteral("3"),
+                     QStringLiteral("1"),
+                     QStringLiteral("P"),
+                     QStringLiteral("no"),
+                     true,
+                     0,
+                     QString(),
+                     QString()};
+    QString error;
+    QVERIFY2(book.save(5, input, &error), qPrintable(error));
+
+    QCOMPARE(holder(onlyFive).jxId, QString());
+    QCOMPARE(holder(onlyFive).status, 0);
+    QCOMPARE(holder(fiveAndSeven).jxId, QStringLiteral("|7|"));
+    QCOMPARE(holder(fiveAndSeven).status, 3);
+    QCOMPARE(holder(sevenAndFive).jxId, QStringLiteral("|7|"));
+    QCOMPARE(holder(sevenAndFive).status, 3);
+    QCOMPARE(holder(onlySeven).jxId, QStringLiteral("|7|"));
+    QCOMPARE(holder(gaveUp).status, 1);
+    QCOMPARE(holder(fifteen).jxId, QStringLiteral("|15|"));
+    QVERIFY(!book.hasWinners(5));
+    QVERIFY(book.hasWinners(7));
+    QCOMPARE(book.find(5)->JXName, QStringLiteral("五等奖"));
+}
+
+void TestAwardBook::saveWithoutWinners() {
+    addAwards(2);
+    store::exec(m_folder->db(), QStringLiteral("UPDATE JPList SET JXHave=4"));
+    AwardBook book(m_folder->db());
+    const AwardInput input{QStringLiteral(" 特等奖 "),
+                           QStringLiteral("12"),
+                           QStringLiteral("3"),
+                           QStringLiteral(" 汽车 "),
+                           QStringLiteral("no"),
+                           false,
+                           4,
+                           QStringLiteral("10"),
+                           QStringLiteral("20")};
+    QVERIFY(book.save(2, input, nullptr));
+    const AwardRow row = *book.find(2);
+    QCOMPARE(row.JXName, QStringLiteral("特等奖"));
+    QCOMPARE(row.JPName, QStringLiteral("汽车"));
+    QCOMPARE(row.JXNum, 12);
+    QCOMPARE(row.JXGroup, 3);
+    QCOMPARE(row.isReLuck, 0);
+    QCOMPARE(row.RangeType, 4);
+    QCOMPARE(row.RangeNum1, 10);
+    QCOMPARE(row.RangeNum2, 20);
+    QCOMPARE(store::scalar(m_folder->db(), QStringLiteral("SELECT JXHave FROM JPList WHERE ID=2"))
+                 .toInt(),
+             0);
+    QCOMPARE(store::scalar(m_folder->db(), QStringLiteral("SELECT JXHave FROM JPList WHERE ID=1"))
+                 .toInt(),
+             4);
+}
+
+void TestAwardBook::selectedAwardReset_data() {
+    QTest::addColumn<bool>("deleting");
+    QTest::addColumn<int>("selected");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("save selected") << false << 2 << 0;
+    QTest::newRow("save another") << false << 3 << 3;
+    QTest::newRow("delete selected") << true << 2 << 0;
+    QTest::newRow("delete another") << true << 3 << 3;
+}
+
+void TestAwardBook::selectedAwardReset() {
+    QFETCH(bool, deleting);
+    QFETCH(int, selected);
+    QFETCH(int, expected);
+    addAwards(3);
+    settings::write(QStringLiteral("selJxid"), selected);
+    AwardBook book(m_folder->db());
+    if (deleting) {
+        QVERIFY(book.remove({2}, nullptr));
+    } else {
+        AwardInput input{QStringLiteral("名"),
+                         QStringLiteral("1"),
+                         QStringLiteral("1"),
+                         QStringLiteral("P"),
+                         QStringLiteral("no"),
+                         true,
+                         0,
+                         QString(),
+                         QString()};
+        QVERIFY(book.save(2, input, nullptr));
+    }
+    QCOMPARE(int(appState().selJxid), expected);
+    QCOMPARE(readIni(QStringLiteral("main"), QStringLiteral("selJxid"),
+                     m_folder->path(QStringLiteral("config.ini"))),
+             QString::number(expected));
+}
+
+void TestAwardBook::deleteTwoAndRenumber() {
+    addAwards(5);
+    AwardBook book(m_folder->db());
+    QVERIFY(book.move(5, -1));  // order 1 2 3 5 4
+    const int twoAndFour = addWinner(QStringLiteral("甲"), QStringLiteral("|2||4|"));
+    const int twoAndFive = addWinner(QStringLiteral("乙"), QStringLiteral("|2||5|"));
+    QDir().mkpath(m_folder->path(QStringLiteral("Photos")));
+    for (const QString &name : {QStringLiteral("JP2.png"), QStringLiteral("JP3.png")}) {
+        QFile file(m_folder->path(QStringLiteral("Photos/") + name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    store::exec(m_folder->db(), QStringLiteral("UPDATE JPList SET JPPhoto=? WHERE ID=?"),
+                {QStringLiteral("Photos\\JP2.png"), 2});
+    store::exec(m_folder->db(), QStringLiteral("UPDATE JPList SET JPPhoto=? WHERE ID=?"),
+                {QStringLiteral("Photos/JP3.png"), 3});
+
+    QVERIFY(book.remove({2, 4}, nullptr));
+    QCOMPARE(order(), (QList<int>{101, 302, 503}));
+    QCOMPARE(holder(twoAndFour).jxId, QString());
+    QCOMPARE(holder(twoAndFour).status, 0);
+    QCOMPARE(holder(twoAndFive).jxId, QStringLiteral("|5|"));
+    QCOMPARE(holder(twoAndFive).status, 3);
+    QVERIFY(!QFile::exists(m_folder->path(QStringLiteral("Photos/JP2.png"))));
+    QVERIFY(QFile::exists(m_folder->path(QStringLiteral("Photos/JP3.png"))));
+
+    QVERIFY(book.remove({1, 3, 5}, nullptr));
+    QVERIFY(book.list().isEmpty());
+}
+
+void TestAwardBook::allOrNothing_data() {
+    QTest::addColumn<bool>("deleting");
+    QTest::newRow("edit") << false;
+    QTest::newRow("delete") << true;
+}
+
+// A store that refuses the last statement leaves every win and award as it was.
+void TestAwardBook::allOrNothing() {
+    QFETCH(bool, deleting);
+    addAwards(3);
+    const int winner = addWinner(QStringLiteral("甲"), QStringLiteral("|1||2|"));
+    const int other = addWinner(QStringLiteral("乙"), QStringLiteral("|2|"));
+    QVERIFY(store::exec(m_folder->db(),
+                        deleting ? QStringLiteral("CREATE TRIGGER refuse BEFORE DELETE ON JPList "
+                                                  "WHEN old.ID=3 BEGIN SELECT RAISE(ABORT, "
+                                                  "'refused'); END")
+                                 : QStringLiteral("CREATE TRIGGER refuse BEFORE UPDATE ON JPList "
+                                                  "BEGIN SELECT RAISE(ABORT, 'refused'); END")));
+    AwardBook book(m_folder->db());
+    QString error;
+    if (deleting) {
+        QVERIFY(!book.remove({2, 3}, &error));
+    } else {
+        const AwardInput input{QStringLiteral("奖"),
+                               QStringLiteral("1"),
+                               QStringLiteral("1"),
+                               QStringLiteral("P"),
+                               QStringLiteral("no"),
+                               true,
+                               0,
+                               QString(),
+                               QString()};
+        QVERIFY(!book.save(2, input, &error));
+    }
+    QVERIFY2(error.contains(QStringLiteral("refused")), qPrintable(error));
+    QCOMPARE(holder(winner).jxId, QStringLiteral("|1||2|"));
+    QCOMPARE(holder(other).jxId, QStringLiteral("|2|"));
+    QCOMPARE(holder(other).status, 3);
+    QCOMPARE(order(), (QList<int>{101, 202, 303}));
+    QCOMPARE(book.find(2)->JXName, QStringLiteral("奖2"));
+}
+
+void TestAwardBook::move_data() {
+    QTest::addColumn<int>("award");
+    QTest::addColumn<int>("step");
+    QTest::addColumn<bool>("moved");
+    QTest::addColumn<QList<int>>("expected");
+    QTest::newRow("top up") << 1 << -1 << false << QList<int>{101, 202, 303};
+    QTest::newRow("bottom down") << 3 << 1 << false << QList<int>{101, 202, 303};
+    QTest::newRow("top down") << 1 << 1 << true << QList<int>{201, 102, 303};
+    QTest::newRow("bottom up") << 3 << -1 << true << QList<int>{101, 302, 203};
+    QTest::newRow("unknown award") << 9 << 1 << false << QList<int>{101, 202, 303};
+}
+
+void TestAwardBook::move() {
+    QFETCH(int, award);
+    QFETCH(int, step);
+    QFETCH(bool, moved);
+    QFETCH(QList<int>, expected);
+    addAwards(3);
+    QCOMPARE(AwardBook(m_folder->db()).move(award, step), moved);
+    QCOMPARE(order(), expected);
+}
+
+void TestAwardBook::addTakesNextIdAndOrder() {
+    AwardBook book(m_folder->db());
+    const AwardInput input{QStringLiteral("一等奖"),
+                           QStringLiteral("3"),
+                           QStringLiteral("1"),
+                           QStringLiteral("P"),
+                           QStringLiteral("no"),
+                           true,
+                           2,
+                           QStringLiteral("7"),
+                           QString()};
+    QCOMPARE(book.add(input, nullptr), 1);
+    QCOMPARE(book.add(input, nullptr), 2);
+    QCOMPARE(book.add(input, nullptr), 3);
+    QCOMPARE(order(), (QList<int>{101, 202, 303}));
+    QVERIFY(book.remove({3}, nullptr));
+    QCOMPARE(book.add(input, nullptr), 3);  // the highest ID gone, it returns
+    QVERIFY(book.remove({1}, nullptr));
+    QCOMPARE(book.add(input, nullptr), 4);
+    QCOMPARE(order(), (QList<int>{201, 302, 403}));
+    const AwardRow row = *book.find(4);
+    QCOMPARE(row.RangeType, 2);
+    QCOMPARE(row.RangeNum1, 7);
+    QCOMPARE(row.RangeNum2, 0);
+    QCOMPARE(row.isReLuck, 1);
+    QCOMPARE(row.JPPhoto, QString());
+}
+
+void TestAwardBook::sixteenBitIds() {
+    AwardBook book(m_folder->db());
+    store::exec(m_folder->db(),
+                QStringLiteral("INSERT INTO JPList (ID, JXName, JXNum, JXGroup, OrderNum) "
+                               "VALUES (32766, 'A', 1, 1, 1)"));
+    QVERIFY(!book.isFull());
+    const AwardInput input{QStringLiteral("末奖"),
+                           QStringLiteral("32767"),
+                           QStringLiteral("32767"),
+                           QStringLiteral("P"),
+                           QStringLiteral("no"),
+                           true,
+                           0,
+                           QString(),
+                           QString()};
+    QCOMPARE(book.add(input, nullptr), 32767);
+    QCOMPARE(book.find(32767)->JXNum, 32767);
+    QVERIFY(book.isFull());
+    QString error;
+    QCOMPARE(book.add(input, &error), 0);
+    QCOMPARE(error, AwardBook::kFullMessage);
+    QCOMPARE(book.list().size(), 2);
+}
+
+void TestAwardBook::pictures_data() {
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<bool>("cameraFile");
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QStringList>("present");
+    QTest::addColumn<QStringList>("absent");
+    QTest::addColumn<QString>("warning");
+    QTest::newRow("chosen file") << "SRC" << false << "Photos/JP1.png"
+                                 << QStringList{"Photos/JP1.png", "Photos/JP1.jpg"} << QStringList{}
+                                 << "";
+    QTest::newRow("unchanged picture") << "Photos/JP1.gif" << false << "Photos/JP1.gif"
+                                       << QStringList{"Photos/JP1.gif"} << QStringList{} << "";
+    QTest::newRow("removed: only the jpg goes")
+        << "no" << false << "" << QStringList{"Photos/JP1.gif"} << QStringList{"Photos/JP1.jpg"}
+        << "";
+    QTest::newRow("camera") << "camre" << true << "Photos/JP1.jpg"
+                            << QStringList{"Photos/JP1.jpg", "Photos/camertemp.jpg"}
+                            << QStringList{} << "";
+    QTest::newRow("camera file missing")
+        << "camre" << false << "" << QStringList{"Photos/JP1.gif"} << QStringList{"Photos/JP1.jpg"}
+        << "因拍摄照片失败,照片保存未成功!";
+}
+
+void TestAwardBook::pictures() {
+    QFETCH(QString, state);
+    QFETCH(bool, cameraFile);
+    QFETCH(QString, stored);
+    QFETCH(QStringList, present);
+    QFETCH(QStringList, absent);
+    QFETCH(QString, warning);
+    addAwards(1);
+    QDir().mkpath(m_folder->path(QStringLiteral("Photos")));
+    auto touch = [this](const QString &relative, const QByteArray &content) {
+        QFile file(m_folder->path(relative));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    };
+    touch(QStringLiteral("Photos/JP1.jpg"), "old jpg");
+    touch(QStringLiteral("Photos/JP1.gif"), "old gif");
+    touch(QStringLiteral("source.png"), "new png");
+    if (cameraFile) touch(QStringLiteral("Photos/camertemp.jpg"), "camera");
+    if (state == QLatin1String("SRC"))
+        state = m_folder->path(QStringLiteral("source.png"));
+    else if (state.startsWith(QLatin1String("Photos/")))
+        state = m_folder->path(state);
+
+    const AwardInput input{QStringLiteral("奖"),
+                           QStringLiteral("1"),
+                           QStringLiteral("1"),
+                           QStringLiteral("P"),
+                           state,
+                           true,
+                           0,
+                           QString(),
+                           QString()};
+    QVERIFY(AwardBook(m_folder->db()).save(1, input, nullptr));
+    QCOMPARE(AwardBook(m_folder->db()).find(1)->JPPhoto, stored);
+    for (const QString &file : present)
+        QVERIFY2(QFile::exists(m_folder->path(file)), qPrintable(file));
+    for (const QString &file : absent)
+        QVERIFY2(!QFile::exists(m_folder->path(file)), qPrintable(file));
+    QCOMPARE(m_ui->texts().join(QLatin1Char('/')), warning);
+    if (!stored.isEmpty()) {
+        QFile copy(m_folder->path(stored));
+        QVERIFY(copy.open(QIODevice::ReadOnly));
+        const QByteArray expected = cameraFile               ? "camera"
+                                    : state.endsWith(".gif") ? "old gif"
+                                                             : "new png";
+        QCOMPARE(copy.readAll(), expected);
+    }
+}
+
+QTEST_MAIN(TestAwardBook)
+#include "tst_awardbook.moc"

@@ -1,0 +1,417 @@
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QtTest>
+
+#include "awards/awardbook.h"
+#include "awards/awardeditor.h"
+#include "awards/camerahook.h"
+#include "awards/frmAddJP.h"
+#include "awards/frmJP.h"
+#include "chrome/style.h"
+#include "core/appstate.h"
+#include "core/events.h"
+#include "core/store.h"
+#include "stage/protocol.h"
+#include "support/recordingstage.h"
+#include "support/scriptedui.h"
+#include "support/tempprogramfolder.h"
+
+// Stands in for the picture-viewer movie in the screenshot: shows the picture it is sent.
+class PictureStage : public Stage {
+public:
+    explicit PictureStage(QWidget *parent) : Stage(parent), m_label(new QLabel(parent)) {
+        m_label->setAlignment(Qt::AlignCenter);
+        m_label->setStyleSheet(QStringLiteral("background: transparent;"));
+    }
+    bool loadMovie(const QString &) override {
+        QTimer::singleShot(0, this, [this] { Q_EMIT FSCommand(proto::cmd::loadok, QString()); });
+        return true;
+    }
+    void SetVariable(const QString &name, const QString &value) override {
+        if (name != proto::vbAddImg) return;
+        const QPixmap picture(value);
+        m_label->setPixmap(picture.isNull()
+                               ? QPixmap()
+                               : picture.scaled(m_label->size() - QSize(12, 12),
+                                                Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    }
+    QWidget *widget() override { return m_label; }
+
+private:
+    QLabel *m_label;
+};
+
+// A prize picture for the screenshot: a wrapped gift on a warm background.
+void paintPrize(const QString &file) {
+    QImage image(400, 300, QImage::Format_RGB32);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QLinearGradient background(0, 0, 0, 300);
+    background.setColorAt(0, QColor(255, 244, 226));
+    background.setColorAt(1, QColor(252, 214, 200));
+    painter.fillRect(image.rect(), background);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(200, 40, 58));
+    painter.drawRoundedRect(QRectF(120, 120, 160, 130), 10, 10);
+    painter.setBrush(QColor(222, 64, 78));
+    painter.drawRoundedRect(QRectF(108, 92, 184, 40), 8, 8);
+    painter.setBrush(QColor(255, 212, 96));
+    painter.drawRect(QRectF(190, 92, 20, 158));
+    painter.drawEllipse(QRectF(160, 60, 40, 34));
+    painter.drawEllipse(QRectF(200, 60, 40, 34));
+    painter.end();
+    image.save(file);
+}
+
+class TestAwardScreens : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void listColumnsAndColours();
+    void rangeFieldsFollowTheType_data();
+    void rangeFieldsFollowTheType();
+    void saveStopsAtTheFirstFault();
+    void editWithWinnersAsks_data();
+    void editWithWinnersAsks();
+    void deleteTicked();
+    void moveKeepsSelection();
+    void emptyListDisablesEditor();
+    void viewerShowsPictureAfterLoadok();
+    void chooseAndRemovePicture();
+    void cameraPhoto();
+    void addDialog();
+    void addDialogValidates();
+    void screenshot();
+
+private:
+    void addAwards();
+    RecordingStage *viewer() const;
+
+    std::unique_ptr<TempProgramFolder> m_folder;
+    ScriptedUi *m_ui = nullptr;
+    QList<QPointer<RecordingStage>> *m_stages = nullptr;
+};
+
+void TestAwardScreens::init() {
+    m_folder = std::make_unique<TempProgramFolder>();
+    QVERIFY(m_folder->start());
+    m_ui = installScriptedUi();
+    m_stages = &installRecordingStages();
+    m_stages->clear();
+}
+
+void TestAwardScreens::cleanup() {
+    m_folder.reset();
+}
+
+void TestAwardScreens::addAwards() {
+    m_folder->addAward(QStringLiteral("特等奖"), 1, 1, 1, 0, 0, 0, QStringLiteral("新能源汽车"));
+    m_folder->addAward(QStringLiteral("一等奖"), 3, 1, 0, 4, 100, 500,
+                       QStringLiteral("笔记本电脑"));
+    m_folder->addAward(QStringLiteral("二等奖"), 10, 2, 1, 1, 2000, 0, QStringLiteral("平板电脑"));
+}
+
+RecordingStage *TestAwardScreens::viewer() const {
+    return m_stages->isEmpty() ? nullptr : m_stages->last().data();
+}
+
+void TestAwardScreens::listColumnsAndColours() {
+    addAwards();
+    frmJP dialog;
+    QTreeWidget *list = dialog.lstJX;
+    QCOMPARE(list->columnCount(), 9);
+    QCOMPARE(list->headerItem()->text(frmJP::ColRange), QStringLiteral("区分编号范围"));
+    QCOMPARE(list->topLevelItemCount(), 3);
+    const QTreeWidgetItem *second = list->topLevelItem(1);
+    const QStringList texts{
+        "", "2", "一等奖", "3", "1", "笔记本电脑", "", "是", "100 < (介于) < 500"};
+    for (int column = 0; column < texts.size(); ++column)
+        QCOMPARE(second->text(column), texts.at(column));
+    QCOMPARE(second->data(frmJP::ColCheck, Qt::UserRole).toString(), QStringLiteral("K2"));
+    QCOMPARE(second->foreground(frmJP::ColReLuck).color(), QColor(255, 0, 0));
+    const QTreeWidgetItem *first = list->topLevelItem(0);
+    QCOMPARE(first->text(frmJP::ColReLuck), QStringLiteral("否"));
+    QCOMPARE(first->foreground(frmJP::ColReLuck).color(), QColor(18, 118, 0));
+    QCOMPARE(first->text(frmJP::ColRange), QStringLiteral("不限制"));
+    QCOMPARE(first->foreground(frmJP::ColRange).color(), QColor(18, 118, 0));
+    QCOMPARE(list->topLevelItem(2)->text(frmJP::ColRange), QStringLiteral("大于(>) 2000"));
+    // With no key the last award is selected and in the editor.
+    QCOMPARE(dialog.selectedId(), 3);
+    QCOMPARE(dialog.editor->txtJxName->text(), QStringLiteral("二等奖"));
+    QCOMPARE(dialog.editor->ComboRange->currentIndex(), 1);
+    dialog.selectAward(2);
+    QCOMPARE(dialog.editor->txtRangeNum2->text(), QStringLiteral("500"));
+    QVERIFY(!dialog.editor->chkIsReLuck->isChecked());
+}
+
+void TestAwardScreens::rangeFieldsFollowTheType_data() {
+    QTest::addColumn<int>("type");
+    QTest::addColumn<bool>("first");
+    QTest::addColumn<bool>("second");
+    QTest::newRow("no range") << 0 << false << false;
+    QTest::newRow("greater") << 1 << true << false;
+    QTest::newRow("equal") << 2 << true << false;
+    QTest::newRow("less") << 3 << true << false;
+    QTest::newRow("between") << 4 << true << true;
+}
+
+void TestAwardScreens::rangeFieldsFollowTheType() {
+    QFETCH(int, type);
+    QFETCH(bool, first);
+    QFETCH(bool, second);
+    frmAddJP dialog;
+    dialog.editor->ComboRange->setCurrentIndex(type);
+    QCOMPARE(dialog.editor->txtRangeNum1->isVisibleTo(&dialog), first);
+    QCOMPARE(dialog.editor->txtRangeNum2->isVisibleTo(&dialog), second);
+    QCOMPARE(dialog.editor->Label7->isVisibleTo(&dialog), second);
+}
+
+void TestAwardScreens::saveStopsAtTheFirstFault() {
+    addAwards();
+    frmJP dialog;
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    AwardEditor *editor = dialog.editor;
+    editor->txtJxNum->setText(QStringLiteral("32768"));
+    editor->txtJpName->clear();
+    editor->removePicture();
+    dialog.cmdEdt->click();
+    QCOMPARE(m_ui->last().text, QStringLiteral("奖品名额最多为32767个"));
+    QCOMPARE(m_ui->last().title, QStringLiteral("提示"));
+    QCOMPARE(QApplication::focusWidget(), editor->txtJxNum);
+    editor->txtJxNum->setText(QStringLiteral("5"));
+    dialog.cmdEdt->click();
+    QCOMPARE(m_ui->last().text, QStringLiteral("奖品名称和奖品图片不能同时为空"));
+    QCOMPARE(QApplication::focusWidget(), editor->txtJpName);
+    QCOMPARE(AwardBook().find(3)->JXNum, 10);  // nothing written
+    editor->txtJpName->setText(QStringLiteral("手机"));
+    dialog.cmdEdt->click();
+    QCOMPARE(m_ui->texts().last(), QStringLiteral("奖项数据更新成功！"));
+    QCOMPARE(AwardBook().find(3)->JXNum, 5);
+    QCOMPARE(dialog.selectedId(), 3);
+    QCOMPARE(dialog.lstJX->currentItem()->text(frmJP::ColPrize), QStringLiteral("手机"));
+}
+
+void TestAwardScreens::editWithWinnersAsks_data() {
+    QTest::addColumn<bool>("answer");
+    QTest::newRow("yes") << true;
+    QTest::newRow("no") << false;
+}
+
+void TestAwardScreens::editWithWinnersAsks() {
+    QFETCH(bool, answer);
+    addAwards();
+    const int user = m_folder->addUsers({QStringLiteral("张三")}).first();
+    store::exec(m_folder->db(), QStringLiteral("UPDATE UserList SET JxID='|1||3|', UserStatus=3"));
+    frmJP dialog;
+    dialog.selectAward(1);
+    dialog.editor->txtJpName->setText(QStringLiteral("电动车"));
+    m_ui->answers.enqueue(answer);
+    dialog.cmdEdt->click();
+    QCOMPARE(m_ui->records.first().kind, QStringLiteral("question"));
+    QCOMPARE(m_ui->records.first().text,
+             QStringLiteral("注意：当前编辑奖项已经存在中奖记录\n本操作将清除所有与之对应的中奖"
+                            "记录!\n确认要编辑么?"));
+    QCOMPARE(m_ui->records.first().title, QStringLiteral("警告"));
+    const QString jxId =
+        store::scalar(m_folder->db(), QStringLiteral("SELECT JxID FROM UserList WHERE ID=?"),
+                      {user})
+            .toString();
+    QCOMPARE(jxId, answer ? QStringLiteral("|3|") : QStringLiteral("|1||3|"));
+    QCOMPARE(AwardBook().find(1)->JPName,
+             answer ? QStringLiteral("电动车") : QStringLiteral("新能源汽车"));
+    QCOMPARE(m_ui->records.size(), answer ? 2 : 1);
+}
+
+void TestAwardScreens::deleteTicked() {
+    addAwards();
+    frmJP dialog;
+    QSignalSpy changed(&events(), &Events::awardsChanged);
+    dialog.cmdDelJx->click();
+    QCOMPARE(m_ui->last().text, QStringLiteral("请选择需要删除的奖项!"));
+    QCOMPARE(m_ui->last().title, QStringLiteral("删除失败"));
+    QCOMPARE(m_ui->last().style, MsgStyle::Critical);
+    dialog.setTicked(1, true);
+    dialog.setTicked(2, true);
+    dialog.cmdDelJx->click();  // the question goes unanswered: No
+    QCOMPARE(m_ui->last().text,
+             QStringLiteral("“删除奖项”将清除与之对应的中奖记录\n确认要删除么?"));
+    QCOMPARE(dialog.lstJX->topLevelItemCount(), 3);
+    m_ui->answers.enqueue(true);
+    dialog.cmdDelJx->click();
+    QCOMPARE(dialog.lstJX->topLevelItemCount(), 1);
+    QCOMPARE(dialog.lstJX->topLevelItem(0)->text(frmJP::ColOrder), QStringLiteral("1"));
+    QCOMPARE(dialog.selectedId(), 3);
+    QCOMPARE(changed.count(), 1);
+}
+
+void TestAwardScreens::moveKeepsSelection() {
+    addAwards();
+    frmJP dialog;
+    dialog.selectAward(1);
+    dialog.cmdUp->click();
+    QCOMPARE(dialog.selectedId(), 1);
+    QCOMPARE(dialog.lstJX->topLevelItem(0)->text(frmJP::ColName), QStringLiteral("特等奖"));
+    dialog.cmdDown->click();
+    QCOMPARE(dialog.selectedId(), 1);
+    QCOMPARE(dialog.lstJX->topLevelItem(1)->text(frmJP::ColName), QStringLiteral("特等奖"));
+    QCOMPARE(dialog.lstJX->topLevelItem(1)->text(frmJP::ColOrder), QStringLiteral("2"));
+}
+
+void TestAwardScreens::emptyListDisablesEditor() {
+    frmJP dialog;
+    QCOMPARE(dialog.lstJX->topLevelItemCount(), 0);
+    QVERIFY(!dialog.editor->isEnabled());
+    QVERIFY(!dialog.cmdDelJx->isEnabled());
+    QVERIFY(!dialog.cmdUp->isEnabled());
+    QVERIFY(!dialog.cmdDown->isEnabled());
+    QVERIFY(dialog.cmdAddJx->isEnabled());
+    QCOMPARE(dialog.editor->txtJxNum->text(), QStringLiteral("0"));
+    QCOMPARE(dialog.editor->txtPhoto->text(), QStringLiteral("no"));
+}
+
+void TestAwardScreens::viewerShowsPictureAfterLoadok() {
+    m_folder->addAward(QStringLiteral("奖"), 1, 1);
+    store::exec(m_folder->db(), QStringLiteral("UPDATE JPList SET JPPhoto='Photos\\JP1.png'"));
+    frmJP dialog;
+    RecordingStage *stage = viewer();
+    QVERIFY(stage);
+    QCOMPARE(stage->movie, m_folder->path(QStringLiteral("sys/viewer.qml")));
+    QVERIFY(stage->values(proto::vbAddImg).isEmpty());  // nothing before the movie is ready
+    stage->reply(proto::cmd::loadok);
+    QCOMPARE(stage->values(proto::vbAddImg),
+             QStringList{m_folder->path(QStringLiteral("Photos/JP1.png"))});
+    QCOMPARE(dialog.editor->txtPhoto->text(), m_folder->path(QStringLiteral("Photos/JP1.png")));
+    stage->reply(proto::cmd::msg, QStringLiteral("图片无法加载"));
+    QCOMPARE(m_ui->last().title, QStringLiteral("AS 消息"));
+    QCOMPARE(m_ui->last().text, QStringLiteral("图片无法加载"));
+}
+
+void TestAwardScreens::chooseAndRemovePicture() {
+    addAwards();
+    frmJP dialog;
+    RecordingStage *stage = viewer();
+    stage->reply(proto::cmd::loadok);
+    stage->clear();
+    QVERIFY(!dialog.editor->cmdCamera->isVisibleTo(&dialog));  // no camera registered
+    m_ui->files.enqueue(QStringLiteral("/tmp/prize.png"));
+    dialog.editor->cmdFile->click();
+    QCOMPARE(m_ui->last().title, QStringLiteral("添加奖品图片"));
+    QCOMPARE(dialog.editor->txtPhoto->text(), QStringLiteral("/tmp/prize.png"));
+    dialog.editor->cmdFile->click();  // cancelled: the choice stays
+    QCOMPARE(dialog.editor->txtPhoto->text(), QStringLiteral("/tmp/prize.png"));
+    dialog.editor->cmdRemove->click();
+    QCOMPARE(dialog.editor->txtPhoto->text(), QStringLiteral("no"));
+    QCOMPARE(stage->values(proto::vbAddImg), (QStringList{"/tmp/prize.png", ""}));
+    QCOMPARE(dialogFilter(QStringLiteral("图片(*.png)|*.png;*.jpg|GIF|*.gif")),
+             QStringLiteral("图片(*.png) (*.png *.jpg);;GIF (*.gif)"));
+}
+
+void TestAwardScreens::cameraPhoto() {
+    QString caller;
+    awardcamera::setShot([this, &caller](QWidget *) {
+        caller = appState().cameraCaller;
+        QDir().mkpath(m_folder->path(QStringLiteral("Photos")));
+        QFile file(m_folder->path(AwardBook::kCameraFile));
+        return file.open(QIODevice::WriteOnly) ? file.fileName() : QString();
+    });
+    const auto unregister = qScopeGuard([] { awardcamera::setShot(nullptr); });
+    frmAddJP dialog;
+    QVERIFY(dialog.editor->cmdCamera->isVisibleTo(&dialog));
+    dialog.editor->cmdCamera->click();
+    QCOMPARE(caller, QStringLiteral("frmAddJP"));
+    QCOMPARE(dialog.editor->txtPhoto->text(), QStringLiteral("camre"));
+    dialog.editor->txtJxName->setText(QStringLiteral("奖"));
+    dialog.editor->txtJxNum->setText(QStringLiteral("1"));
+    dialog.editor->txtJxGroup->setText(QStringLiteral("1"));
+    dialog.cmdAdd->click();  // a picture and no prize name is enough
+    QCOMPARE(AwardBook().find(dialog.addedId)->JPPhoto, QStringLiteral("Photos/JP1.jpg"));
+    QVERIFY(QFile::exists(m_folder->path(QStringLiteral("Photos/JP1.jpg"))));
+}
+
+void TestAwardScreens::addDialog() {
+    addAwards();
+    frmAddJP dialog;
+    QVERIFY(dialog.editor->chkIsReLuck->isChecked());
+    QCOMPARE(dialog.editor->ComboRange->currentIndex(), 0);
+    QCOMPARE(dialog.editor->txtPhoto->text(), QStringLiteral("no"));
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("增加奖项"));
+    dialog.editor->txtJxName->setText(QStringLiteral("三等奖"));
+    dialog.editor->txtJxNum->setText(QStringLiteral("20"));
+    dialog.editor->txtJxGroup->setText(QStringLiteral("4"));
+    dialog.editor->txtJpName->setText(QStringLiteral("保温杯"));
+    dialog.cmdAdd->click();
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QCOMPARE(dialog.addedId, 4);
+    QVERIFY(m_ui->records.isEmpty());  // no confirmation
+    const AwardRow row = *AwardBook().find(4);
+    QCOMPARE(row.OrderNum, 4);
+    QCOMPARE(row.isReLuck, 1);
+    QCOMPARE(row.JXGroup, 4);
+}
+
+void TestAwardScreens::addDialogValidates() {
+    frmAddJP dialog;
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    dialog.cmdAdd->click();
+    QCOMPARE(m_ui->last().text, QStringLiteral("请输入奖项名称!"));
+    QCOMPARE(QApplication::focusWidget(), dialog.editor->txtJxName);
+    dialog.editor->txtJxName->setText(QStringLiteral("奖"));
+    dialog.editor->txtJxNum->setText(QStringLiteral("1"));
+    dialog.cmdAdd->click();
+    QCOMPARE(m_ui->last().text, QStringLiteral("至少存在1个抽奖批次"));
+    QCOMPARE(QApplication::focusWidget(), dialog.editor->txtJxGroup);
+    QVERIFY(AwardBook().list().isEmpty());
+    dialog.editor->txtJxGroup->setText(QStringLiteral("1"));
+    dialog.editor->txtJpName->setText(QStringLiteral("P"));
+    store::exec(m_folder->db(),
+                QStringLiteral("INSERT INTO JPList (ID, JXName, OrderNum) VALUES (32767, 'A', 1)"));
+    dialog.cmdAdd->click();
+    QCOMPARE(m_ui->last().text, AwardBook::kFullMessage);
+    QCOMPARE(AwardBook().list().size(), 1);
+    QVERIFY(dialog.result() != QDialog::Accepted);
+}
+
+// Renders the award manager for docs/screenshots when QUELLIO_SCREENSHOTS names a folder.
+void TestAwardScreens::screenshot() {
+    const QString out = qEnvironmentVariable("QUELLIO_SCREENSHOTS");
+    if (out.isEmpty()) QSKIP("QUELLIO_SCREENSHOTS not set");
+    style::apply();
+    setStageFactory([](QWidget *parent) { return std::make_unique<PictureStage>(parent); });
+    addAwards();
+    QDir().mkpath(m_folder->path(QStringLiteral("Photos")));
+    paintPrize(m_folder->path(QStringLiteral("Photos/JP2.png")));
+    paintPrize(m_folder->path(QStringLiteral("Photos/JP1.jpg")));
+    store::exec(m_folder->db(), QStringLiteral("UPDATE JPList SET JPPhoto=? WHERE ID=?"),
+                {QStringLiteral("Photos/JP2.png"), 2});
+    store::exec(m_folder->db(), QStringLiteral("UPDATE JPList SET JPPhoto=? WHERE ID=?"),
+                {QStringLiteral("Photos/JP1.jpg"), 1});
+    m_folder->addAward(QStringLiteral("三等奖"), 30, 3, 1, 2, 8, 0, QStringLiteral("蓝牙耳机"));
+    m_folder->addAward(QStringLiteral("幸运奖"), 100, 5, 0, 3, 50, 0, QStringLiteral("购物卡"));
+    m_folder->addAward(QStringLiteral("阳光普照奖"), 200, 4, 1, 0, 0, 0,
+                       QStringLiteral("定制礼盒"));
+    frmJP dialog;
+    dialog.selectAward(2);
+    dialog.setTicked(5, true);
+    dialog.show();
+    QTest::qWait(50);
+    QDir().mkpath(out);
+    QVERIFY(dialog.grab().save(out + QStringLiteral("/award-manager.png")));
+    frmAddJP add;
+    add.show();
+    QTest::qWait(50);
+    QVERIFY(add.grab().save(out + QStringLiteral("/award-add.png")));
+}
+
+QTEST_MAIN(TestAwardScreens)
+#include "tst_awardscreens.moc"
