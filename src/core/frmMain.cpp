@@ -11,6 +11,8 @@
 #include <QStackedWidget>
 
 #include "awards/frmGuide.h"
+#include "awards/frmJP.h"
+#include "core/events.h"
 #include "chrome/icons.h"
 #include "chrome/style.h"
 #include "chrome/widgets.h"
@@ -90,6 +92,8 @@ frmMain::frmMain(QWidget *parent) : FramelessWindow(QSize(kWidth, kHeight), pare
     tmMove.setInterval(12);
     connect(&tmMove, &QTimer::timeout, this, &frmMain::moveStep);
     tjJX();
+    connect(&events(), &Events::awardsChanged, this, &frmMain::tjJX);
+    connect(&events(), &Events::resultsChanged, this, &frmMain::getLuckPos);
     createPreviewStage();
 }
 
