@@ -212,6 +212,9 @@ Item {
     // Names of the buttons on show, for the host's tests and tools.
     function visibleButtons() { return buttonBar.visibleNames() }
     function cellNames() { return page.drawArea ? page.drawArea.cellNames() : [] }
+    function cellPhotos() { return page.drawArea ? page.drawArea.cellPhotos() : [] }
+    function paradeOffset() { return parade.offset() }
+    readonly property bool barAwake: buttonBar.awake
     function objectNames() { return Object.keys(page.objects) }
     function objectText(name) {
         var o = page.objects[name]
@@ -237,6 +240,14 @@ Item {
         visible: root.scene === "draw"
 
         Page { id: page; festive: true }
+        Rectangle {     // the page dims behind the parade
+            anchors.fill: page
+            z: 999
+            color: "#C8140206"
+            opacity: parade.active ? 1 : 0
+            visible: opacity > 0
+            Behavior on opacity { NumberAnimation { duration: 400 } }
+        }
         Parade {
             id: parade
             photos: page.photos
@@ -263,5 +274,15 @@ Item {
     property int restMs: 2500
     Timer { id: restTimer; interval: root.restMs; running: true
             onTriggered: buttonBar.awake = false }
-    HoverHandler { onPointChanged: root.wake() }
+    // Qt Quick repeats hover events for a still mouse while the scene animates: only a real
+    // move wakes the bar.
+    HoverHandler {
+        property point last: Qt.point(-1, -1)
+        onPointChanged: {
+            var p = point.position
+            if (Math.abs(p.x - last.x) + Math.abs(p.y - last.y) < 2) return
+            last = p
+            root.wake()
+        }
+    }
 }

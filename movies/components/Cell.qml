@@ -18,6 +18,7 @@ Item {
     property bool winner: false
     property bool rolling: false
     property int flips: 0
+    readonly property string photoShown: photo.status === Image.Ready ? photo.path : ""
     signal settled()
 
     function showItem(item) {

@@ -160,6 +160,13 @@ Item {
         for (var i = 0; i < cells.count; ++i) cells.itemAt(i).reset()
     }
 
+    function cellPhotos() {
+        var out = []
+        for (var i = 0; i < cells.count; ++i)
+            if (cells.itemAt(i).photoShown) out.push(cells.itemAt(i).photoShown)
+        return out
+    }
+
     function cellNames() {
         var out = []
         for (var i = 0; i < cells.count; ++i) out.push(cells.itemAt(i).name)

@@ -63,16 +63,19 @@ Item {
         paused = false
         active = true
         intro.restart()
-        roll()
+        Qt.callLater(roll)
     }
+
+    // The list shows from the top, holds a moment to be read, then scrolls up and out.
+    readonly property int holdMs: Math.max(300, 4000 - speed * 180)
 
     function roll() {
         scroll.stop()
-        list.y = viewport.height
-        var distance = viewport.height + list.height
-        scroll.from = viewport.height
-        scroll.to = -list.height
-        scroll.duration = Math.max(400, distance / pixelsPerSecond * 1000)
+        list.forceLayout()
+        list.y = 0
+        move.from = 0
+        move.to = -list.height
+        move.duration = Math.max(300, list.height / pixelsPerSecond * 1000)
         scroll.start()
         if (paused) scroll.pause()
     }
@@ -89,6 +92,8 @@ Item {
         if (paused) scroll.pause()
         else scroll.resume()
     }
+
+    function offset() { return list.y }
 
     function stop() {
         scroll.stop()
@@ -240,10 +245,10 @@ Item {
                     }
                 }
             }
-            NumberAnimation {
+            SequentialAnimation {
                 id: scroll
-                target: list
-                property: "y"
+                PauseAnimation { duration: parade.holdMs }
+                NumberAnimation { id: move; target: list; property: "y" }
                 onFinished: {
                     if (!parade.active) return
                     parade.waiting = true

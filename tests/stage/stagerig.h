@@ -79,6 +79,7 @@ public:
     }
     // Clicks an on-stage item the way the operator would.
     bool click(const QString &objectName) {
+        QTest::qWait(40);  // let a bar that just changed lay out its buttons
         QQuickItem *item = findItem(stage.root(), objectName);
         if (!item) return false;
         const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
@@ -217,4 +218,53 @@ inline QStringList sampleNames() {
             QStringLiteral("梁静"),     QStringLiteral("宋佳"),     QStringLiteral("郑爽"),
             QStringLiteral("谢娜"),     QStringLiteral("韩雪"),     QStringLiteral("唐嫣"),
             QStringLiteral("冯绍峰"),   QStringLiteral("于和伟"),   QStringLiteral("董洁")};
+}
+
+// Portraits for the picture modes: a warm backdrop, a head and shoulders in a colour of their
+// own, written as JPEG files `u<ID>.jpg` into dir. Returns the loadAllUserPics value.
+inline QString makePortraits(const QString &dir, const QList<int> &ids, QSize size = {480, 600}) {
+    QStringList value{dir + QLatin1Char('/')};
+    for (int id : ids) {
+        QImage image(size, QImage::Format_RGB32);
+        QPainter p(&image);
+        p.setRenderHint(QPainter::Antialiasing);
+        const QColor tone = QColor::fromHsv((id * 47) % 360, 90, 230);
+        QLinearGradient back(0, 0, 0, size.height());
+        back.setColorAt(0, tone.lighter(120));
+        back.setColorAt(1, tone.darker(160));
+        p.fillRect(image.rect(), back);
+        p.setPen(Qt::NoPen);
+        p.setBrush(QColor::fromHsv((id * 47 + 180) % 360, 120, 120));
+        p.drawEllipse(QRectF(size.width() * 0.1, size.height() * 0.62, size.width() * 0.8,
+                             size.height() * 0.7));
+        p.setBrush(QColor(246, 214, 186));
+        p.drawEllipse(QRectF(size.width() * 0.3, size.height() * 0.2, size.width() * 0.4,
+                             size.height() * 0.4));
+        p.setBrush(QColor(40, 28, 24));
+        p.drawChord(QRectF(size.width() * 0.28, size.height() * 0.16, size.width() * 0.44,
+                           size.height() * 0.3),
+                    0, 180 * 16);
+        p.end();
+        const QString name = QStringLiteral("u%1.jpg").arg(id);
+        image.save(dir + QLatin1Char('/') + name, "JPG", 90);
+        value << name + proto::kItemSep + QString::number(id);
+    }
+    return value.join(proto::kSep);
+}
+
+// A playback value: the 34 style fields of the factory 16:9 template (with the speed given),
+// then title, running number, names and ids, both lists ending in "$".
+inline QString paradeValue(const QString &title, int number, const QStringList &names,
+                           int speed = 20, int luckType = 0, int firstId = 1) {
+    QString nameList, idList;
+    for (int i = 0; i < names.size(); ++i) {
+        nameList += names[i] + proto::kItemSep;
+        idList += QString::number(firstId + i) + proto::kItemSep;
+    }
+    return QStringLiteral("1536|821|%1|0|%2|200|200|4|0x7A0010|85|16|0x000000|25|10|24|14|"
+                          "黑体|0xFFE08A|56|100|true|false|false|center|1|"
+                          "黑体|0xFFFFFF|36|100|false|false|false|center|1|")
+               .arg(speed)
+               .arg(luckType) +
+           QStringList{title, QString::number(number), nameList, idList}.join(proto::kSep);
 }
