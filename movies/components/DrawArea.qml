@@ -237,7 +237,18 @@ Item {
                 font.pixelSize: Math.min(area.height * 0.09, 64)
             }
         }
+        Rectangle {     // one sample cell in the console's preview
+            anchors.centerIn: parent
+            visible: area.preview
+            width: sampleText.implicitWidth + sampleText.font.pixelSize
+            height: sampleText.implicitHeight + sampleText.font.pixelSize * 0.6
+            radius: height * 0.2
+            color: "#F2FFF4D6"
+            border.color: "#E8C170"
+            border.width: 3
+        }
         Text {
+            id: sampleText
             anchors.centerIn: parent
             visible: area.preview
             text: "演示文字"

@@ -21,7 +21,9 @@ Item {
         opacity = P.alpha(P.field(f, 7, "100"))
         mirror = P.flag(P.field(f, 8))
         // The path is the last field; it may be empty when an award has no picture.
-        source = P.fileUrl(f.slice(9).join("|"))
+        var path = f.slice(9).join("|")
+        // The console sends the program folder alone when an award has no picture.
+        source = /[\/\\]$/.test(path) ? "" : P.fileUrl(path)
     }
 
     width: boxW > 0 ? boxW : picture.implicitWidth

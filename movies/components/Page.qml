@@ -5,7 +5,7 @@ import "proto.js" as P
 // depth. The draw screen, the console preview and the designer share it.
 Item {
     id: page
-    property var vars: ({ prize: "", award: "", slots: "", left: "" })
+    property var vars: null       // award variables; null keeps "$Name1"... as typed
     property string luckLine                 // the winner line that scr_luckls shows
     property var photos: ({})
     property int luckDelay: 10
@@ -76,8 +76,9 @@ Item {
         id: scrollKind
         ScrollText {
             vars: page.vars
-            useOverride: objName === "scr_luckls" && !page.preview
-            override: page.luckLine
+            // The winner line of the draw; the console shows a sample in its place.
+            useOverride: objName === "scr_luckls" && (!page.preview || rawText === "")
+            override: page.preview ? "恭喜∶中奖名单将在这里滚动显示" : page.luckLine
         }
     }
     Component { id: imageKind; ImageObject { fadeColor: page.bgColor } }

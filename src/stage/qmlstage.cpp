@@ -63,8 +63,7 @@ void QmlStage::createHost(bool window) {
         m_quickWidget->setClearColor(Qt::black);
         m_quickWidget->setContextMenuPolicy(Qt::NoContextMenu);
         m_quickWidget->setFocusPolicy(Qt::StrongFocus);
-        m_quickWidget->engine()->addImageProvider(QLatin1String(kPhotoProvider),
-                                                  new PhotoProvider);
+        m_quickWidget->engine()->addImageProvider(QLatin1String(kPhotoProvider), new PhotoProvider);
         m_quickWidget->installEventFilter(this);
         m_host->layout()->addWidget(m_quickWidget);
         m_host->setFocusProxy(m_quickWidget);
@@ -77,8 +76,7 @@ bool QmlStage::loadMovie(const QString &path) {
         m_errors << QStringLiteral("no movie at ") + path;
         return false;
     }
-    const bool window =
-        m_mode == Host::Window || (m_mode == Host::Automatic && wantsWindow(path));
+    const bool window = m_mode == Host::Window || (m_mode == Host::Automatic && wantsWindow(path));
     createHost(window);
     if (m_root) disconnect(m_root, nullptr, this, nullptr);
     const QUrl url = QUrl::fromLocalFile(path);
@@ -86,12 +84,14 @@ bool QmlStage::loadMovie(const QString &path) {
     if (m_view) {
         m_view->engine()->clearComponentCache();
         m_view->setSource(url);
-        for (const QQmlError &error : m_view->errors()) m_errors << error.toString();
+        for (const QQmlError &error : m_view->errors())
+            m_errors << error.toString();
         root = m_view->rootObject();
     } else {
         m_quickWidget->engine()->clearComponentCache();
         m_quickWidget->setSource(url);
-        for (const QQmlError &error : m_quickWidget->errors()) m_errors << error.toString();
+        for (const QQmlError &error : m_quickWidget->errors())
+            m_errors << error.toString();
         root = m_quickWidget->rootObject();
     }
     m_root = root;

@@ -43,7 +43,8 @@ public:
 
     int count(const QString &command) const {
         int n = 0;
-        for (const auto &c : commands) n += c.first == command ? 1 : 0;
+        for (const auto &c : commands)
+            n += c.first == command ? 1 : 0;
         return n;
     }
     QStringList args(const QString &command) const {
@@ -55,7 +56,8 @@ public:
     bool waitFor(const QString &command, int timeoutMs = 5000, int atLeast = 1) {
         QElapsedTimer clock;
         clock.start();
-        while (count(command) < atLeast && clock.elapsed() < timeoutMs) QTest::qWait(10);
+        while (count(command) < atLeast && clock.elapsed() < timeoutMs)
+            QTest::qWait(10);
         return count(command) >= atLeast;
     }
 
@@ -109,12 +111,26 @@ public:
     static QString textObject(const QString &name, int depth, int x, int y, const QString &text,
                               int size, const QString &colour, const QString &align,
                               bool bold = true, int shadow = 1) {
-        return QStringList{proto::falseText, name, QString::number(depth), QString::number(x),
-                           QString::number(y), QStringLiteral("100"), QStringLiteral("0x000000"),
-                           QStringLiteral("0"), QStringLiteral("0"), QStringLiteral("box"), text,
-                           QStringLiteral("黑体"), colour, QString::number(size),
-                           bold ? proto::trueText : proto::falseText, proto::falseText,
-                           proto::falseText, QStringLiteral("0"), align, QString::number(shadow)}
+        return QStringList{proto::falseText,
+                           name,
+                           QString::number(depth),
+                           QString::number(x),
+                           QString::number(y),
+                           QStringLiteral("100"),
+                           QStringLiteral("0x000000"),
+                           QStringLiteral("0"),
+                           QStringLiteral("0"),
+                           QStringLiteral("box"),
+                           text,
+                           QStringLiteral("黑体"),
+                           colour,
+                           QString::number(size),
+                           bold ? proto::trueText : proto::falseText,
+                           proto::falseText,
+                           proto::falseText,
+                           QStringLiteral("0"),
+                           align,
+                           QString::number(shadow)}
             .join(proto::kSep);
     }
 
@@ -126,24 +142,22 @@ public:
         // start and stop share the space bar; then C, Z, O, P, L, M, F.
         send(proto::setAsKeys, QStringLiteral("32|32|67|90|79|80|76|77|70"));
         send(proto::ClsPage, proto::yes);
-        send(proto::vbAddTxt, textObject(QStringLiteral("txt_zbt"), 1, 660, 40,
-                                         QStringLiteral("2026年度盛典"), 80,
-                                         QStringLiteral("0xFFE08A"), QStringLiteral("center")));
-        send(proto::vbAddTxt, textObject(QStringLiteral("txt_fbt"), 2, 820, 150,
-                                         QStringLiteral("幸运大抽奖"), 40,
-                                         QStringLiteral("0xFFF4D6"), QStringLiteral("center"),
-                                         false));
-        send(proto::vbAddTxt, textObject(QStringLiteral("txt_jxname"), 3, 96, 250,
-                                         QStringLiteral("$Name2"), 56, QStringLiteral("0xFFE08A"),
-                                         QStringLiteral("left")));
-        send(proto::vbAddTxt, textObject(QStringLiteral("txt_jpname"), 4, 96, 336,
-                                         QStringLiteral("奖品：$Name1"), 34,
-                                         QStringLiteral("0xFFFFFF"), QStringLiteral("left"),
-                                         false, 0));
-        send(proto::vbAddTxt, textObject(QStringLiteral("txt_jpinfo"), 5, 96, 392,
-                                         QStringLiteral("名额 $1 名，剩余 $2 名"), 28,
-                                         QStringLiteral("0xFFF4D6"), QStringLiteral("left"),
-                                         false, 0));
+        send(proto::vbAddTxt,
+             textObject(QStringLiteral("txt_zbt"), 1, 660, 40, QStringLiteral("2026年度盛典"), 80,
+                        QStringLiteral("0xFFE08A"), QStringLiteral("center")));
+        send(proto::vbAddTxt,
+             textObject(QStringLiteral("txt_fbt"), 2, 820, 150, QStringLiteral("幸运大抽奖"), 40,
+                        QStringLiteral("0xFFF4D6"), QStringLiteral("center"), false));
+        send(proto::vbAddTxt,
+             textObject(QStringLiteral("txt_jxname"), 3, 96, 250, QStringLiteral("$Name2"), 56,
+                        QStringLiteral("0xFFE08A"), QStringLiteral("left")));
+        send(proto::vbAddTxt,
+             textObject(QStringLiteral("txt_jpname"), 4, 96, 336, QStringLiteral("奖品：$Name1"),
+                        34, QStringLiteral("0xFFFFFF"), QStringLiteral("left"), false, 0));
+        send(proto::vbAddTxt,
+             textObject(QStringLiteral("txt_jpinfo"), 5, 96, 392,
+                        QStringLiteral("名额 $1 名，剩余 $2 名"), 28, QStringLiteral("0xFFF4D6"),
+                        QStringLiteral("left"), false, 0));
         send(proto::vbAddJpBox, QStringLiteral("ssm_vornex|600|240|1224|700|7"));
         send(proto::vbAddStxt,
              QStringLiteral("false|scr_luckls|8|0|96|990|1728|56|0x000000|30|round|8||100|黑体|"
@@ -175,10 +189,11 @@ public:
         return ok;
     }
 
-    static QString blockStyle(int luckType, int batch, const QString &sample = QStringLiteral(
-                                                           "欧阳明月")) {
-        return QStringLiteral("%1|160|160|%2|%3|round|0xFFF4D6|92|20|20|12|黑体|0xB0171F|44|100|"
-                              "true|false|false|center|0|s|")
+    static QString blockStyle(int luckType, int batch,
+                              const QString &sample = QStringLiteral("欧阳明月")) {
+        return QStringLiteral(
+                   "%1|160|160|%2|%3|round|0xFFF4D6|92|20|20|12|黑体|0xB0171F|44|100|"
+                   "true|false|false|center|0|s|")
             .arg(sample)
             .arg(luckType)
             .arg(batch);
@@ -208,16 +223,16 @@ public:
 
 // Sample roster names, some long, one with the protected bar.
 inline QStringList sampleNames() {
-    return {QStringLiteral("张伟"),     QStringLiteral("王芳"),     QStringLiteral("李娜"),
-            QStringLiteral("刘洋"),     QStringLiteral("陈静"),     QStringLiteral("杨帆"),
-            QStringLiteral("赵磊"),     QStringLiteral("黄晓明"),   QStringLiteral("周杰"),
-            QStringLiteral("吴昊"),     QStringLiteral("徐丽"),     QStringLiteral("孙悦"),
-            QStringLiteral("马超"),     QStringLiteral("朱琳"),     QStringLiteral("胡军"),
-            QStringLiteral("郭敏"),     QStringLiteral("何欣"),     QStringLiteral("高远"),
-            QStringLiteral("林峰"),     QStringLiteral("欧阳明月"), QStringLiteral("罗晨"),
-            QStringLiteral("梁静"),     QStringLiteral("宋佳"),     QStringLiteral("郑爽"),
-            QStringLiteral("谢娜"),     QStringLiteral("韩雪"),     QStringLiteral("唐嫣"),
-            QStringLiteral("冯绍峰"),   QStringLiteral("于和伟"),   QStringLiteral("董洁")};
+    return {QStringLiteral("张伟"),   QStringLiteral("王芳"),     QStringLiteral("李娜"),
+            QStringLiteral("刘洋"),   QStringLiteral("陈静"),     QStringLiteral("杨帆"),
+            QStringLiteral("赵磊"),   QStringLiteral("黄晓明"),   QStringLiteral("周杰"),
+            QStringLiteral("吴昊"),   QStringLiteral("徐丽"),     QStringLiteral("孙悦"),
+            QStringLiteral("马超"),   QStringLiteral("朱琳"),     QStringLiteral("胡军"),
+            QStringLiteral("郭敏"),   QStringLiteral("何欣"),     QStringLiteral("高远"),
+            QStringLiteral("林峰"),   QStringLiteral("欧阳明月"), QStringLiteral("罗晨"),
+            QStringLiteral("梁静"),   QStringLiteral("宋佳"),     QStringLiteral("郑爽"),
+            QStringLiteral("谢娜"),   QStringLiteral("韩雪"),     QStringLiteral("唐嫣"),
+            QStringLiteral("冯绍峰"), QStringLiteral("于和伟"),   QStringLiteral("董洁")};
 }
 
 // Portraits for the picture modes: a warm backdrop, a head and shoulders in a colour of their
@@ -261,9 +276,10 @@ inline QString paradeValue(const QString &title, int number, const QStringList &
         nameList += names[i] + proto::kItemSep;
         idList += QString::number(firstId + i) + proto::kItemSep;
     }
-    return QStringLiteral("1536|821|%1|0|%2|200|200|4|0x7A0010|85|16|0x000000|25|10|24|14|"
-                          "黑体|0xFFE08A|56|100|true|false|false|center|1|"
-                          "黑体|0xFFFFFF|36|100|false|false|false|center|1|")
+    return QStringLiteral(
+               "1536|821|%1|0|%2|200|200|4|0x7A0010|85|16|0x000000|25|10|24|14|"
+               "黑体|0xFFE08A|56|100|true|false|false|center|1|"
+               "黑体|0xFFFFFF|36|100|false|false|false|center|1|")
                .arg(speed)
                .arg(luckType) +
            QStringList{title, QString::number(number), nameList, idList}.join(proto::kSep);

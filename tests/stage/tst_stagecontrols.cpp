@@ -30,12 +30,12 @@ void TestStageControls::everyButtonReportsItsName_data() {
     QTest::addColumn<QString>("state");
     QTest::addColumn<QStringList>("buttons");
     QTest::newRow("idle") << proto::buttons::defulte
-                          << QStringList{proto::btn::btnStart,    proto::btn::btnPre,
-                                         proto::btn::btnNext,     proto::btn::btnAdd,
-                                         proto::btn::btnGiveUp,   proto::btn::btnLstPrt,
-                                         proto::btn::btnLstOut,   proto::btn::btnPlayLuck,
-                                         proto::btn::btnSoundOn,  proto::btn::btnSoundOff,
-                                         proto::btn::btnScreenN,  proto::btn::btnScreenF,
+                          << QStringList{proto::btn::btnStart,   proto::btn::btnPre,
+                                         proto::btn::btnNext,    proto::btn::btnAdd,
+                                         proto::btn::btnGiveUp,  proto::btn::btnLstPrt,
+                                         proto::btn::btnLstOut,  proto::btn::btnPlayLuck,
+                                         proto::btn::btnSoundOn, proto::btn::btnSoundOff,
+                                         proto::btn::btnScreenN, proto::btn::btnScreenF,
                                          proto::btn::btnExit};
     QTest::newRow("running") << proto::buttons::start
                              << QStringList{proto::btn::btnStop, proto::btn::btnClear};
@@ -132,8 +132,10 @@ void TestStageControls::barRestsAndWakes() {
 
 void TestStageControls::pictureModeShowsEachParticipantsPhoto() {
     QList<int> ids;
-    for (int i = 1; i <= 10; ++i) ids << i;
-    for (int i = 100; i < 130; ++i) ids << i;
+    for (int i = 1; i <= 10; ++i)
+        ids << i;
+    for (int i = 100; i < 130; ++i)
+        ids << i;
     const QString photos = makePortraits(m_photos.path(), ids);
     StageRig rig(QStringLiteral("stage.qml"));
     QVERIFY(rig.startUp(photos));
@@ -175,8 +177,8 @@ void TestStageControls::paradePausesAndCanBeCancelled() {
     StageRig rig(QStringLiteral("stage.qml"));
     QVERIFY(rig.startUp());
     rig.send(proto::changBtn, proto::buttons::luckplay);
-    rig.send(proto::vbLuckPlay, paradeValue(QStringLiteral("一等奖  奖品∶笔记本电脑"), 1,
-                                            sampleNames(), 5));
+    rig.send(proto::vbLuckPlay,
+             paradeValue(QStringLiteral("一等奖  奖品∶笔记本电脑"), 1, sampleNames(), 5));
     QTest::qWait(3600);  // past the hold, into the scroll
     QVERIFY(rig.save(QStringLiteral("stage-parade.png")));
     rig.send(proto::vbStartScroll, proto::no);

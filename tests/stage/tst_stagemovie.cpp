@@ -20,7 +20,8 @@ void TestStageMovie::startUpDialogue() {
     QVERIFY(rig.stage.usesWindow());
     QVERIFY(rig.startUp());
     QStringList order;
-    for (const auto &c : rig.commands) order << c.first;
+    for (const auto &c : rig.commands)
+        order << c.first;
     QCOMPARE(order, (QStringList{proto::cmd::loadok, proto::cmd::asok, proto::cmd::loaduserok}));
     QCOMPARE(rig.args(proto::cmd::loaduserok), QStringList{proto::ok});
     QTest::qWait(200);
