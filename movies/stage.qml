@@ -215,6 +215,20 @@ Item {
     function cellPhotos() { return page.drawArea ? page.drawArea.cellPhotos() : [] }
     function paradeOffset() { return parade.offset() }
     readonly property bool barAwake: buttonBar.awake
+    function stageScale() {
+        return scaleGiven ? [scaleX, scaleY] : [stageBox.fit, stageBox.fit]
+    }
+    // Geometry and state of one page object, for the host's tests and tools.
+    function objectInfo(name) {
+        var o = page.objects[name]
+        if (!o) return {}
+        var info = { x: o.x, y: o.y, width: o.width, height: o.height, opacity: o.opacity,
+                     z: o.z }
+        if (o.position) { var p = o.position(); info.textX = p[0]; info.textY = p[1] }
+        if (o.failed !== undefined) info.failed = o.failed
+        if (o.ready !== undefined) info.ready = o.ready
+        return info
+    }
     function objectNames() { return Object.keys(page.objects) }
     function objectText(name) {
         var o = page.objects[name]

@@ -26,6 +26,7 @@ Item {
         source = /[\/\\]$/.test(path) ? "" : P.fileUrl(path)
     }
 
+    readonly property bool ready: picture.status === Image.Ready
     width: boxW > 0 ? boxW : picture.implicitWidth
     height: boxH > 0 ? boxH : picture.implicitHeight
 
@@ -42,29 +43,33 @@ Item {
         sourceSize.height: obj.boxH > 0 ? obj.boxH * 2 : undefined
     }
     Item {
-        // The reflection: the picture upside down, fading out over a third of its height.
+        // The reflection: the picture upside down, fading out over a third of its height in
+        // bands of falling opacity (no shader, so it looks the same without a GPU).
+        id: reflection
         visible: obj.mirror && picture.status === Image.Ready
         y: obj.height + 4
         width: obj.width
         height: obj.height * 0.35
-        clip: true
-        opacity: 0.35
-        Image {
-            width: obj.width
-            height: obj.height
-            source: obj.source
-            asynchronous: true
-            fillMode: Image.PreserveAspectFit
-            sourceSize: picture.sourceSize
-            transform: Scale { origin.y: obj.height / 2; yScale: -1 }
-        }
-        Rectangle {
-            anchors.fill: parent
-            gradient: Gradient {
-                GradientStop { position: 0.0; color: "#00000000" }
-                GradientStop { position: 1.0; color: obj.fadeColor }
+        readonly property int bands: 12
+        Repeater {
+            model: reflection.bands
+            Item {
+                y: index * reflection.height / reflection.bands
+                width: reflection.width
+                height: Math.ceil(reflection.height / reflection.bands)
+                clip: true
+                opacity: 0.4 * (1 - index / reflection.bands)
+                Image {
+                    y: -parent.y
+                    width: obj.width
+                    height: obj.height
+                    source: obj.source
+                    asynchronous: true
+                    fillMode: Image.PreserveAspectFit
+                    sourceSize: picture.sourceSize
+                    transform: Scale { origin.y: obj.height / 2; yScale: -1 }
+                }
             }
         }
     }
-    property color fadeColor: "#ff000000"
 }

@@ -81,7 +81,7 @@ Item {
             override: page.preview ? "恭喜∶中奖名单将在这里滚动显示" : page.luckLine
         }
     }
-    Component { id: imageKind; ImageObject { fadeColor: page.bgColor } }
+    Component { id: imageKind; ImageObject {} }
     Component { id: animKind; AnimObject {} }
     Component {
         id: areaKind

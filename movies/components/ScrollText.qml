@@ -44,6 +44,8 @@ Item {
     readonly property real pixelsPerSecond: speed <= 0 ? 0 : 25 + speed * 22
     readonly property bool vertical: direction === 2
 
+    function position() { return [label.x, label.y] }
+
     function restart() {
         run.stop()
         if (pixelsPerSecond <= 0) {

@@ -174,12 +174,13 @@ public:
     }
 
     // loadok -> gotoPlay2 -> asok -> pushes -> loaduserok.
-    bool startUp(const QString &photos = QString(), int luckDelay = 0) {
+    bool startUp(const QString &photos = QString(), int luckDelay = 0,
+                 const QString &prizePicture = QString()) {
         if (!waitFor(proto::cmd::loadok)) return false;
-        onCommand = [this, photos, luckDelay](const QString &c, const QString &) {
+        onCommand = [this, photos, luckDelay, prizePicture](const QString &c, const QString &) {
             if (c != proto::cmd::asok) return;
             pushTemplate(photos, luckDelay);
-            loadAward(QStringLiteral("一等奖"), 5, 5, QStringLiteral("笔记本电脑"));
+            loadAward(QStringLiteral("一等奖"), 5, 5, QStringLiteral("笔记本电脑"), prizePicture);
             send(proto::updateLuckLst, QStringLiteral("当前奖项暂无获奖名单..."));
             send(proto::changBtn, proto::buttons::defulte);
         };
@@ -265,6 +266,34 @@ inline QString makePortraits(const QString &dir, const QList<int> &ids, QSize si
         value << name + proto::kItemSep + QString::number(id);
     }
     return value.join(proto::kSep);
+}
+
+// A prize picture on a transparent ground: a red gift box with a gold ribbon.
+inline QString makePrizePicture(const QString &dir) {
+    QImage image(840, 630, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter p(&image);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(Qt::NoPen);
+    QLinearGradient box(0, 220, 0, 620);
+    box.setColorAt(0, QColor(214, 40, 52));
+    box.setColorAt(1, QColor(120, 8, 20));
+    p.setBrush(box);
+    p.drawRoundedRect(QRectF(230, 250, 380, 360), 18, 18);
+    p.setBrush(QColor(232, 56, 66));
+    p.drawRoundedRect(QRectF(200, 190, 440, 90), 16, 16);
+    QLinearGradient gold(0, 0, 840, 0);
+    gold.setColorAt(0, QColor(232, 177, 80));
+    gold.setColorAt(0.5, QColor(255, 230, 150));
+    gold.setColorAt(1, QColor(200, 140, 50));
+    p.setBrush(gold);
+    p.drawRect(QRectF(390, 190, 60, 420));
+    p.drawEllipse(QRectF(300, 90, 130, 110));
+    p.drawEllipse(QRectF(410, 90, 130, 110));
+    p.end();
+    const QString path = dir + QStringLiteral("/prize.png");
+    image.save(path);
+    return path;
 }
 
 // A playback value: the 34 style fields of the factory 16:9 template (with the speed given),

@@ -12,13 +12,18 @@ private Q_SLOTS:
     void wholeDrawLandsOnTheWinners_data();
     void wholeDrawLandsOnTheWinners();
     void clearHidesTheCells();
+    void scrollingTextMovesItsWay_data();
+    void scrollingTextMovesItsWay();
+    void picturesAndAnimations();
+    void scaleFollowsTheHost();
 };
 
 void TestStageMovie::startUpDialogue() {
+    QTemporaryDir dir;
     StageRig rig(QStringLiteral("stage.qml"));
     QVERIFY2(rig.loaded, qPrintable(rig.stage.errors().join('\n')));
     QVERIFY(rig.stage.usesWindow());
-    QVERIFY(rig.startUp());
+    QVERIFY(rig.startUp(QString(), 0, makePrizePicture(dir.path())));
     QStringList order;
     for (const auto &c : rig.commands)
         order << c.first;
@@ -27,6 +32,9 @@ void TestStageMovie::startUpDialogue() {
     QTest::qWait(200);
     QCOMPARE(rig.count(proto::cmd::loaduserok), 1);
     QVERIFY(rig.callList("objectNames").contains(QStringLiteral("ssm_vornex")));
+    QTRY_VERIFY(
+        rig.call("objectInfo", QStringLiteral("img_jpimgs")).toMap().value("ready").toBool());
+    rig.stage.root()->setProperty("restMs", 600000);
     QVERIFY(rig.save(QStringLiteral("stage-idle.png")));
 }
 
@@ -86,6 +94,92 @@ void TestStageMovie::clearHidesTheCells() {
     rig.send(proto::vbShowBlock, proto::falseText);
     QTest::qWait(700);
     QCOMPARE(rig.count(proto::cmd::stoplucksub), 0);
+}
+
+void TestStageMovie::scrollingTextMovesItsWay_data() {
+    QTest::addColumn<int>("direction");
+    QTest::addColumn<int>("speed");
+    QTest::addColumn<int>("dx");  // sign of the move: -1, 0, 1
+    QTest::addColumn<int>("dy");
+    QTest::newRow("right to left") << 0 << 10 << -1 << 0;
+    QTest::newRow("left to right") << 1 << 10 << 1 << 0;
+    QTest::newRow("bottom to top") << 2 << 10 << 0 << -1;
+    QTest::newRow("speed 0 stands") << 0 << 0 << 0 << 0;
+}
+
+void TestStageMovie::scrollingTextMovesItsWay() {
+    QFETCH(int, direction);
+    QFETCH(int, speed);
+    QFETCH(int, dx);
+    QFETCH(int, dy);
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    // 22 fields, the last the shadow switch; a name with "‖" in the text.
+    rig.send(proto::vbAddStxt, QStringLiteral("false|scr_abcdefghijklmnop|9|%1|100|600|800|60|"
+                                              "0xFFFFFF|50|round|10|恭喜李‖四 $Name2|80|黑体|"
+                                              "0x000000|24|true|false|false|%2|1")
+                                   .arg(direction)
+                                   .arg(speed));
+    const QString name = QStringLiteral("scr_abcdefghijklmnop");
+    QCOMPARE(rig.call("objectText", name).toString(), QStringLiteral("恭喜李‖四 一等奖"));
+    QTest::qWait(100);
+    const QVariantMap before = rig.call("objectInfo", name).toMap();
+    QCOMPARE(before.value("opacity").toDouble(), 0.8);
+    QCOMPARE(before.value("width").toDouble(), 800.0);
+    QTest::qWait(400);
+    const QVariantMap after = rig.call("objectInfo", name).toMap();
+    const double mx = after.value("textX").toDouble() - before.value("textX").toDouble();
+    const double my = after.value("textY").toDouble() - before.value("textY").toDouble();
+    QCOMPARE(mx > 1 ? 1 : mx < -1 ? -1 : 0, dx);
+    QCOMPARE(my > 1 ? 1 : my < -1 ? -1 : 0, dy);
+}
+
+void TestStageMovie::picturesAndAnimations() {
+    QTemporaryDir dir;
+    makePortraits(dir.path(), {1}, QSize(300, 200));
+    const QString picture = dir.path() + QStringLiteral("/u1.jpg");
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    // Width and height 0: the picture's own size.
+    rig.send(proto::vbAddImg,
+             QStringLiteral("false|img_abcdefghijklmnop|10|50|60|0|0|40|true|") + picture);
+    QTRY_VERIFY(rig.call("objectInfo", QStringLiteral("img_abcdefghijklmnop"))
+                    .toMap()
+                    .value("ready")
+                    .toBool());
+    QVariantMap info = rig.call("objectInfo", QStringLiteral("img_abcdefghijklmnop")).toMap();
+    QCOMPARE(info.value("width").toDouble(), 300.0);
+    QCOMPARE(info.value("height").toDouble(), 200.0);
+    QCOMPARE(info.value("opacity").toDouble(), 0.4);
+    QCOMPARE(info.value("z").toDouble(), 10.0);
+    // An animation the stage cannot play shows the block picture at 128 by 128.
+    rig.send(proto::vbAddSwf, QStringLiteral("false|swf_abcdefghijklmnop|11|0|0|400|300|") +
+                                  dir.path() + QStringLiteral("/intro.swf"));
+    info = rig.call("objectInfo", QStringLiteral("swf_abcdefghijklmnop")).toMap();
+    QVERIFY(info.value("failed").toBool());
+    QCOMPARE(info.value("width").toDouble(), 128.0);
+    // The same name again replaces the object.
+    rig.send(proto::vbAddSwf,
+             QStringLiteral("false|swf_abcdefghijklmnop|11|0|0|400|300|") + picture + ".png");
+    QImage(40, 30, QImage::Format_ARGB32).save(picture + ".png");
+    rig.send(proto::vbAddSwf,
+             QStringLiteral("false|swf_abcdefghijklmnop|11|0|0|0|0|") + picture + ".png");
+    QTRY_VERIFY(!rig.call("objectInfo", QStringLiteral("swf_abcdefghijklmnop"))
+                     .toMap()
+                     .value("failed")
+                     .toBool());
+    QCOMPARE(rig.callList("objectNames").count(QStringLiteral("swf_abcdefghijklmnop")), 1);
+}
+
+void TestStageMovie::scaleFollowsTheHost() {
+    StageRig rig(QStringLiteral("stage.qml"), QmlStage::Host::Automatic, QSize(960, 540));
+    QVERIFY(rig.startUp());
+    // Until the host says otherwise the page fits the window.
+    QCOMPARE(rig.call("stageScale").toList().value(0).toDouble(), 0.5);
+    rig.send(proto::vbSetScale, QStringLiteral("49.84375|47.12963"));
+    const QVariantList scale = rig.call("stageScale").toList();
+    QCOMPARE(scale.value(0).toDouble(), 0.4984375);
+    QCOMPARE(scale.value(1).toDouble(), 0.4712963);
 }
 
 QTEST_MAIN(TestStageMovie)
