@@ -28,7 +28,8 @@ Item {
             var f = P.fields(v)
             scaleGiven = true
             scaleX = Math.max(1, P.num(P.field(f, 0), 100)) / 100
-            scaleY = Math.max(1, P.num(P.field(f, 1), 100)) / 100
+            // The console sends one figure for both axes.
+            scaleY = f.length > 1 ? Math.max(1, P.num(P.field(f, 1), 100)) / 100 : scaleX
             break
         case "vbAddTxt": case "vbAddImg": case "vbAddStxt": case "vbAddSwf": case "vbAddJpBox":
             page.add(name, v)
@@ -45,7 +46,7 @@ Item {
         if (!o) return ""
         return o.shown !== undefined ? o.shown : P.fillVariables(o.rawText, page.vars)
     }
-    function pageSize() { return [page.width, page.height] }
+    function stageScale() { return scaleGiven ? [scaleX, scaleY] : [box.fit, box.fit] }
 
     Rectangle { anchors.fill: parent; color: "#1E0306" }
 

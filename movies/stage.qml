@@ -115,7 +115,8 @@ Item {
     function setScale(f) {
         scaleGiven = true
         scaleX = Math.max(1, P.num(P.field(f, 0), 100)) / 100
-        scaleY = Math.max(1, P.num(P.field(f, 1), 100)) / 100
+        // The console sends one figure for both axes.
+        scaleY = f.length > 1 ? Math.max(1, P.num(P.field(f, 1), 100)) / 100 : scaleX
     }
 
     // --- award and draw -----------------------------------------------------------------

@@ -52,7 +52,8 @@ void TestSmallMovies::previewTakesTheShortForms() {
     QVERIFY(rig.waitFor(proto::cmd::asload));
     rig.send(proto::getIsOk, proto::yes);
     pushConsoleTemplate(rig);
-    rig.send(proto::vbSetScale, QStringLiteral("25|25"));
+    rig.send(proto::vbSetScale, QStringLiteral("13.3854166666667"));
+    QCOMPARE(rig.call("stageScale").toList(), (QVariantList{0.133854166666667, 0.133854166666667}));
     QStringList names = rig.callList("objectNames");
     names.sort();
     QCOMPARE(names,
@@ -66,6 +67,7 @@ void TestSmallMovies::previewTakesTheShortForms() {
     rig.send(proto::ClsPage, proto::yes);
     QTRY_VERIFY(rig.callList("objectNames").isEmpty());
     pushConsoleTemplate(rig);
+    rig.send(proto::vbSetScale, QStringLiteral("25"));
     QVERIFY(rig.save(QStringLiteral("preview.png")));
 }
 
