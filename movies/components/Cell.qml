@@ -123,8 +123,8 @@ Item {
             Rectangle {
                 id: frame
                 visible: cell.mode > 0
-                x: (parent.width - width) / 2
-                y: cell.pad + content.shift
+                x: Math.round((parent.width - width) / 2)
+                y: Math.round(cell.pad + content.shift)
                 width: cell.photoW
                 height: cell.photoH
                 radius: card.radius * 0.6

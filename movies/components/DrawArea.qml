@@ -106,12 +106,29 @@ Item {
         cols = bestCols
         cellW = w * scale; cellH = h * scale
         fontPx = size * scale; pad = p * scale
-        photoW = (mode === 2 ? Math.max(pw, textW) : pw) * scale
-        photoH = ph * scale
+        // Whole pixels, so each photo is drawn exactly at its decoded size.
+        photoW = Math.round((mode === 2 ? Math.max(pw, textW) : pw) * scale)
+        photoH = Math.round(ph * scale)
         gapX = dx * scale; gapY = dy * scale
         count = 0           // rebuild the cells with the new sizes
         count = n
+        if (mode > 0) warmPhotos()
         for (var i = 0; i < cells.count; ++i) cells.itemAt(i).reset()
+    }
+
+    // Winners first, then the rest of the roster, decoded ahead at the cells' photo size.
+    function warmPhotos() {
+        if (typeof photoCache === "undefined" || !photoCache) return
+        var paths = [], seen = {}
+        for (var i = 0; i < winners.length; ++i) {
+            var own = photos[winners[i].id]
+            if (own && !seen[own]) { seen[own] = true; paths.push(own) }
+        }
+        for (var id in photos) {
+            var path = photos[id]
+            if (!seen[path]) { seen[path] = true; paths.push(path) }
+        }
+        photoCache.warm(paths, Math.ceil(photoW), Math.ceil(photoH))
     }
 
     readonly property int rows: Math.ceil(count / Math.max(1, cols))

@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QQmlContext>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
@@ -51,6 +52,8 @@ void QmlStage::createHost(bool window) {
         m_view->setResizeMode(QQuickView::SizeRootObjectToView);
         m_view->setColor(Qt::black);
         m_view->engine()->addImageProvider(QLatin1String(kPhotoProvider), new PhotoProvider);
+        m_view->rootContext()->setContextProperty(QStringLiteral("photoCache"),
+                                                  new PhotoCacheControl(m_view));
         m_view->installEventFilter(this);
         QWidget *container = QWidget::createWindowContainer(m_view, m_host);
         container->setFocusPolicy(Qt::StrongFocus);
@@ -64,6 +67,8 @@ void QmlStage::createHost(bool window) {
         m_quickWidget->setContextMenuPolicy(Qt::NoContextMenu);
         m_quickWidget->setFocusPolicy(Qt::StrongFocus);
         m_quickWidget->engine()->addImageProvider(QLatin1String(kPhotoProvider), new PhotoProvider);
+        m_quickWidget->rootContext()->setContextProperty(QStringLiteral("photoCache"),
+                                                         new PhotoCacheControl(m_quickWidget));
         m_quickWidget->installEventFilter(this);
         m_host->layout()->addWidget(m_quickWidget);
         m_host->setFocusProxy(m_quickWidget);

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void keyCodes();
     void photosDecodeAtTheSizeShown();
     void photoCacheStaysWithinItsLimit();
+    void warmUpDecodesAhead();
     void missingOrBrokenMovieFailsCleanly();
     void commandsArriveAsFsCommand();
     void factoryGivesQmlStages();
@@ -64,9 +65,10 @@ void TestStageHost::photosDecodeAtTheSizeShown() {
     QVERIFY(big.save(path, "JPG"));
     const QImage small = PhotoProvider::decode(path, QSize(200, 200));
     QVERIFY(!small.isNull());
-    // Covers the box with its aspect kept, never the whole picture.
-    QVERIFY(small.height() >= 200 && small.width() >= 200);
-    QVERIFY(small.width() <= 400 && small.height() <= 400);
+    // Fills the box exactly, never the whole picture.
+    QCOMPARE(small.size(), QSize(200, 200));
+    // A picture smaller than the box is not blown up.
+    QCOMPARE(PhotoProvider::decode(path, QSize(8000, 8000)).size(), QSize(4000, 3000));
     QVERIFY(
         PhotoProvider::decode(dir.path() + QStringLiteral("/none.jpg"), QSize(50, 50)).isNull());
 }
@@ -89,6 +91,31 @@ void TestStageHost::photoCacheStaysWithinItsLimit() {
         QVERIFY(PhotoProvider::cachedKb() <= PhotoProvider::cacheLimitKb());
     }
     QVERIFY(PhotoProvider::cachedKb() > PhotoProvider::cacheLimitKb() / 2);
+    PhotoProvider::clearCache();
+}
+
+void TestStageHost::warmUpDecodesAhead() {
+    QTemporaryDir dir;
+    QStringList paths;
+    QImage image(800, 600, QImage::Format_RGB32);
+    for (int i = 0; i < 12; ++i) {
+        image.fill(QColor::fromHsv(15 + i * 30, 200, 200));
+        paths << dir.path() + QStringLiteral("/w%1.jpg").arg(i);
+        QVERIFY(image.save(paths.last(), "JPG"));
+    }
+    paths << dir.path() + QStringLiteral("/missing.jpg");
+    PhotoProvider::clearCache();
+    PhotoProvider::warm(paths, QSize(120, 160));
+    PhotoProvider::waitForWarmUp();
+    // 12 photos of 120 x 160 in 32 bits: 75 KB each.
+    QCOMPARE(PhotoProvider::cachedKb(), 12 * 75);
+    PhotoProvider provider;
+    QSize size;
+    const QImage hit = provider.requestImage(
+        QString::fromUtf8(QUrl::toPercentEncoding(paths.first())), &size, QSize(120, 160));
+    QCOMPARE(size, QSize(120, 160));
+    QVERIFY(qAbs(hit.pixelColor(60, 80).hue() - 15) <= 4);
+    QCOMPARE(PhotoProvider::cachedKb(), 12 * 75);
     PhotoProvider::clearCache();
 }
 
