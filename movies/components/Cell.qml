@@ -21,7 +21,11 @@ Item {
     readonly property string photoShown: photo.status === Image.Ready ? photo.path : ""
     signal settled()
 
+    property string prevName
+    readonly property real travel: height * 0.62     // how far a name drops on a change
+
     function showItem(item) {
+        prevName = name
         name = item.name
         uid = item.id
         flips++
@@ -155,6 +159,19 @@ Item {
                 }
             }
 
+            ShadowText {     // the name that leaves downwards while the next drops in
+                visible: cell.mode === 0 && slide.running
+                x: label.x
+                width: label.width
+                y: label.y + cell.travel
+                opacity: (cell.look.opacity === undefined ? 1 : cell.look.opacity) *
+                         Math.max(0, -content.shift / cell.travel)
+                text: cell.prevName
+                elide: Text.ElideRight
+                horizontalAlignment: label.horizontalAlignment
+                color: label.color
+                font: label.font
+            }
             ShadowText {
                 id: label
                 visible: cell.mode !== 1
@@ -163,11 +180,14 @@ Item {
                 y: (cell.mode === 2 ? frame.y + frame.height + cell.pad * 0.5 :
                                      (parent.height - height) / 2 + content.shift)
                 text: cell.name
+                // The incoming name firms up as it settles.
+                opacity: (cell.look.opacity === undefined ? 1 : cell.look.opacity) *
+                         (cell.mode === 0 ? 1 - 0.6 * Math.max(0, -content.shift / cell.travel)
+                                          : 1)
                 elide: Text.ElideRight
                 horizontalAlignment: cell.look.align === undefined ? Text.AlignHCenter
                                                                    : cell.look.align
                 color: cell.look.color || "#B0171F"
-                opacity: cell.look.opacity === undefined ? 1 : cell.look.opacity
                 shadow: !!cell.look.shadow
                 font.family: cell.look.family || "黑体"
                 font.pixelSize: cell.fontPx
@@ -178,12 +198,39 @@ Item {
         }
     }
 
+    // While rolling, the card's upper and lower edges shade the names like the window of a
+    // turning drum.
+    Column {
+        anchors.fill: card
+        anchors.margins: card.border.width
+        visible: cell.mode === 0 && (cell.rolling || lander.running)
+        Rectangle {
+            width: parent.width
+            height: parent.height * 0.3
+            radius: card.radius
+            gradient: Gradient {
+                GradientStop { position: 0; color: Qt.darker(card.color, 1.25) }
+                GradientStop { position: 1; color: "transparent" }
+            }
+        }
+        Item { width: 1; height: parent.height * 0.4 }
+        Rectangle {
+            width: parent.width
+            height: parent.height * 0.3
+            radius: card.radius
+            gradient: Gradient {
+                GradientStop { position: 0; color: "transparent" }
+                GradientStop { position: 1; color: Qt.darker(card.color, 1.25) }
+            }
+        }
+    }
+
     // The name drops in from above on each change, like a drum turning.
     NumberAnimation {
         id: slide
         target: content
         property: "shift"
-        from: -cell.height * 0.22
+        from: cell.mode === 0 ? -cell.travel : -cell.height * 0.22
         to: 0
         duration: Math.max(30, Math.min(lander.running ? lander.step : 90, 160))
         easing.type: Easing.OutQuad
