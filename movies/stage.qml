@@ -127,8 +127,13 @@ Item {
     }
 
     function loadBlock(f) {
+        // A template without its draw area still draws, in the middle of the page: the host
+        // waits for blocksetok and must get it.
+        if (!page.drawArea)
+            page.add("vbAddJpBox", ["ssm_vornex", Math.round(page.width * 0.1),
+                                    Math.round(page.height * 0.22), Math.round(page.width * 0.8),
+                                    Math.round(page.height * 0.62), 500].join("|"))
         var area = page.drawArea
-        if (!area) return
         area.winners = winners
         area.loadBlock(f)
         send("blocksetok", "ok")
@@ -147,20 +152,24 @@ Item {
             if (area) { area.winners = winners; area.startRolling() }
         } else if (v === "stop") {
             if (area) area.stopRolling()
+            else landed()
         } else if (v === "clear") {
             if (area) area.clear()
         }
         if (v !== "luckplay" && parade.active) parade.stop()
     }
 
+    // stoplucksub goes out once per draw, whatever stops it.
+    function landed() {
+        if (stopSent) return
+        stopSent = true
+        send("stoplucksub")
+    }
+
     Connections {
         target: page.drawArea
         ignoreUnknownSignals: true
-        function onAllLanded() {
-            if (root.stopSent) return
-            root.stopSent = true
-            root.send("stoplucksub")
-        }
+        function onAllLanded() { root.landed() }
     }
 
     // --- parade -------------------------------------------------------------------------
@@ -213,6 +222,7 @@ Item {
     // Names of the buttons on show, for the host's tests and tools.
     function visibleButtons() { return buttonBar.visibleNames() }
     function cellNames() { return page.drawArea ? page.drawArea.cellNames() : [] }
+    function blockShown() { return page.drawArea ? page.drawArea.shown() : false }
     function cellPhotos() { return page.drawArea ? page.drawArea.cellPhotos() : [] }
     function paradeOffset() { return parade.offset() }
     readonly property bool barAwake: buttonBar.awake

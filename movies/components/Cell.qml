@@ -44,6 +44,7 @@ Item {
 
     function reset() {
         lander.stop()
+        opacity = 1
         winner = false
         pop.stop()
         scale = 1
@@ -69,9 +70,14 @@ Item {
             }
             if (remaining <= 0) {
                 cell.showItem(finalItem)
-                cell.winner = true
-                pop.restart()
-                burst.fire()
+                if (finalItem.name === "") {
+                    // More cells than winners: the spare cell steps back.
+                    cell.opacity = 0.25
+                } else {
+                    cell.winner = true
+                    pop.restart()
+                    burst.fire()
+                }
                 cell.settled()
                 return
             }

@@ -156,7 +156,13 @@ Item {
     }
 
     function stopRolling() {
-        if (phase !== "rolling") return
+        if (phase === "landing" || phase === "landed") return
+        if (phase !== "rolling") {
+            // Nothing rolls (an empty batch): the host still waits for its answer.
+            phase = "landing"
+            finish.restart()
+            return
+        }
         phase = "landing"
         var n = cells.count
         var slow = 600 + Math.max(0, luckDelay) * 90
@@ -176,6 +182,8 @@ Item {
         cellsShown = false
         for (var i = 0; i < cells.count; ++i) cells.itemAt(i).reset()
     }
+
+    function shown() { return cellsShown && count > 0 }
 
     function cellPhotos() {
         var out = []

@@ -12,6 +12,7 @@ private Q_SLOTS:
     void wholeDrawLandsOnTheWinners_data();
     void wholeDrawLandsOnTheWinners();
     void clearHidesTheCells();
+    void theHostIsAlwaysAnswered();
     void scrollingTextMovesItsWay_data();
     void scrollingTextMovesItsWay();
     void picturesAndAnimations();
@@ -91,10 +92,43 @@ void TestStageMovie::clearHidesTheCells() {
     StageRig rig(QStringLiteral("stage.qml"));
     QVERIFY(rig.startUp());
     QVERIFY(rig.beginDraw(0, {QStringLiteral("张伟")}, sampleNames()));
+    QVERIFY(rig.call("blockShown").toBool());
     rig.send(proto::changBtn, proto::buttons::clear);
-    rig.send(proto::vbShowBlock, proto::falseText);
+    QVERIFY(!rig.call("blockShown").toBool());
     QTest::qWait(700);
     QCOMPARE(rig.count(proto::cmd::stoplucksub), 0);
+    // vbShowBlock "false" hides landed cells too.
+    QVERIFY(rig.beginDraw(0, {QStringLiteral("张伟")}, sampleNames()));
+    rig.send(proto::changBtn, proto::buttons::stop);
+    QVERIFY(rig.waitFor(proto::cmd::stoplucksub, 8000));
+    QVERIFY(rig.call("blockShown").toBool());
+    rig.send(proto::vbShowBlock, proto::falseText);
+    QVERIFY(!rig.call("blockShown").toBool());
+}
+
+// The host waits for blocksetok and stoplucksub with no time-out: a template without its draw
+// area, more cells than winners, or a second stop must never leave it waiting or answer twice.
+void TestStageMovie::theHostIsAlwaysAnswered() {
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    rig.send(proto::ClsPage, proto::yes);  // the page loses its draw area
+    QVERIFY(rig.beginDraw(0, {QStringLiteral("张伟"), QStringLiteral("王芳")}, sampleNames()));
+    QCOMPARE(rig.count(proto::cmd::blocksetok), 1);
+    QCOMPARE(rig.callList("cellNames").size(), 2);
+    rig.send(proto::changBtn, proto::buttons::stop);
+    rig.send(proto::changBtn, proto::buttons::stop);
+    QVERIFY(rig.waitFor(proto::cmd::stoplucksub, 8000));
+    // Three cells for two winners: the spare lands on nothing.
+    rig.send(proto::vbndluck,
+             StageRig::items(0, {QStringLiteral("李‖四"), QStringLiteral("赵磊")}));
+    rig.send(proto::vbLoadBlock, StageRig::blockStyle(0, 3));
+    rig.send(proto::changBtn, proto::buttons::start);
+    rig.send(proto::changBtn, proto::buttons::stop);
+    QVERIFY(rig.waitFor(proto::cmd::stoplucksub, 8000, 2));
+    QCOMPARE(rig.callList("cellNames"),
+             (QStringList{QStringLiteral("李‖四"), QStringLiteral("赵磊"), QString()}));
+    QTest::qWait(300);
+    QCOMPARE(rig.count(proto::cmd::stoplucksub), 2);
 }
 
 void TestStageMovie::scrollingTextMovesItsWay_data() {
