@@ -204,33 +204,6 @@ Item {
         }
     }
 
-    // While rolling, the card's upper and lower edges shade the names like the window of a
-    // turning drum.
-    Column {
-        anchors.fill: card
-        anchors.margins: card.border.width
-        visible: cell.mode === 0 && (cell.rolling || lander.running)
-        Rectangle {
-            width: parent.width
-            height: parent.height * 0.3
-            radius: card.radius
-            gradient: Gradient {
-                GradientStop { position: 0; color: Qt.darker(card.color, 1.25) }
-                GradientStop { position: 1; color: "transparent" }
-            }
-        }
-        Item { width: 1; height: parent.height * 0.4 }
-        Rectangle {
-            width: parent.width
-            height: parent.height * 0.3
-            radius: card.radius
-            gradient: Gradient {
-                GradientStop { position: 0; color: "transparent" }
-                GradientStop { position: 1; color: Qt.darker(card.color, 1.25) }
-            }
-        }
-    }
-
     // The name drops in from above on each change, like a drum turning.
     NumberAnimation {
         id: slide
