@@ -2,14 +2,14 @@
 
 #include <QImage>
 #include <QPointer>
+#include <QQuickView>
+#include <QQuickWidget>
 #include <QStringList>
 
 #include "stage/stage.h"
 
 class QQmlEngine;
 class QQuickItem;
-class QQuickView;
-class QQuickWidget;
 class QQuickWindow;
 
 // The stage that plays a QML movie. The movie's root offers `setVariable(name, value)` and
@@ -55,8 +55,9 @@ private:
 
     Host m_mode;
     QPointer<QWidget> m_host;
-    QQuickWidget *m_quickWidget = nullptr;
-    QQuickView *m_view = nullptr;
+    // Owned by the host widget, which a screen may destroy first.
+    QPointer<QQuickWidget> m_quickWidget;
+    QPointer<QQuickView> m_view;
     QPointer<QObject> m_root;
     QStringList m_errors;
 };
