@@ -303,6 +303,8 @@ Item {
     // move wakes the bar.
     HoverHandler {
         property point last: Qt.point(-1, -1)
+        // The pointer goes with the bar, so nothing stands on the projected picture.
+        cursorShape: buttonBar.awake ? Qt.ArrowCursor : Qt.BlankCursor
         onPointChanged: {
             var p = point.position
             if (Math.abs(p.x - last.x) + Math.abs(p.y - last.y) < 2) return

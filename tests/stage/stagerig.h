@@ -84,6 +84,9 @@ public:
         QTest::qWait(40);  // let a bar that just changed lay out its buttons
         QQuickItem *item = findItem(stage.root(), objectName);
         if (!item) return false;
+        // Positioners lay out on the next frame; a loaded machine may not have drawn it yet.
+        for (QQuickItem *up = item; up; up = up->parentItem())
+            up->ensurePolished();
         const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
         QTest::mouseClick(stage.quickWindow(), Qt::LeftButton, {}, centre.toPoint());
         return true;
