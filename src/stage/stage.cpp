@@ -1,5 +1,7 @@
 #include "stage/stage.h"
 
+#include "stage/qmlstage.h"
+
 #include <QWidget>
 
 namespace {
@@ -17,5 +19,5 @@ void setStageFactory(StageFactory replacement) {
 
 std::unique_ptr<Stage> createStage(QWidget *parent) {
     if (factory()) return factory()(parent);
-    return std::make_unique<SilentStage>(parent);
+    return std::make_unique<QmlStage>(parent);
 }

@@ -33,7 +33,8 @@ using StageFactory = std::function<std::unique_ptr<Stage>(QWidget *parent)>;
 void setStageFactory(StageFactory factory);
 std::unique_ptr<Stage> createStage(QWidget *parent);
 
-// A stage that shows nothing and answers nothing: the fallback until a real one is registered.
+// A stage that shows nothing and answers nothing, for tools that need no picture.
+// createStage() hands out a QmlStage unless a factory is set.
 class SilentStage : public Stage {
     Q_OBJECT
 public:

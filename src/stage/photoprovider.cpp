@@ -1,0 +1,135 @@
+#include "stage/photoprovider.h"
+
+#include <QAtomicInt>
+#include <QCache>
+#include <QImageReader>
+#include <QMutex>
+#include <QThreadPool>
+#include <QUrl>
+
+namespace {
+
+constexpr int kCacheLimitKb = 160 * 1024;
+
+QMutex &cacheLock() {
+    static QMutex lock;
+    return lock;
+}
+
+QCache<QString, QImage> &cache() {
+    static QCache<QString, QImage> instance(kCacheLimitKb);
+    return instance;
+}
+
+int costKb(const QImage &image) {
+    return qMax(1, int(image.sizeInBytes() / 1024));
+}
+
+QString cacheKey(const QString &path, const QSize &size) {
+    return path + QLatin1Char('@') + QString::number(size.width()) + QLatin1Char('x') +
+           QString::number(size.height());
+}
+
+// One thread for warming, so the other core stays with the render loop.
+QThreadPool &warmPool() {
+    static QThreadPool *pool = [] {
+        auto *p = new QThreadPool;
+        p->setMaxThreadCount(1);
+        return p;
+    }();
+    return *pool;
+}
+
+QAtomicInt &warmGeneration() {
+    static QAtomicInt generation;
+    return generation;
+}
+
+bool cached(const QString &key) {
+    QMutexLocker locker(&cacheLock());
+    return cache().contains(key);
+}
+
+void store(const QString &key, const QImage &image) {
+    QMutexLocker locker(&cacheLock());
+    cache().insert(key, new QImage(image), costKb(image));
+}
+
+}  // namespace
+
+PhotoProvider::PhotoProvider()
+    : QQuickImageProvider(QQuickImageProvider::Image,
+                          QQuickImageProvider::ForceAsynchronousImageLoading) {}
+
+QImage PhotoProvider::decode(const QString &path, const QSize &box) {
+    QImageReader reader(path);
+    reader.setAutoTransform(true);
+    const QSize natural = reader.size();
+    if (box.isValid() && natural.isValid() &&
+        (natural.width() > box.width() || natural.height() > box.height())) {
+        reader.setScaledSize(natural.scaled(box, Qt::KeepAspectRatioByExpanding));
+    }
+    QImage image = reader.read();
+    if (image.isNull() || !box.isValid()) return image;
+    if (image.width() > box.width() + 1 || image.height() > box.height() + 1)
+        image = image.scaled(box, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+    // Cut to the box, centred: the stage then draws it pixel for pixel, with no scaling at
+    // each frame.
+    if (image.width() >= box.width() && image.height() >= box.height() && image.size() != box)
+        image = image.copy((image.width() - box.width()) / 2, (image.height() - box.height()) / 2,
+                           box.width(), box.height());
+    return image;
+}
+
+QImage PhotoProvider::requestImage(const QString &id, QSize *size, const QSize &requestedSize) {
+    const QString path = QUrl::fromPercentEncoding(id.toUtf8());
+    const QString key = cacheKey(path, requestedSize);
+    {
+        QMutexLocker locker(&cacheLock());
+        if (const QImage *hit = cache().object(key)) {
+            if (size) *size = hit->size();
+            return *hit;
+        }
+    }
+    const QImage image = decode(path, requestedSize);
+    if (size) *size = image.size();
+    if (!image.isNull()) store(key, image);
+    return image;
+}
+
+void PhotoProvider::warm(const QStringList &paths, const QSize &box) {
+    const int generation = warmGeneration().fetchAndAddOrdered(1) + 1;
+    if (paths.isEmpty() || !box.isValid()) return;
+    warmPool().start([paths, box, generation] {
+        int usedKb = 0;
+        for (const QString &path : paths) {
+            if (warmGeneration().loadAcquire() != generation) return;
+            const QString key = cacheKey(path, box);
+            if (cached(key)) continue;
+            const QImage image = decode(path, box);
+            if (image.isNull()) continue;
+            // Stop short of the limit: what the roll asks for itself must still fit.
+            usedKb += costKb(image);
+            if (usedKb > kCacheLimitKb * 3 / 4) return;
+            store(key, image);
+        }
+    });
+}
+
+void PhotoProvider::waitForWarmUp() {
+    warmPool().waitForDone();
+}
+
+int PhotoProvider::cacheLimitKb() {
+    return kCacheLimitKb;
+}
+
+int PhotoProvider::cachedKb() {
+    QMutexLocker locker(&cacheLock());
+    return int(cache().totalCost());
+}
+
+void PhotoProvider::clearCache() {
+    QMutexLocker locker(&cacheLock());
+    cache().clear();
+}

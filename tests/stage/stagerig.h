@@ -1,0 +1,318 @@
+#pragma once
+
+// A QML movie on a QmlStage, offscreen, with every command it raises written down, and the
+// payloads of the 16:9 factory template as the draw screen sends them.
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QImage>
+#include <QPainter>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+#include <QWidget>
+#include <QtTest>
+
+#include "core/widgethelpers.h"
+#include "stage/protocol.h"
+#include "stage/qmlstage.h"
+
+class StageRig {
+public:
+    explicit StageRig(const QString &movie, QmlStage::Host host = QmlStage::Host::Automatic,
+                      QSize size = QSize(1920, 1080))
+        : stage(nullptr, host) {
+        installFontSubstitutes();
+        QObject::connect(&stage, &Stage::FSCommand, [this](const QString &c, const QString &a) {
+            commands << qMakePair(c, a);
+            if (onCommand) onCommand(c, a);
+        });
+        stage.widget()->resize(size);
+        loaded = stage.loadMovie(appPath() + QStringLiteral("sys/") + movie);
+        stage.widget()->show();
+    }
+
+    static QString appPath() { return QStringLiteral(QUELLIO_FACTORY_DIR "/"); }
+
+    QmlStage stage;
+    bool loaded = false;
+    QList<QPair<QString, QString>> commands;
+    std::function<void(const QString &, const QString &)> onCommand;
+
+    void send(const QString &name, const QString &value) { stage.SetVariable(name, value); }
+
+    int count(const QString &command) const {
+        int n = 0;
+        for (const auto &c : commands)
+            n += c.first == command ? 1 : 0;
+        return n;
+    }
+    QStringList args(const QString &command) const {
+        QStringList out;
+        for (const auto &c : commands)
+            if (c.first == command) out << c.second;
+        return out;
+    }
+    bool waitFor(const QString &command, int timeoutMs = 5000, int atLeast = 1) {
+        QElapsedTimer clock;
+        clock.start();
+        while (count(command) < atLeast && clock.elapsed() < timeoutMs)
+            QTest::qWait(10);
+        return count(command) >= atLeast;
+    }
+
+    QVariant call(const char *function, const QVariant &arg = QVariant()) {
+        QVariant result;
+        if (arg.isValid())
+            QMetaObject::invokeMethod(stage.root(), function, Q_RETURN_ARG(QVariant, result),
+                                      Q_ARG(QVariant, arg));
+        else
+            QMetaObject::invokeMethod(stage.root(), function, Q_RETURN_ARG(QVariant, result));
+        return result;
+    }
+    QStringList callList(const char *function) { return call(function).toStringList(); }
+
+    static QQuickItem *findItem(QQuickItem *from, const QString &objectName) {
+        if (!from) return nullptr;
+        if (from->objectName() == objectName && from->isVisible()) return from;
+        for (QQuickItem *child : from->childItems())
+            if (QQuickItem *hit = findItem(child, objectName)) return hit;
+        return nullptr;
+    }
+    // Clicks an on-stage item the way the operator would.
+    bool click(const QString &objectName) {
+        QTest::qWait(40);  // let a bar that just changed lay out its buttons
+        QQuickItem *item = findItem(stage.root(), objectName);
+        if (!item) return false;
+        // Positioners lay out on the next frame; a loaded machine may not have drawn it yet.
+        for (QQuickItem *up = item; up; up = up->parentItem())
+            up->ensurePolished();
+        const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+        QTest::mouseClick(stage.quickWindow(), Qt::LeftButton, {}, centre.toPoint());
+        return true;
+    }
+    void key(int qtKey, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QKeyEvent press(QEvent::KeyPress, qtKey, modifiers);
+        QObject *target = stage.usesWindow() ? static_cast<QObject *>(stage.quickWindow())
+                                             : static_cast<QObject *>(stage.widget());
+        if (!stage.usesWindow())
+            target = stage.widget()->findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        QCoreApplication::sendEvent(target, &press);
+    }
+
+    bool save(const QString &name) {
+        QTest::qWait(60);
+        const QImage image = stage.grab();
+        const QString dir = qEnvironmentVariable("QUELLIO_SCREENSHOT_DIR");
+        if (dir.isEmpty()) return !image.isNull();
+        QDir().mkpath(dir);
+        return image.save(dir + QLatin1Char('/') + name);
+    }
+
+    // --- the draw screen's side, as literal payloads of the 16:9 factory template ----------
+
+    static QString textObject(const QString &name, int depth, int x, int y, const QString &text,
+                              int size, const QString &colour, const QString &align,
+                              bool bold = true, int shadow = 1) {
+        return QStringList{proto::falseText,
+                           name,
+                           QString::number(depth),
+                           QString::number(x),
+                           QString::number(y),
+                           QStringLiteral("100"),
+                           QStringLiteral("0x000000"),
+                           QStringLiteral("0"),
+                           QStringLiteral("0"),
+                           QStringLiteral("box"),
+                           text,
+                           QStringLiteral("黑体"),
+                           colour,
+                           QString::number(size),
+                           bold ? proto::trueText : proto::falseText,
+                           proto::falseText,
+                           proto::falseText,
+                           QStringLiteral("0"),
+                           align,
+                           QString::number(shadow)}
+            .join(proto::kSep);
+    }
+
+    // The reply to asok: background, keys, objects, award, as frmStart sends them.
+    void pushTemplate(const QString &photos = QString(), int luckDelay = 0) {
+        if (!photos.isEmpty()) send(proto::loadAllUserPics, photos);
+        send(proto::setAsBgColor, QStringLiteral("1920|1080|0x9E1B22|%1").arg(luckDelay));
+        send(proto::setAsBgImg, appPath() + QStringLiteral("|1920|1080"));
+        // start and stop share the space bar; then C, Z, O, P, L, M, F.
+        send(proto::setAsKeys, QStringLiteral("32|32|67|90|79|80|76|77|70"));
+        send(proto::ClsPage, proto::yes);
+        send(proto::vbAddTxt,
+             textObject(QStringLiteral("txt_zbt"), 1, 660, 40, QStringLiteral("2026年度盛典"), 80,
+                        QStringLiteral("0xFFE08A"), QStringLiteral("center")));
+        send(proto::vbAddTxt,
+             textObject(QStringLiteral("txt_fbt"), 2, 820, 150, QStringLiteral("幸运大抽奖"), 40,
+                        QStringLiteral("0xFFF4D6"), QStringLiteral("center"), false));
+        send(proto::vbAddTxt,
+             textObject(QStringLiteral("txt_jxname"), 3, 96, 250, QStringLiteral("$Name2"), 56,
+                        QStringLiteral("0xFFE08A"), QStringLiteral("left")));
+        send(proto::vbAddTxt,
+             textObject(QStringLiteral("txt_jpname"), 4, 96, 336, QStringLiteral("奖品：$Name1"),
+                        34, QStringLiteral("0xFFFFFF"), QStringLiteral("left"), false, 0));
+        send(proto::vbAddTxt,
+             textObject(QStringLiteral("txt_jpinfo"), 5, 96, 392,
+                        QStringLiteral("名额 $1 名，剩余 $2 名"), 28, QStringLiteral("0xFFF4D6"),
+                        QStringLiteral("left"), false, 0));
+        send(proto::vbAddJpBox, QStringLiteral("ssm_vornex|600|240|1224|700|7"));
+        send(proto::vbAddStxt,
+             QStringLiteral("false|scr_luckls|8|0|96|990|1728|56|0x000000|30|round|8||100|黑体|"
+                            "0xFFE08A|28|false|false|false|3|0"));
+    }
+
+    void loadAward(const QString &award, int slotCount, int left, const QString &prize,
+                   const QString &picture = QString()) {
+        send(proto::vbLoadJx, QStringList{award, QString::number(slotCount), QStringLiteral("1"),
+                                          QString::number(left), prize, picture}
+                                  .join(proto::kSep));
+        send(proto::vbAddImg,
+             QStringLiteral("false|img_jpimgs|6|96|450|420|315|100|true|") + picture);
+    }
+
+    // loadok -> gotoPlay2 -> asok -> pushes -> loaduserok.
+    bool startUp(const QString &photos = QString(), int luckDelay = 0,
+                 const QString &prizePicture = QString()) {
+        if (!waitFor(proto::cmd::loadok)) return false;
+        onCommand = [this, photos, luckDelay, prizePicture](const QString &c, const QString &) {
+            if (c != proto::cmd::asok) return;
+            pushTemplate(photos, luckDelay);
+            loadAward(QStringLiteral("一等奖"), 5, 5, QStringLiteral("笔记本电脑"), prizePicture);
+            send(proto::updateLuckLst, QStringLiteral("当前奖项暂无获奖名单..."));
+            send(proto::changBtn, proto::buttons::defulte);
+        };
+        send(proto::gotoPlay2, proto::go);
+        const bool ok = waitFor(proto::cmd::loaduserok);
+        onCommand = nullptr;
+        return ok;
+    }
+
+    static QString blockStyle(int luckType, int batch,
+                              const QString &sample = QStringLiteral("欧阳明月")) {
+        return QStringLiteral(
+                   "%1|160|160|%2|%3|round|0xFFF4D6|92|20|20|12|黑体|0xB0171F|44|100|"
+                   "true|false|false|center|0|s|")
+            .arg(sample)
+            .arg(luckType)
+            .arg(batch);
+    }
+
+    static QString items(int luckType, const QStringList &names, int firstId = 1) {
+        QStringList parts{QString::number(luckType)};
+        for (int i = 0; i < names.size(); ++i)
+            parts << names[i] + proto::kItemSep + QString::number(firstId + i);
+        return parts.join(proto::kSep);
+    }
+
+    // Start as the program runs it: winners, cell style, changBtn start, then pushes.
+    bool beginDraw(int luckType, const QStringList &winnerNames, const QStringList &pool) {
+        send(proto::vbndluck, items(luckType, winnerNames));
+        const int before = count(proto::cmd::blocksetok);
+        send(proto::vbLoadBlock, blockStyle(luckType, int(winnerNames.size())));
+        if (count(proto::cmd::blocksetok) != before + 1) return false;
+        send(proto::changBtn, proto::buttons::start);
+        for (int i = 0; i < 3; ++i) {
+            send(proto::vbPushLst, items(luckType, pool, 100));
+            QTest::qWait(60);
+        }
+        return true;
+    }
+};
+
+// Sample roster names, some long, one with the protected bar.
+inline QStringList sampleNames() {
+    return {QStringLiteral("张伟"),   QStringLiteral("王芳"),     QStringLiteral("李娜"),
+            QStringLiteral("刘洋"),   QStringLiteral("陈静"),     QStringLiteral("杨帆"),
+            QStringLiteral("赵磊"),   QStringLiteral("黄晓明"),   QStringLiteral("周杰"),
+            QStringLiteral("吴昊"),   QStringLiteral("徐丽"),     QStringLiteral("孙悦"),
+            QStringLiteral("马超"),   QStringLiteral("朱琳"),     QStringLiteral("胡军"),
+            QStringLiteral("郭敏"),   QStringLiteral("何欣"),     QStringLiteral("高远"),
+            QStringLiteral("林峰"),   QStringLiteral("欧阳明月"), QStringLiteral("罗晨"),
+            QStringLiteral("梁静"),   QStringLiteral("宋佳"),     QStringLiteral("郑爽"),
+            QStringLiteral("谢娜"),   QStringLiteral("韩雪"),     QStringLiteral("唐嫣"),
+            QStringLiteral("冯绍峰"), QStringLiteral("于和伟"),   QStringLiteral("董洁")};
+}
+
+// Portraits for the picture modes: a warm backdrop, a head and shoulders in a colour of their
+// own, written as JPEG files `u<ID>.jpg` into dir. Returns the loadAllUserPics value.
+inline QString makePortraits(const QString &dir, const QList<int> &ids, QSize size = {480, 600}) {
+    QStringList value{dir + QLatin1Char('/')};
+    for (int id : ids) {
+        QImage image(size, QImage::Format_RGB32);
+        QPainter p(&image);
+        p.setRenderHint(QPainter::Antialiasing);
+        const QColor tone = QColor::fromHsv((id * 47) % 360, 90, 230);
+        QLinearGradient back(0, 0, 0, size.height());
+        back.setColorAt(0, tone.lighter(120));
+        back.setColorAt(1, tone.darker(160));
+        p.fillRect(image.rect(), back);
+        p.setPen(Qt::NoPen);
+        p.setBrush(QColor::fromHsv((id * 47 + 180) % 360, 120, 120));
+        p.drawEllipse(QRectF(size.width() * 0.1, size.height() * 0.62, size.width() * 0.8,
+                             size.height() * 0.7));
+        p.setBrush(QColor(246, 214, 186));
+        p.drawEllipse(QRectF(size.width() * 0.3, size.height() * 0.2, size.width() * 0.4,
+                             size.height() * 0.4));
+        p.setBrush(QColor(40, 28, 24));
+        p.drawChord(QRectF(size.width() * 0.28, size.height() * 0.16, size.width() * 0.44,
+                           size.height() * 0.3),
+                    0, 180 * 16);
+        p.end();
+        const QString name = QStringLiteral("u%1.jpg").arg(id);
+        image.save(dir + QLatin1Char('/') + name, "JPG", 90);
+        value << name + proto::kItemSep + QString::number(id);
+    }
+    return value.join(proto::kSep);
+}
+
+// A prize picture on a transparent ground: a red gift box with a gold ribbon.
+inline QString makePrizePicture(const QString &dir) {
+    QImage image(840, 630, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter p(&image);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(Qt::NoPen);
+    QLinearGradient box(0, 220, 0, 620);
+    box.setColorAt(0, QColor(214, 40, 52));
+    box.setColorAt(1, QColor(120, 8, 20));
+    p.setBrush(box);
+    p.drawRoundedRect(QRectF(230, 250, 380, 360), 18, 18);
+    p.setBrush(QColor(232, 56, 66));
+    p.drawRoundedRect(QRectF(200, 190, 440, 90), 16, 16);
+    QLinearGradient gold(0, 0, 840, 0);
+    gold.setColorAt(0, QColor(232, 177, 80));
+    gold.setColorAt(0.5, QColor(255, 230, 150));
+    gold.setColorAt(1, QColor(200, 140, 50));
+    p.setBrush(gold);
+    p.drawRect(QRectF(390, 190, 60, 420));
+    p.drawEllipse(QRectF(300, 90, 130, 110));
+    p.drawEllipse(QRectF(410, 90, 130, 110));
+    p.end();
+    const QString path = dir + QStringLiteral("/prize.png");
+    image.save(path);
+    return path;
+}
+
+// A playback value: the 34 style fields of the factory 16:9 template (with the speed given),
+// then title, running number, names and ids, both lists ending in "$".
+inline QString paradeValue(const QString &title, int number, const QStringList &names,
+                           int speed = 20, int luckType = 0, int firstId = 1) {
+    QString nameList, idList;
+    for (int i = 0; i < names.size(); ++i) {
+        nameList += names[i] + proto::kItemSep;
+        idList += QString::number(firstId + i) + proto::kItemSep;
+    }
+    return QStringLiteral(
+               "1536|821|%1|0|%2|200|200|4|0x7A0010|85|16|0x000000|25|10|24|14|"
+               "黑体|0xFFE08A|56|100|true|false|false|center|1|"
+               "黑体|0xFFFFFF|36|100|false|false|false|center|1|")
+               .arg(speed)
+               .arg(luckType) +
+           QStringList{title, QString::number(number), nameList, idList}.join(proto::kSep);
+}

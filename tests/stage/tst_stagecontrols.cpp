@@ -1,0 +1,199 @@
+#include <QtTest>
+
+#include "stagerig.h"
+
+// The draw movie's buttons, keys, calls from the program, picture mode and the winner parade.
+class TestStageControls : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void everyButtonReportsItsName_data();
+    void everyButtonReportsItsName();
+    void programCallsPressTheButtons_data();
+    void programCallsPressTheButtons();
+    void keysStartAndStopAndAreReported();
+    void barRestsAndWakes();
+    void pictureModeShowsEachParticipantsPhoto();
+    void paradeOfThreeAwards();
+    void paradePausesAndCanBeCancelled();
+
+private:
+    QTemporaryDir m_photos;
+};
+
+void TestStageControls::init() {
+    QVERIFY(m_photos.isValid());
+}
+
+void TestStageControls::everyButtonReportsItsName_data() {
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<QStringList>("buttons");
+    QTest::newRow("idle") << proto::buttons::defulte
+                          << QStringList{proto::btn::btnStart,   proto::btn::btnPre,
+                                         proto::btn::btnNext,    proto::btn::btnAdd,
+                                         proto::btn::btnGiveUp,  proto::btn::btnLstPrt,
+                                         proto::btn::btnLstOut,  proto::btn::btnPlayLuck,
+                                         proto::btn::btnSoundOn, proto::btn::btnSoundOff,
+                                         proto::btn::btnScreenN, proto::btn::btnScreenF,
+                                         proto::btn::btnExit};
+    QTest::newRow("running") << proto::buttons::start
+                             << QStringList{proto::btn::btnStop, proto::btn::btnClear};
+    QTest::newRow("result") << proto::buttons::stop << QStringList{proto::btn::btnCancel};
+}
+
+// Each button is clicked as the operator would; the sound and screen pairs swap on a press,
+// so the second of each pair is clicked after the first.
+void TestStageControls::everyButtonReportsItsName() {
+    QFETCH(QString, state);
+    QFETCH(QStringList, buttons);
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    rig.stage.root()->setProperty("restMs", 600000);
+    rig.send(proto::changBtn, state);
+    QTest::qWait(50);
+    for (const QString &name : buttons) {
+        const int before = rig.count(proto::cmd::btnclick);
+        QVERIFY2(rig.click(name), qPrintable(name + " not on show"));
+        QTRY_COMPARE(rig.count(proto::cmd::btnclick), before + 1);
+        QCOMPARE(rig.args(proto::cmd::btnclick).last(), name);
+    }
+    const QStringList shown = rig.callList("visibleButtons");
+    QVERIFY(shown.contains(proto::btn::btnExit));
+    if (state == proto::buttons::start) QVERIFY(!shown.contains(proto::btn::btnStart));
+}
+
+void TestStageControls::programCallsPressTheButtons_data() {
+    QTest::addColumn<QString>("variable");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("button");
+    QTest::newRow("clear") << proto::vbCallAsClear << proto::yes << proto::btn::btnClear;
+    QTest::newRow("play") << proto::vbCallPlay << proto::yes << proto::btn::btnPlayLuck;
+    QTest::newRow("mute") << proto::vbCallMusic << proto::yes << proto::btn::btnSoundOn;
+    QTest::newRow("unmute") << proto::vbCallMusic << proto::no << proto::btn::btnSoundOff;
+    QTest::newRow("window") << proto::vbCallScreen << proto::no << proto::btn::btnScreenN;
+    QTest::newRow("full screen") << proto::vbCallScreen << proto::yes << proto::btn::btnScreenF;
+}
+
+void TestStageControls::programCallsPressTheButtons() {
+    QFETCH(QString, variable);
+    QFETCH(QString, value);
+    QFETCH(QString, button);
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    rig.send(variable, value);
+    QCOMPARE(rig.args(proto::cmd::btnclick), QStringList{button});
+    // The pair shows its other half afterwards.
+    const QStringList shown = rig.callList("visibleButtons");
+    if (button == proto::btn::btnSoundOn) QVERIFY(shown.contains(proto::btn::btnSoundOff));
+    if (button == proto::btn::btnScreenN) QVERIFY(shown.contains(proto::btn::btnScreenF));
+}
+
+void TestStageControls::keysStartAndStopAndAreReported() {
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    // One key, the space bar, both starts and stops.
+    rig.key(Qt::Key_Space);
+    QCOMPARE(rig.args(proto::cmd::btnclick), QStringList{proto::btn::btnStart});
+    QVERIFY(rig.beginDraw(0, {QStringLiteral("张伟")}, sampleNames()));
+    rig.key(Qt::Key_Space);
+    QCOMPARE(rig.args(proto::cmd::btnclick),
+             (QStringList{proto::btn::btnStart, proto::btn::btnStop}));
+    // While the cells land, the start key stays quiet.
+    rig.send(proto::changBtn, proto::buttons::stop);
+    rig.key(Qt::Key_Space);
+    QCOMPARE(rig.count(proto::cmd::btnclick), 2);
+    QVERIFY(rig.waitFor(proto::cmd::stoplucksub, 8000));
+    rig.key(Qt::Key_Space);
+    QCOMPARE(rig.count(proto::cmd::btnclick), 3);
+    // Other keys are only reported, with the stored key numbers.
+    rig.key(Qt::Key_C);
+    rig.key(Qt::Key_5, Qt::KeypadModifier);
+    rig.key(Qt::Key_Escape);
+    rig.key(Qt::Key_Left);
+    rig.key(Qt::Key_Return);
+    rig.key(Qt::Key_PageDown);
+    QCOMPARE(rig.args(proto::cmd::callvbkeys),
+             (QStringList{"32", "32", "32", "32", "67", "101", "27", "37", "13", "34"}));
+    QCOMPARE(rig.count(proto::cmd::btnclick), 3);
+}
+
+void TestStageControls::barRestsAndWakes() {
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    QVERIFY(rig.stage.root()->property("barAwake").toBool());
+    rig.stage.root()->setProperty("restMs", 150);
+    rig.key(Qt::Key_A);  // restarts the rest timer with the short interval
+    QTRY_VERIFY_WITH_TIMEOUT(!rig.stage.root()->property("barAwake").toBool(), 3000);
+    QTest::mouseMove(rig.stage.quickWindow(), QPoint(400, 300));
+    QTest::mouseMove(rig.stage.quickWindow(), QPoint(420, 310));
+    QTRY_VERIFY_WITH_TIMEOUT(rig.stage.root()->property("barAwake").toBool(), 2000);
+}
+
+void TestStageControls::pictureModeShowsEachParticipantsPhoto() {
+    QList<int> ids;
+    for (int i = 1; i <= 10; ++i)
+        ids << i;
+    for (int i = 100; i < 130; ++i)
+        ids << i;
+    const QString photos = makePortraits(m_photos.path(), ids);
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp(photos));
+    const QStringList winners = sampleNames().mid(10, 10);
+    QVERIFY(rig.beginDraw(2, winners, sampleNames()));
+    rig.send(proto::changBtn, proto::buttons::stop);
+    QVERIFY(rig.waitFor(proto::cmd::stoplucksub, 8000));
+    QCOMPARE(rig.callList("cellNames"), winners);
+    // Every landed cell shows the photo of its own participant.
+    QTRY_COMPARE(rig.callList("cellPhotos").size(), winners.size());
+    const QStringList shown = rig.callList("cellPhotos");
+    for (int i = 0; i < winners.size(); ++i)
+        QVERIFY2(shown[i].endsWith(QStringLiteral("/u%1.jpg").arg(i + 1)), qPrintable(shown[i]));
+    QVERIFY(rig.save(QStringLiteral("stage-landed-photos.png")));
+}
+
+void TestStageControls::paradeOfThreeAwards() {
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    rig.send(proto::changBtn, proto::buttons::luckplay);
+    rig.send(proto::vbLuckPlay,
+             paradeValue(QStringLiteral("一等奖  奖品∶笔记本电脑"), 1, sampleNames().mid(0, 5)));
+    QVERIFY(rig.waitFor(proto::cmd::callLoadPlay, 8000, 1));
+    rig.send(proto::vbLuckPlay1, paradeValue(QStringLiteral("二等奖"), 2, {}));
+    QVERIFY(rig.waitFor(proto::cmd::callLoadPlay, 8000, 2));
+    rig.send(proto::vbLuckPlay1,
+             paradeValue(QStringLiteral("三等奖"), 3, {QStringLiteral("李‖四")}));
+    QVERIFY(rig.waitFor(proto::cmd::callLoadPlay, 8000, 3));
+    QCOMPARE(rig.count(proto::cmd::luckplaystop), 0);
+    rig.send(proto::vbStartScroll, proto::yes);  // nothing further
+    QVERIFY(rig.waitFor(proto::cmd::luckplaystop, 3000));
+    QTest::qWait(200);
+    QCOMPARE(rig.count(proto::cmd::luckplaystop), 1);
+    QCOMPARE(rig.count(proto::cmd::callLoadPlay), 3);
+    QVERIFY(!rig.callList("visibleButtons").isEmpty());
+}
+
+void TestStageControls::paradePausesAndCanBeCancelled() {
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    rig.send(proto::changBtn, proto::buttons::luckplay);
+    rig.send(proto::vbLuckPlay,
+             paradeValue(QStringLiteral("一等奖  奖品∶笔记本电脑"), 1, sampleNames(), 5));
+    QTest::qWait(3600);  // past the hold, into the scroll
+    QVERIFY(rig.save(QStringLiteral("stage-parade.png")));
+    rig.send(proto::vbStartScroll, proto::no);
+    const double y = rig.call("paradeOffset").toDouble();
+    QTest::qWait(400);
+    QCOMPARE(rig.call("paradeOffset").toDouble(), y);
+    rig.send(proto::vbStartScroll, proto::yes);
+    QTest::qWait(400);
+    QVERIFY(rig.call("paradeOffset").toDouble() < y);
+    QCOMPARE(rig.count(proto::cmd::luckplaystop), 0);
+    // The playback key in playback sends vbCallPlay "no": the parade ends at once.
+    rig.send(proto::vbCallPlay, proto::no);
+    QCOMPARE(rig.count(proto::cmd::luckplaystop), 1);
+    QCOMPARE(rig.count(proto::cmd::btnclick), 0);
+}
+
+QTEST_MAIN(TestStageControls)
+#include "tst_stagecontrols.moc"

@@ -1,0 +1,169 @@
+#include <QImageWriter>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "stage/keycodes.h"
+#include "stage/photoprovider.h"
+#include "stage/qmlstage.h"
+
+// The host side of the stage: key numbering, photo decoding and the QmlStage plumbing.
+class TestStageHost : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keyCodes_data();
+    void keyCodes();
+    void photosDecodeAtTheSizeShown();
+    void photoCacheStaysWithinItsLimit();
+    void warmUpDecodesAhead();
+    void missingOrBrokenMovieFailsCleanly();
+    void commandsArriveAsFsCommand();
+    void factoryGivesQmlStages();
+};
+
+void TestStageHost::keyCodes_data() {
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<int>("code");
+    QTest::newRow("A") << int(Qt::Key_A) << 0 << 65;
+    QTest::newRow("Z") << int(Qt::Key_Z) << 0 << 90;
+    QTest::newRow("0") << int(Qt::Key_0) << 0 << 48;
+    QTest::newRow("9") << int(Qt::Key_9) << 0 << 57;
+    QTest::newRow("keypad 0") << int(Qt::Key_0) << int(Qt::KeypadModifier) << 96;
+    QTest::newRow("keypad 9") << int(Qt::Key_9) << int(Qt::KeypadModifier) << 105;
+    QTest::newRow("backspace") << int(Qt::Key_Backspace) << 0 << 8;
+    QTest::newRow("return") << int(Qt::Key_Return) << 0 << 13;
+    QTest::newRow("keypad enter") << int(Qt::Key_Enter) << int(Qt::KeypadModifier) << 13;
+    QTest::newRow("escape") << int(Qt::Key_Escape) << 0 << 27;
+    QTest::newRow("space") << int(Qt::Key_Space) << 0 << 32;
+    QTest::newRow("page up") << int(Qt::Key_PageUp) << 0 << 33;
+    QTest::newRow("page down") << int(Qt::Key_PageDown) << 0 << 34;
+    QTest::newRow("left") << int(Qt::Key_Left) << 0 << 37;
+    QTest::newRow("up") << int(Qt::Key_Up) << 0 << 38;
+    QTest::newRow("right") << int(Qt::Key_Right) << 0 << 39;
+    QTest::newRow("down") << int(Qt::Key_Down) << 0 << 40;
+    QTest::newRow("delete") << int(Qt::Key_Delete) << 0 << 46;
+    QTest::newRow("F1") << int(Qt::Key_F1) << 0 << 112;
+    QTest::newRow("keypad minus") << int(Qt::Key_Minus) << int(Qt::KeypadModifier) << 109;
+    QTest::newRow("minus") << int(Qt::Key_Minus) << 0 << 189;
+    QTest::newRow("unknown") << int(Qt::Key_VolumeUp) << 0 << -1;
+}
+
+void TestStageHost::keyCodes() {
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    QFETCH(int, code);
+    QCOMPARE(stagekeys::windowsKeyCode(key, Qt::KeyboardModifiers(modifiers)), code);
+}
+
+void TestStageHost::photosDecodeAtTheSizeShown() {
+    QTemporaryDir dir;
+    const QString path = dir.path() + QStringLiteral("/big.jpg");
+    QImage big(4000, 3000, QImage::Format_RGB32);
+    big.fill(Qt::darkRed);
+    QVERIFY(big.save(path, "JPG"));
+    const QImage small = PhotoProvider::decode(path, QSize(200, 200));
+    QVERIFY(!small.isNull());
+    // Fills the box exactly, never the whole picture.
+    QCOMPARE(small.size(), QSize(200, 200));
+    // A picture smaller than the box is not blown up.
+    QCOMPARE(PhotoProvider::decode(path, QSize(8000, 8000)).size(), QSize(4000, 3000));
+    QVERIFY(
+        PhotoProvider::decode(dir.path() + QStringLiteral("/none.jpg"), QSize(50, 50)).isNull());
+}
+
+void TestStageHost::photoCacheStaysWithinItsLimit() {
+    QTemporaryDir dir;
+    QImage image(640, 640, QImage::Format_RGB32);
+    PhotoProvider::clearCache();
+    PhotoProvider provider;
+    // 1,500 different photos at 300 by 300 would need over 500 MB if all were kept.
+    for (int i = 0; i < 1500; ++i) {
+        image.fill(QColor::fromHsv(i % 360, 200, 200));
+        const QString path = dir.path() + QStringLiteral("/p%1.png").arg(i);
+        if (i < 40) QVERIFY(image.save(path, "PNG"));
+        QSize size;
+        const QString id = QString::fromUtf8(
+            QUrl::toPercentEncoding(dir.path() + QStringLiteral("/p%1.png").arg(i % 40)));
+        provider.requestImage(id + QStringLiteral("?%1").arg(i), &size, QSize(300, 300));
+        provider.requestImage(id, &size, QSize(300 + i % 200, 300));
+        QVERIFY(PhotoProvider::cachedKb() <= PhotoProvider::cacheLimitKb());
+    }
+    QVERIFY(PhotoProvider::cachedKb() > PhotoProvider::cacheLimitKb() / 2);
+    PhotoProvider::clearCache();
+}
+
+void TestStageHost::warmUpDecodesAhead() {
+    QTemporaryDir dir;
+    QStringList paths;
+    QImage image(800, 600, QImage::Format_RGB32);
+    for (int i = 0; i < 12; ++i) {
+        image.fill(QColor::fromHsv(15 + i * 30, 200, 200));
+        paths << dir.path() + QStringLiteral("/w%1.jpg").arg(i);
+        QVERIFY(image.save(paths.last(), "JPG"));
+    }
+    paths << dir.path() + QStringLiteral("/missing.jpg");
+    PhotoProvider::clearCache();
+    PhotoProvider::warm(paths, QSize(120, 160));
+    PhotoProvider::waitForWarmUp();
+    // 12 photos of 120 x 160 in 32 bits: 75 KB each.
+    QCOMPARE(PhotoProvider::cachedKb(), 12 * 75);
+    PhotoProvider provider;
+    QSize size;
+    const QImage hit = provider.requestImage(
+        QString::fromUtf8(QUrl::toPercentEncoding(paths.first())), &size, QSize(120, 160));
+    QCOMPARE(size, QSize(120, 160));
+    QVERIFY(qAbs(hit.pixelColor(60, 80).hue() - 15) <= 4);
+    QCOMPARE(PhotoProvider::cachedKb(), 12 * 75);
+    PhotoProvider::clearCache();
+}
+
+void TestStageHost::missingOrBrokenMovieFailsCleanly() {
+    QmlStage stage;
+    QVERIFY(!stage.loadMovie(QStringLiteral("/nowhere/stage.qml")));
+    QVERIFY(!stage.errors().isEmpty());
+    stage.SetVariable(QStringLiteral("ClsPage"), QStringLiteral("yes"));  // no crash
+    QTemporaryDir dir;
+    const QString broken = dir.path() + QStringLiteral("/viewer.qml");
+    QFile file(broken);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("import QtQuick\nItem { this is not qml }\n");
+    file.close();
+    QVERIFY(!stage.loadMovie(broken));
+    QVERIFY(!stage.errors().isEmpty());
+}
+
+void TestStageHost::commandsArriveAsFsCommand() {
+    QTemporaryDir dir;
+    const QString movie = dir.path() + QStringLiteral("/echo.qml");
+    QFile file(movie);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(
+        "import QtQuick\nItem {\n signal fsCommand(string command, string args)\n"
+        " function setVariable(name, value) { fsCommand(name, value) }\n"
+        " function keyDown(code) { fsCommand(\"key\", code) }\n}\n");
+    file.close();
+    QmlStage stage(nullptr, QmlStage::Host::Widget);
+    QVERIFY2(stage.loadMovie(movie), qPrintable(stage.errors().join('\n')));
+    QCOMPARE(stage.widget()->contextMenuPolicy(), Qt::NoContextMenu);
+    QSignalSpy spy(&stage, &Stage::FSCommand);
+    // Delivered synchronously: the answer is there when SetVariable returns.
+    stage.SetVariable(QStringLiteral("vbLoadJx"), QStringLiteral("一等奖|3|1|3|电脑|"));
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.at(0).at(0).toString(), QStringLiteral("vbLoadJx"));
+    QCOMPARE(spy.at(0).at(1).toString(), QStringLiteral("一等奖|3|1|3|电脑|"));
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_7, Qt::KeypadModifier);
+    QCoreApplication::sendEvent(stage.widget()->findChild<QWidget *>(), &key);
+    QCOMPARE(spy.count(), 2);
+    QCOMPARE(spy.at(1).at(1).toString(), QStringLiteral("103"));
+}
+
+void TestStageHost::factoryGivesQmlStages() {
+    setStageFactory(nullptr);
+    std::unique_ptr<Stage> stage = createStage(nullptr);
+    QVERIFY(qobject_cast<QmlStage *>(stage.get()));
+}
+
+QTEST_MAIN(TestStageHost)
+#include "tst_stagehost.moc"

@@ -1,0 +1,221 @@
+#include <QtTest>
+
+#include "stagerig.h"
+
+// The draw screen's movie, driven through the host's whole conversation.
+class TestStageMovie : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void startUpDialogue();
+    void templateTextsFillTheAwardVariables();
+    void wholeDrawLandsOnTheWinners_data();
+    void wholeDrawLandsOnTheWinners();
+    void clearHidesTheCells();
+    void theHostIsAlwaysAnswered();
+    void scrollingTextMovesItsWay_data();
+    void scrollingTextMovesItsWay();
+    void picturesAndAnimations();
+    void scaleFollowsTheHost();
+};
+
+void TestStageMovie::startUpDialogue() {
+    QTemporaryDir dir;
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY2(rig.loaded, qPrintable(rig.stage.errors().join('\n')));
+    QVERIFY(rig.stage.usesWindow());
+    QVERIFY(rig.startUp(QString(), 0, makePrizePicture(dir.path())));
+    QStringList order;
+    for (const auto &c : rig.commands)
+        order << c.first;
+    QCOMPARE(order, (QStringList{proto::cmd::loadok, proto::cmd::asok, proto::cmd::loaduserok}));
+    QCOMPARE(rig.args(proto::cmd::loaduserok), QStringList{proto::ok});
+    QTest::qWait(200);
+    QCOMPARE(rig.count(proto::cmd::loaduserok), 1);
+    QVERIFY(rig.callList("objectNames").contains(QStringLiteral("ssm_vornex")));
+    QTRY_VERIFY(
+        rig.call("objectInfo", QStringLiteral("img_jpimgs")).toMap().value("ready").toBool());
+    rig.stage.root()->setProperty("restMs", 600000);
+    QVERIFY(rig.save(QStringLiteral("stage-idle.png")));
+}
+
+void TestStageMovie::templateTextsFillTheAwardVariables() {
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    QCOMPARE(rig.call("objectText", QStringLiteral("txt_jxname")).toString(),
+             QStringLiteral("一等奖"));
+    QCOMPARE(rig.call("objectText", QStringLiteral("txt_jpname")).toString(),
+             QStringLiteral("奖品：笔记本电脑"));
+    QCOMPARE(rig.call("objectText", QStringLiteral("txt_jpinfo")).toString(),
+             QStringLiteral("名额 5 名，剩余 5 名"));
+    rig.loadAward(QStringLiteral("特等奖＄"), 1, 0, QStringLiteral("汽车"));
+    QCOMPARE(rig.call("objectText", QStringLiteral("txt_jxname")).toString(),
+             QStringLiteral("特等奖＄"));
+    QCOMPARE(rig.call("objectText", QStringLiteral("txt_jpinfo")).toString(),
+             QStringLiteral("名额 1 名，剩余 0 名"));
+    rig.send(proto::updateLuckLst, QStringLiteral("恭喜∶李‖四   获得特等奖"));
+    QCOMPARE(rig.call("objectText", QStringLiteral("scr_luckls")).toString(),
+             QStringLiteral("恭喜∶李‖四   获得特等奖"));
+}
+
+void TestStageMovie::wholeDrawLandsOnTheWinners_data() {
+    QTest::addColumn<int>("luckType");
+    QTest::addColumn<QStringList>("winners");
+    QTest::addColumn<QString>("shot");
+    QTest::newRow("text, a name with the bar")
+        << 0 << QStringList{QStringLiteral("李‖四"), QStringLiteral("张伟"), QStringLiteral("王芳")}
+        << QString();
+    QTest::newRow("one winner") << 0 << QStringList{QStringLiteral("欧阳明月")}
+                                << QStringLiteral("stage-landed-1.png");
+    QTest::newRow("batch of ten") << 0 << sampleNames().mid(0, 10)
+                                  << QStringLiteral("stage-landed-10.png");
+}
+
+void TestStageMovie::wholeDrawLandsOnTheWinners() {
+    QFETCH(int, luckType);
+    QFETCH(QStringList, winners);
+    QFETCH(QString, shot);
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    QVERIFY(rig.beginDraw(luckType, winners, sampleNames()));
+    QCOMPARE(rig.callList("cellNames").size(), winners.size());
+    if (winners.size() == 10) QVERIFY(rig.save(QStringLiteral("stage-rolling.png")));
+    rig.send(proto::changBtn, proto::buttons::stop);
+    QVERIFY(rig.waitFor(proto::cmd::stoplucksub, 8000));
+    QCOMPARE(rig.callList("cellNames"), winners);
+    QTest::qWait(300);
+    QCOMPARE(rig.count(proto::cmd::stoplucksub), 1);
+    if (!shot.isEmpty()) QVERIFY(rig.save(shot));
+}
+
+void TestStageMovie::clearHidesTheCells() {
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    QVERIFY(rig.beginDraw(0, {QStringLiteral("张伟")}, sampleNames()));
+    QVERIFY(rig.call("blockShown").toBool());
+    rig.send(proto::changBtn, proto::buttons::clear);
+    QVERIFY(!rig.call("blockShown").toBool());
+    QTest::qWait(700);
+    QCOMPARE(rig.count(proto::cmd::stoplucksub), 0);
+    // vbShowBlock "false" hides landed cells too.
+    QVERIFY(rig.beginDraw(0, {QStringLiteral("张伟")}, sampleNames()));
+    rig.send(proto::changBtn, proto::buttons::stop);
+    QVERIFY(rig.waitFor(proto::cmd::stoplucksub, 8000));
+    QVERIFY(rig.call("blockShown").toBool());
+    rig.send(proto::vbShowBlock, proto::falseText);
+    QVERIFY(!rig.call("blockShown").toBool());
+}
+
+// The host waits for blocksetok and stoplucksub with no time-out: a template without its draw
+// area, more cells than winners, or a second stop must never leave it waiting or answer twice.
+void TestStageMovie::theHostIsAlwaysAnswered() {
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    rig.send(proto::ClsPage, proto::yes);  // the page loses its draw area
+    QVERIFY(rig.beginDraw(0, {QStringLiteral("张伟"), QStringLiteral("王芳")}, sampleNames()));
+    QCOMPARE(rig.count(proto::cmd::blocksetok), 1);
+    QCOMPARE(rig.callList("cellNames").size(), 2);
+    rig.send(proto::changBtn, proto::buttons::stop);
+    rig.send(proto::changBtn, proto::buttons::stop);
+    QVERIFY(rig.waitFor(proto::cmd::stoplucksub, 8000));
+    // Three cells for two winners: the spare lands on nothing.
+    rig.send(proto::vbndluck,
+             StageRig::items(0, {QStringLiteral("李‖四"), QStringLiteral("赵磊")}));
+    rig.send(proto::vbLoadBlock, StageRig::blockStyle(0, 3));
+    rig.send(proto::changBtn, proto::buttons::start);
+    rig.send(proto::changBtn, proto::buttons::stop);
+    QVERIFY(rig.waitFor(proto::cmd::stoplucksub, 8000, 2));
+    QCOMPARE(rig.callList("cellNames"),
+             (QStringList{QStringLiteral("李‖四"), QStringLiteral("赵磊"), QString()}));
+    QTest::qWait(300);
+    QCOMPARE(rig.count(proto::cmd::stoplucksub), 2);
+}
+
+void TestStageMovie::scrollingTextMovesItsWay_data() {
+    QTest::addColumn<int>("direction");
+    QTest::addColumn<int>("speed");
+    QTest::addColumn<int>("dx");  // sign of the move: -1, 0, 1
+    QTest::addColumn<int>("dy");
+    QTest::newRow("right to left") << 0 << 10 << -1 << 0;
+    QTest::newRow("left to right") << 1 << 10 << 1 << 0;
+    QTest::newRow("bottom to top") << 2 << 10 << 0 << -1;
+    QTest::newRow("speed 0 stands") << 0 << 0 << 0 << 0;
+}
+
+void TestStageMovie::scrollingTextMovesItsWay() {
+    QFETCH(int, direction);
+    QFETCH(int, speed);
+    QFETCH(int, dx);
+    QFETCH(int, dy);
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    // 22 fields, the last the shadow switch; a name with "‖" in the text.
+    rig.send(proto::vbAddStxt, QStringLiteral("false|scr_abcdefghijklmnop|9|%1|100|600|800|60|"
+                                              "0xFFFFFF|50|round|10|恭喜李‖四 $Name2|80|黑体|"
+                                              "0x000000|24|true|false|false|%2|1")
+                                   .arg(direction)
+                                   .arg(speed));
+    const QString name = QStringLiteral("scr_abcdefghijklmnop");
+    QCOMPARE(rig.call("objectText", name).toString(), QStringLiteral("恭喜李‖四 一等奖"));
+    QTest::qWait(100);
+    const QVariantMap before = rig.call("objectInfo", name).toMap();
+    QCOMPARE(before.value("opacity").toDouble(), 0.8);
+    QCOMPARE(before.value("width").toDouble(), 800.0);
+    QTest::qWait(400);
+    const QVariantMap after = rig.call("objectInfo", name).toMap();
+    const double mx = after.value("textX").toDouble() - before.value("textX").toDouble();
+    const double my = after.value("textY").toDouble() - before.value("textY").toDouble();
+    QCOMPARE(mx > 1 ? 1 : mx < -1 ? -1 : 0, dx);
+    QCOMPARE(my > 1 ? 1 : my < -1 ? -1 : 0, dy);
+}
+
+void TestStageMovie::picturesAndAnimations() {
+    QTemporaryDir dir;
+    makePortraits(dir.path(), {1}, QSize(300, 200));
+    const QString picture = dir.path() + QStringLiteral("/u1.jpg");
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    // Width and height 0: the picture's own size.
+    rig.send(proto::vbAddImg,
+             QStringLiteral("false|img_abcdefghijklmnop|10|50|60|0|0|40|true|") + picture);
+    QTRY_VERIFY(rig.call("objectInfo", QStringLiteral("img_abcdefghijklmnop"))
+                    .toMap()
+                    .value("ready")
+                    .toBool());
+    QVariantMap info = rig.call("objectInfo", QStringLiteral("img_abcdefghijklmnop")).toMap();
+    QCOMPARE(info.value("width").toDouble(), 300.0);
+    QCOMPARE(info.value("height").toDouble(), 200.0);
+    QCOMPARE(info.value("opacity").toDouble(), 0.4);
+    QCOMPARE(info.value("z").toDouble(), 10.0);
+    // An animation the stage cannot play shows the block picture at 128 by 128.
+    rig.send(proto::vbAddSwf, QStringLiteral("false|swf_abcdefghijklmnop|11|0|0|400|300|") +
+                                  dir.path() + QStringLiteral("/intro.swf"));
+    info = rig.call("objectInfo", QStringLiteral("swf_abcdefghijklmnop")).toMap();
+    QVERIFY(info.value("failed").toBool());
+    QCOMPARE(info.value("width").toDouble(), 128.0);
+    // The same name again replaces the object.
+    rig.send(proto::vbAddSwf,
+             QStringLiteral("false|swf_abcdefghijklmnop|11|0|0|400|300|") + picture + ".png");
+    QImage(40, 30, QImage::Format_ARGB32).save(picture + ".png");
+    rig.send(proto::vbAddSwf,
+             QStringLiteral("false|swf_abcdefghijklmnop|11|0|0|0|0|") + picture + ".png");
+    QTRY_VERIFY(!rig.call("objectInfo", QStringLiteral("swf_abcdefghijklmnop"))
+                     .toMap()
+                     .value("failed")
+                     .toBool());
+    QCOMPARE(rig.callList("objectNames").count(QStringLiteral("swf_abcdefghijklmnop")), 1);
+}
+
+void TestStageMovie::scaleFollowsTheHost() {
+    StageRig rig(QStringLiteral("stage.qml"), QmlStage::Host::Automatic, QSize(960, 540));
+    QVERIFY(rig.startUp());
+    // Until the host says otherwise the page fits the window.
+    QCOMPARE(rig.call("stageScale").toList().value(0).toDouble(), 0.5);
+    rig.send(proto::vbSetScale, QStringLiteral("49.84375|47.12963"));
+    const QVariantList scale = rig.call("stageScale").toList();
+    QCOMPARE(scale.value(0).toDouble(), 0.4984375);
+    QCOMPARE(scale.value(1).toDouble(), 0.4712963);
+}
+
+QTEST_MAIN(TestStageMovie)
+#include "tst_stagemovie.moc"
