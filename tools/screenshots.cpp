@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QPixmap>
 #include <QPushButton>
 #include <QTabWidget>
@@ -38,9 +39,16 @@ public:
     }
 };
 
+// Lets movies answer and animations settle before a picture is taken.
+void settle(int milliseconds) {
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < milliseconds) QApplication::processEvents(QEventLoop::AllEvents, 20);
+}
+
 void save(QWidget *widget, const QString &file) {
     widget->show();
-    QApplication::processEvents();
+    settle(600);
     widget->grab().save(file);
     QTextStream(stdout) << file << '\n';
 }
