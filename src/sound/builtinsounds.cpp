@@ -18,6 +18,13 @@ std::vector<float> silence(double seconds) {
     return std::vector<float>(static_cast<size_t>(seconds * kSampleRate), 0.0f);
 }
 
+// Lets the tail die away smoothly instead of ending in a click.
+void fadeOut(std::vector<float> &samples, double seconds) {
+    const size_t length = std::min(samples.size(), static_cast<size_t>(seconds * kSampleRate));
+    for (size_t i = 0; i < length; ++i)
+        samples[samples.size() - 1 - i] *= static_cast<float>(i) / length;
+}
+
 // Scales the sound so that its loudest sample reaches peak.
 void normalise(std::vector<float> &samples, float peak) {
     float loudest = 0.0f;
@@ -106,6 +113,7 @@ std::vector<float> winChime() {
     for (int i = 0; i < 4; ++i)
         addBell(out, 0.09 * i, notes[i], 1.0 - 0.1 * i);
     addBell(out, 0.45, 2637.02, 0.25);
+    fadeOut(out, 0.4);
     normalise(out, 0.8f);
     return out;
 }
@@ -121,6 +129,7 @@ std::vector<float> drumRoll() {
     }
     addSnare(out, rollEnd + 0.06, 1.4, noise);
     addCymbal(out, rollEnd + 0.06, 0.5, noise);
+    fadeOut(out, 0.5);
     normalise(out, 0.85f);
     return out;
 }
@@ -138,6 +147,7 @@ std::vector<float> fanfare() {
     // The last note opens into a full chord.
     for (double f : {e5, g5, c6})
         addBrass(out, 1.10, 1.30, f, 0.55);
+    fadeOut(out, 0.4);
     normalise(out, 0.8f);
     return out;
 }
