@@ -1,6 +1,8 @@
 #include "results/printout.h"
 
+#include <QColor>
 #include <QFont>
+#include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPagedPaintDevice>
@@ -44,15 +46,27 @@ public:
     QRectF rect(double x, double y, double w, double h) const {
         return {(kLeft + x) * m_scale, (kTop + y) * m_scale, w * m_scale, h * m_scale};
     }
-    void line(double x1, double y1, double x2, double y2, double width) {
-        m_p.setPen(QPen(Qt::black, width * m_scale, Qt::SolidLine, Qt::FlatCap));
+    void line(double x1, double y1, double x2, double y2, double width,
+              const QColor &color = Qt::black) {
+        m_p.setPen(QPen(color, width * m_scale, Qt::SolidLine, Qt::FlatCap));
         m_p.drawLine(QPointF((kLeft + x1) * m_scale, (kTop + y1) * m_scale),
                      QPointF((kLeft + x2) * m_scale, (kTop + y2) * m_scale));
     }
+    // One line centred on the glyphs' ink rather than on the font's line box, so CJK text sits
+    // in the middle of a tight row; text wider than the cell is elided.
+    void shade(const QRectF &area, const QColor &color) { m_p.fillRect(area, color); }
+
     void text(const QRectF &area, const QString &value, const QFont &f, int align) {
         m_p.setFont(f);
         m_p.setPen(Qt::black);
-        m_p.drawText(area, align | Qt::AlignVCenter | Qt::TextSingleLine, value);
+        const QFontMetricsF metrics = m_p.fontMetrics();
+        const QRectF ink = metrics.tightBoundingRect(QStringLiteral("中8"));
+        const QString shown = metrics.elidedText(value, Qt::ElideRight, area.width());
+        const double width = metrics.horizontalAdvance(shown);
+        double x = area.left();
+        if (align & Qt::AlignHCenter) x = area.center().x() - width / 2;
+        const double baseline = area.center().y() - (ink.top() + ink.bottom()) / 2;
+        m_p.drawText(QPointF(x, baseline), shown);
     }
 
 private:
@@ -75,6 +89,8 @@ void paintRows(PagePainter &out, const QList<Row> &rows, double top) {
     for (int i = 0; i < rows.size(); ++i) {
         const Row &row = rows.at(i);
         const double y = top + i * kRowPitch;
+        // Rows are tight: every other one is shaded and the rules between them are light.
+        if (i % 2 == 1) out.shade(out.rect(0, y, kWidth, kRowPitch), QColor(238, 238, 238));
         const QString cells[] = {row.number, row.jxName, row.jpName, row.userName};
         double x = 0;
         for (int c = 0; c < 4; ++c) {
@@ -83,7 +99,7 @@ void paintRows(PagePainter &out, const QList<Row> &rows, double top) {
                      rowFont, align);
             x += kColumns[c];
         }
-        out.line(0, y + kRowPitch, kWidth, y + kRowPitch, 0.08);
+        out.line(0, y + kRowPitch, kWidth, y + kRowPitch, 0.06, QColor(150, 150, 150));
     }
 }
 
