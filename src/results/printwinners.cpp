@@ -80,8 +80,14 @@ bool printWinners(bool showDone) {
     return true;
 }
 
-bool printBatch(const QList<int> &ids, int awardId) {
-    if (ids.isEmpty()) {
+bool printBatch(const QString &ids, int awardId) {
+    QList<qint64> idList;
+    for (const QString &part : ids.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+        bool ok = false;
+        const qint64 id = part.trimmed().toLongLong(&ok);
+        if (ok) idList << id;
+    }
+    if (idList.isEmpty()) {
         ui().message(QStringLiteral("找不到当前获奖名单!"), MsgStyle::Exclamation, titles::warning);
         return false;
     }
@@ -97,7 +103,7 @@ bool printBatch(const QList<int> &ids, int awardId) {
     document.title = appState().title1;
     document.footWithTime = true;
     document.printTime = store::nowText();
-    for (const results::Winner &winner : results::participantsById(db, ids))
+    for (const results::Winner &winner : results::participantsById(db, idList))
         document.rows.append(row(document.rows.size() + 1, award, winner));
     if (!paint(device.get(), document)) return false;
     ui().message(QStringLiteral("当前中奖名单打印完成!"), MsgStyle::Information, titles::notice);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QList>
 #include <QString>
 
 #include <functional>
@@ -19,5 +18,6 @@ void setPrinterFactory(PrinterFactory factory);
 
 // All winners of all awards, each award's latest first. True when the pages were printed.
 bool printWinners(bool showDone);
-// The participants of one batch (the last Start's winner IDs) under their award, in ID order.
-bool printBatch(const QList<int> &ids, int awardId);
+// The participants of one batch under their award, in ID order; ids is the last Start's winner
+// IDs as the draw keeps them, "12,5,31".
+bool printBatch(const QString &ids, int awardId);

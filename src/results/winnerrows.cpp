@@ -12,7 +12,8 @@ namespace {
 QList<Winner> readWinners(QSqlQuery &query) {
     QList<Winner> rows;
     while (query.next())
-        rows.append({query.value(0).toInt(), query.value(1).toString(), query.value(2).toString()});
+        rows.append(
+            {query.value(0).toLongLong(), query.value(1).toString(), query.value(2).toString()});
     return rows;
 }
 
@@ -48,11 +49,11 @@ QList<Winner> winnersOf(QSqlDatabase db, int awardId, WinnerOrder order) {
     return readWinners(query);
 }
 
-QList<Winner> participantsById(QSqlDatabase db, const QList<int> &ids) {
+QList<Winner> participantsById(QSqlDatabase db, const QList<qint64> &ids) {
     if (ids.isEmpty()) return {};
     QStringList marks;
     QVariantList values;
-    for (int id : ids) {
+    for (qint64 id : ids) {
         marks << QStringLiteral("?");
         values << id;
     }

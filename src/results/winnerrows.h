@@ -15,7 +15,7 @@ struct Award {
 };
 
 struct Winner {
-    int id = 0;
+    qint64 id = 0;
     QString userName;
     QString userPart;
 };
@@ -29,6 +29,6 @@ enum class WinnerOrder { EarliestFirst, LatestFirst };
 // The participants whose JxID holds the award. Earliest first ties on ID.
 QList<Winner> winnersOf(QSqlDatabase db, int awardId, WinnerOrder order);
 // The participants with the given IDs, in ID order.
-QList<Winner> participantsById(QSqlDatabase db, const QList<int> &ids);
+QList<Winner> participantsById(QSqlDatabase db, const QList<qint64> &ids);
 
 }  // namespace results

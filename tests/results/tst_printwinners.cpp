@@ -6,6 +6,7 @@
 #include "core/store.h"
 #include "results/printout.h"
 #include "results/printwinners.h"
+#include "results/winnerrows.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
@@ -132,10 +133,10 @@ void TestPrintWinners::printedPages() {
     QCOMPARE(scripted->texts(), QStringList{QStringLiteral("打印完成!")});
 
     // The batch printout pages the same way.
-    QList<int> ids;
+    QStringList ids;
     for (int id = 1; id <= rows; ++id)
-        ids << id;
-    QVERIFY(printBatch(ids, award));
+        ids << QString::number(id);
+    QVERIFY(printBatch(ids.join(QLatin1Char(',')), award));
     QCOMPARE(pdfPageCount(path), pages);
     QCOMPARE(scripted->last().text, QStringLiteral("当前中奖名单打印完成!"));
     QCOMPARE(opened, 2);
@@ -185,17 +186,20 @@ void TestPrintWinners::batchPrintout() {
     installPdfPrinter(path, &opened);
 
     // No batch yet: refused before the printer is looked at.
-    QVERIFY(!printBatch({}, award));
+    QVERIFY(!printBatch(QString(), award));
     QCOMPARE(scripted->texts(), QStringList{QStringLiteral("找不到当前获奖名单!")});
     QCOMPARE(opened, 0);
 
     scripted->clear();
-    QVERIFY(!printBatch({1, 2}, award + 10));
+    QVERIFY(!printBatch(QStringLiteral("1,2"), award + 10));
     QCOMPARE(scripted->texts(), QStringList{QStringLiteral("没有奖项无法打印!")});
     QCOMPARE(opened, 1);
 
     scripted->clear();
-    QVERIFY(printBatch({2, 1}, award));
+    QVERIFY(printBatch(QStringLiteral("2, 1"), award));
+    const auto batch = results::participantsById(folder.db(), {2, 1});
+    QCOMPARE(batch.size(), 2);
+    QCOMPARE(batch.at(0).userName, QStringLiteral("参与者1"));
     QCOMPARE(scripted->last().title, QStringLiteral("提示"));
     QCOMPARE(pdfPageCount(path), 1);
 }
