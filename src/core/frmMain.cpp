@@ -12,11 +12,11 @@
 
 #include "awards/frmGuide.h"
 #include "awards/frmJP.h"
-#include "core/events.h"
 #include "chrome/icons.h"
 #include "chrome/style.h"
 #include "chrome/widgets.h"
 #include "core/appstate.h"
+#include "core/events.h"
 #include "core/frmLogin.h"
 #include "core/frmPass.h"
 #include "core/password.h"
