@@ -1,5 +1,6 @@
 // Builds a complete program folder from the text in data/ and the movies: config.ini, the data
-// store, every template with its factory copy, the block picture and the empty folders.
+// store, every template with its factory copy, the block picture, the built-in sounds and the
+// empty folders.
 // With --demo it also fills the store with a sample roster and three awards.
 //
 //   mkfactory --data DIR --movies DIR --out DIR [--demo]
@@ -19,6 +20,7 @@
 
 #include "core/programfolder.h"
 #include "core/store.h"
+#include "sound/builtinsounds.h"
 
 namespace {
 
@@ -209,6 +211,8 @@ int main(int argc, char *argv[]) {
     if (!makeTemplates(data, out, &error)) return fail(error);
     if (!makeBlockPicture(out)) return fail(QStringLiteral("cannot write block.png"));
     if (!copyMovies(movies, out)) return fail(QStringLiteral("cannot copy the movies"));
+    if (!sound::writeBuiltInSounds(out + QLatin1Char('/')))
+        return fail(QStringLiteral("cannot write the built-in sounds"));
     if (parser.isSet(QStringLiteral("demo")) && !fillDemo(out, &error)) return fail(error);
     return 0;
 }

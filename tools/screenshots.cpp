@@ -10,8 +10,11 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QImage>
+#include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
+#include <QSqlQuery>
 #include <QTabWidget>
 #include <QTextStream>
 
@@ -22,8 +25,12 @@
 #include "core/frmMain.h"
 #include "core/frmPass.h"
 #include "core/startup.h"
+#include "core/store.h"
 #include "core/ui.h"
 #include "core/widgethelpers.h"
+#include "results/printout.h"
+#include "results/winnerrows.h"
+#include "sound/frmKeyBoard.h"
 
 namespace {
 
@@ -80,6 +87,35 @@ void shootDialogs(const QString &out) {
     save(&pass, out + QStringLiteral("/password.png"));
 }
 
+void shootKeyBoard(const QString &out) {
+    frmKeyBoard keys;
+    save(&keys, out + QStringLiteral("/keyboard.png"));
+}
+
+// The first page of the winner printout at 150 dpi, the demo roster standing in as winners.
+void shootPrintout(const QString &out) {
+    printout::Document document;
+    document.title = appState().title1;
+    const QList<results::Award> awards = results::awardsInOrder(store::mainConn());
+    QSqlQuery query(store::mainConn());
+    query.exec(QStringLiteral("SELECT UserName FROM UserList ORDER BY ID LIMIT 60"));
+    for (int i = 0; query.next() && !awards.isEmpty(); ++i) {
+        const results::Award &award = awards.at(i * awards.size() / 60);
+        document.rows.append(
+            {QString::number(i + 1), award.jxName, award.jpName, query.value(0).toString()});
+    }
+    const double dpi = 150;
+    QImage page(qRound(210 / 25.4 * dpi), qRound(297 / 25.4 * dpi), QImage::Format_RGB32);
+    page.setDotsPerMeterX(qRound(dpi / 0.0254));
+    page.setDotsPerMeterY(qRound(dpi / 0.0254));
+    page.fill(Qt::white);
+    QPainter painter(&page);
+    printout::paintPage(painter, dpi / 25.4, document, 1);
+    painter.end();
+    page.save(out + QStringLiteral("/print-page1.png"));
+    QTextStream(stdout) << out << "/print-page1.png\n";
+}
+
 }  // namespace
 
 int main(int argc, char *argv[]) {
@@ -98,6 +134,8 @@ int main(int argc, char *argv[]) {
     QDir().mkpath(out);
     shootConsole(out);
     shootDialogs(out);
+    shootKeyBoard(out);
+    shootPrintout(out);
     shutDown();
     return 0;
 }

@@ -12,11 +12,11 @@
 
 #include "awards/frmGuide.h"
 #include "awards/frmJP.h"
-#include "core/events.h"
 #include "chrome/icons.h"
 #include "chrome/style.h"
 #include "chrome/widgets.h"
 #include "core/appstate.h"
+#include "core/events.h"
 #include "core/frmLogin.h"
 #include "core/frmPass.h"
 #include "core/password.h"
@@ -24,6 +24,7 @@
 #include "core/ui.h"
 #include "core/widgethelpers.h"
 #include "draw/progress.h"
+#include "sound/frmKeyBoard.h"
 #include "stage/stage.h"
 
 namespace {
@@ -371,9 +372,11 @@ void frmMain::openTool(int index) {
         case 0:
             comingSoon(QStringLiteral("中奖详情"));
             break;
-        case 1:
-            comingSoon(QStringLiteral("快捷键设置"));
+        case 1: {
+            frmKeyBoard keys(this);
+            keys.exec();
             break;
+        }
         case 2:
             comingSoon(QStringLiteral("音乐设置"));
             break;
