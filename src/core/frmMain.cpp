@@ -24,6 +24,7 @@
 #include "core/ui.h"
 #include "core/widgethelpers.h"
 #include "draw/progress.h"
+#include "results/frmLuckList.h"
 #include "sound/frmKeyBoard.h"
 #include "stage/stage.h"
 
@@ -369,9 +370,11 @@ void frmMain::openStart() {
 
 void frmMain::openTool(int index) {
     switch (index) {
-        case 0:
-            comingSoon(QStringLiteral("中奖详情"));
+        case 0: {
+            frmLuckList list(this);
+            list.exec();
             break;
+        }
         case 1: {
             frmKeyBoard keys(this);
             keys.exec();

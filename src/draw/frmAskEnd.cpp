@@ -1,0 +1,88 @@
+#include "draw/frmAskEnd.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "chrome/widgets.h"
+#include "core/events.h"
+#include "core/widgethelpers.h"
+#include "draw/engine.h"
+#include "results/exportas.h"
+#include "results/exportwinners.h"
+#include "results/printwinners.h"
+
+frmAskEnd::frmAskEnd(draw::DrawEngine &engine, QWidget *parent)
+    : QDialog(parent), m_engine(engine) {
+    setWindowTitle(QStringLiteral("系统提示"));
+    Label1 = new QLabel(QStringLiteral("所有的奖项均已经抽取完毕!"), this);
+    Label1->setAlignment(Qt::AlignCenter);
+    Label1->setStyleSheet(QStringLiteral("font-size: 18px; font-weight: bold;"));
+    auto *hint = new QLabel(QStringLiteral("请选择接下来要做的事"), this);
+    hint->setProperty("role", "hint");
+    hint->setAlignment(Qt::AlignCenter);
+
+    const char *iconNames[] = {"", "reset", "export", "print", "parade"};
+    const char *captions[] = {"", "重新抽奖", "导出名单", "打印名单", "中奖回放"};
+    auto *choices = new QHBoxLayout;
+    choices->setSpacing(6);
+    for (int i = 1; i <= 4; ++i) {
+        imgLab[i] =
+            new ToolButton(QLatin1String(iconNames[i]), QString::fromUtf8(captions[i]), this);
+        imgLab[i]->setFixedSize(92, 80);
+        choices->addWidget(imgLab[i]);
+        connect(imgLab[i], &QAbstractButton::clicked, this, [this, i] { choose(i); });
+    }
+    imgLab[Restart]->setToolTip(QStringLiteral("删除所有中奖信息,重新开始抽奖"));
+    imgLab[Export]->setToolTip(QStringLiteral("把中奖名单导出为CSV文件"));
+    imgLab[Print]->setToolTip(QStringLiteral("打印所有中奖名单"));
+    imgLab[Parade]->setToolTip(QStringLiteral("在舞台上滚动播放所有中奖名单"));
+
+    CancelButton = new QPushButton(QStringLiteral("取消"), this);
+    CancelButton->setAutoDefault(false);
+    auto *bottom = new QHBoxLayout;
+    bottom->addStretch();
+    bottom->addWidget(CancelButton);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(18, 16, 18, 14);
+    layout->setSpacing(6);
+    layout->addWidget(Label1);
+    layout->addWidget(hint);
+    layout->addSpacing(6);
+    layout->addLayout(choices);
+    layout->addStretch();
+    layout->addLayout(bottom);
+    connect(CancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    setFixedSize(430, 248);
+    centerForm(this);
+}
+
+void frmAskEnd::choose(int index) {
+    switch (index) {
+        case Restart:
+            restart();
+            break;
+        case Export:
+            exportWinnersAs();
+            break;
+        case Print:
+            printWinners(true);
+            break;
+        case Parade:
+            Q_EMIT paradeRequested();
+            accept();
+            break;
+        default:
+            break;
+    }
+}
+
+void frmAskEnd::restart() {
+    // The snapshot is the only backup of the evening's results: without it nothing is cleared.
+    const auto snapshot = [](const QString &path) { return !exportWinners(path, false).isEmpty(); };
+    if (!m_engine.restartDraw(snapshot)) return;
+    Q_EMIT events().resultsChanged();
+    Q_EMIT restartDone();
+    accept();
+}

@@ -1,0 +1,91 @@
+#include "results/lucklist.h"
+
+#include <QSqlError>
+#include <QSqlQuery>
+
+#include "core/store.h"
+
+namespace results {
+
+namespace {
+
+struct AwardHead {
+    int id = 0;
+    QString jxName;
+    QString jpName;
+};
+
+void setStatus(LuckRow &row, const QVariant &status) {
+    const int value = status.isNull() ? -1 : status.toInt();
+    switch (value) {
+        case 0:
+            row.status = QStringLiteral("正常");
+            break;
+        case 1:
+            row.status = QStringLiteral("弃奖");
+            row.greyRow = true;
+            break;
+        case 2:
+            row.status = QStringLiteral("已领奖");
+            break;
+        case 3:
+            row.status = QStringLiteral("中奖");
+            break;
+        default:
+            row.status = QStringLiteral("未知");
+            row.greyStatus = true;
+    }
+}
+
+}  // namespace
+
+LuckList luckList(QSqlDatabase db) {
+    LuckList list;
+    QList<AwardHead> awards;
+    QSqlQuery query(db);
+    query.setForwardOnly(true);
+    if (!query.exec(QStringLiteral(
+            "SELECT ID, JXName, JPName, JXNum FROM JPList ORDER BY OrderNum ASC, ID ASC"))) {
+        list.error = query.lastError().text();
+        return list;
+    }
+    while (query.next()) {
+        awards.append(
+            {query.value(0).toInt(), query.value(1).toString(), query.value(2).toString()});
+        list.prizeTotal += query.value(3).toLongLong();
+    }
+    QSqlQuery winners(db);
+    winners.setForwardOnly(true);
+    // "JxID > ''" keeps the search on the JxID index: only participants holding some win.
+    winners.prepare(
+        QStringLiteral("SELECT UserName, UserPart, UserStatus FROM UserList WHERE "
+                       "JxID > '' AND JxID LIKE ? ORDER BY UpdateTime ASC, ID ASC"));
+    for (const AwardHead &award : awards) {
+        winners.addBindValue(store::awardPattern(award.id));
+        if (!winners.exec()) {
+            list.error = winners.lastError().text();
+            return list;
+        }
+        while (winners.next()) {
+            LuckRow row;
+            row.number = int(list.rows.size()) + 1;
+            row.jxName = award.jxName;
+            row.jpName = award.jpName;
+            row.userName = winners.value(0).toString();
+            row.userPart = winners.value(1).toString();
+            setStatus(row, winners.value(2));
+            list.rows.append(row);
+        }
+    }
+    return list;
+}
+
+QString winnerCountText(const LuckList &list) {
+    return QStringLiteral("中奖人数：") + QString::number(list.rows.size());
+}
+
+QString prizeTotalText(const LuckList &list) {
+    return QStringLiteral("奖品总数：") + QString::number(list.prizeTotal);
+}
+
+}  // namespace results
