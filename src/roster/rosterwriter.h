@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QString>
+#include <QVariant>
+
+#include "core/store.h"
+
+// Writes many participants in one transaction: an import, the number generator or a replace of
+// the roster either lands whole or not at all. Queries are prepared once, and the next ID is
+// counted in memory, since nothing else writes the roster while the transaction is open.
+class RosterWriter {
+public:
+    explicit RosterWriter(QSqlDatabase db = store::mainConn());
+    ~RosterWriter();  // rolls back what was not committed
+    RosterWriter(const RosterWriter &) = delete;
+    RosterWriter &operator=(const RosterWriter &) = delete;
+
+    // Opens the transaction; with replace every participant is deleted first.
+    bool begin(bool replace, QString *error);
+    // Deletes every participant inside the open transaction (once).
+    bool clearRoster(QString *error);
+    bool isDuplicate(const QString &name, const QString &part);
+    // Inserts one participant and returns its ID, or 0 on failure.
+    int insert(const QString &name, const QString &part, const QString &photo = QString(),
+               int diffNum = 0, QString *error = nullptr);
+    // The ID the next insert gets.
+    int nextId() const { return m_nextId; }
+    bool commit(QString *error);
+    void rollback();
+
+    bool isOpen() const { return m_open; }
+    bool cleared() const { return m_cleared; }
+
+private:
+    QSqlDatabase m_db;
+    QSqlQuery m_duplicate;
+    QSqlQuery m_insert;
+    int m_nextId = 1;
+    bool m_open = false;
+    bool m_cleared = false;
+};
