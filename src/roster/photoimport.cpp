@@ -69,8 +69,7 @@ Settled settlePicture(const QString &source, const QString &target, bool compres
     if (!shrunk.isValid()) return copyOver(source, target) ? Settled::Copied : Settled::Failed;
     const QImage image = reader.read();
     if (image.isNull()) return Settled::Failed;
-    const QImage scaled =
-        image.scaled(shrunk, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QImage scaled = image.scaled(shrunk, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return saveJpeg(scaled, target) ? Settled::Shrunk : Settled::Failed;
 }
 

@@ -25,8 +25,7 @@ enum class Settled { Copied, Shrunk, PngCopied, Failed };
 // Puts the picture at target: copied unchanged when compression is off, the file is a PNG or it
 // fits the limit; otherwise scaled and written as JPEG at quality 100 under the target's name.
 // Failed when neither a copy nor a shrunk picture could be written.
-Settled settlePicture(const QString &source, const QString &target, bool compress,
-                      int sliderValue);
+Settled settlePicture(const QString &source, const QString &target, bool compress, int sliderValue);
 
 // Writes an image as JPEG at quality 100, the one picture format the program writes.
 bool saveJpeg(const QImage &image, const QString &target);

@@ -60,6 +60,7 @@ void RosterImport::runSlice() {
         ++m_index;
     }
     emit progress(m_index, count);
+    if (!isRunning()) return;  // cancelled from a progress handler
     if (m_index < count) {
         m_scheduled = true;
         QTimer::singleShot(0, this, &RosterImport::runSlice);
@@ -101,8 +102,12 @@ RosterImport::Outcome RosterImport::runToEnd() {
 
 ExcelImport::ExcelImport(const QList<QStringList> &rows, const QList<bool> &nameColumns,
                          const QString &joiner, bool titleRow, bool replace, QObject *parent)
-    : RosterImport(parent), m_rows(rows), m_nameColumns(nameColumns), m_joiner(joiner),
-      m_titleRow(titleRow), m_replace(replace) {}
+    : RosterImport(parent),
+      m_rows(rows),
+      m_nameColumns(nameColumns),
+      m_joiner(joiner),
+      m_titleRow(titleRow),
+      m_replace(replace) {}
 
 void ExcelImport::mergeRow(const QStringList &row, const QList<bool> &nameColumns,
                            const QString &joiner, QString *name, QString *part) {
@@ -110,8 +115,10 @@ void ExcelImport::mergeRow(const QStringList &row, const QList<bool> &nameColumn
     part->clear();
     for (int column = 0; column < nameColumns.size(); ++column) {
         const QString cell = row.value(column);
-        if (nameColumns.at(column)) *name += cell + joiner;
-        else *part += cell + joiner;
+        if (nameColumns.at(column))
+            *name += cell + joiner;
+        else
+            *part += cell + joiner;
     }
 }
 
@@ -144,7 +151,10 @@ void ExcelImport::afterCommit() {
 
 TxtImport::TxtImport(const QStringList &lines, const QString &separator, bool replace,
                      QObject *parent)
-    : RosterImport(parent), m_lines(lines), m_separator(separator), m_replace(replace),
+    : RosterImport(parent),
+      m_lines(lines),
+      m_separator(separator),
+      m_replace(replace),
       m_parser(separator) {}
 
 bool TxtImport::readLines(const QString &path, QStringList *lines, QString *error) {
@@ -180,7 +190,10 @@ void TxtImport::afterCommit() {
 
 PhotoImport::PhotoImport(const QStringList &files, bool compress, int sliderValue, bool replace,
                          QObject *parent)
-    : RosterImport(parent), m_files(files), m_compress(compress), m_sliderValue(sliderValue),
+    : RosterImport(parent),
+      m_files(files),
+      m_compress(compress),
+      m_sliderValue(sliderValue),
       m_replace(replace) {}
 
 PhotoImport::~PhotoImport() {
@@ -197,7 +210,8 @@ QString PhotoImport::stagingFolder() {
 
 bool PhotoImport::processItem(qint64 index, QString *error) {
     const QString source = m_files.at(index);
-    const QString newName = QStringLiteral("U") + QString::number(writer().nextId()) + getExt(source);
+    const QString newName =
+        QStringLiteral("U") + QString::number(writer().nextId()) + getExt(source);
     const photoimport::PhotoName parsed = photoimport::parsePhotoName(getFileName(source));
     // The remark is stored with a blank behind it; duplicates are looked for in that form.
     const QString part = parsed.part + QLatin1Char(' ');
@@ -208,13 +222,14 @@ bool PhotoImport::processItem(qint64 index, QString *error) {
     }
     const QString staged = stagingFolder() + QLatin1Char('/') + newName;
     switch (photoimport::settlePicture(source, staged, m_compress, m_sliderValue)) {
-    case photoimport::Settled::PngCopied:
-        appendLog(QStringLiteral("\nPNG不支持压缩∶") + source);
-        break;
-    case photoimport::Settled::Failed:
-        appendLog(QStringLiteral("\n压缩失败∶") + source);
-        break;
-    default: break;
+        case photoimport::Settled::PngCopied:
+            appendLog(QStringLiteral("\nPNG不支持压缩∶") + source);
+            break;
+        case photoimport::Settled::Failed:
+            appendLog(QStringLiteral("\n压缩失败∶") + source);
+            break;
+        default:
+            break;
     }
     if (QFile::exists(staged)) m_staged << newName;
     if (!writer().insert(parsed.name, part, QStringLiteral("Photos/") + newName, 0, error))

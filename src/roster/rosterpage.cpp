@@ -12,10 +12,14 @@ namespace roster {
 
 QString orderClause(int sortType) {
     switch (sortType) {
-    case ByPart: return QStringLiteral(" ORDER BY UserPart ASC, ID ASC");
-    case ByDiffNum: return QStringLiteral(" ORDER BY DiffNum ASC, ID ASC");
-    case ByStatus: return QStringLiteral(" ORDER BY UserStatus ASC, ID ASC");
-    default: return QStringLiteral(" ORDER BY ID ASC");
+        case ByPart:
+            return QStringLiteral(" ORDER BY UserPart ASC, ID ASC");
+        case ByDiffNum:
+            return QStringLiteral(" ORDER BY DiffNum ASC, ID ASC");
+        case ByStatus:
+            return QStringLiteral(" ORDER BY UserStatus ASC, ID ASC");
+        default:
+            return QStringLiteral(" ORDER BY ID ASC");
     }
 }
 
@@ -64,10 +68,14 @@ bool readPage(QSqlDatabase db, const QString &search, int sortType, int page, Pa
 
 QString statusWord(int status) {
     switch (status) {
-    case 1: return QStringLiteral("已弃奖");
-    case 2: return QStringLiteral("已领奖");
-    case 3: return QStringLiteral("已中奖");
-    default: return QString();
+        case 1:
+            return QStringLiteral("已弃奖");
+        case 2:
+            return QStringLiteral("已领奖");
+        case 3:
+            return QStringLiteral("已中奖");
+        default:
+            return QString();
     }
 }
 
@@ -91,13 +99,13 @@ QString diffNumText(const QVariant &value) {
 
 bool loadParticipant(QSqlDatabase db, int id, Participant *participant) {
     QSqlQuery query(db);
-    query.prepare(QStringLiteral("SELECT ID, UserName, UserPart, UserPhoto, UserStatus, DiffNum "
-                                 "FROM UserList WHERE ID=?"));
+    query.prepare(
+        QStringLiteral("SELECT ID, UserName, UserPart, UserPhoto, UserStatus, DiffNum "
+                       "FROM UserList WHERE ID=?"));
     query.addBindValue(id);
     if (!query.exec() || !query.next()) return false;
-    *participant = {query.value(0).toInt(), query.value(1).toString(),
-                    query.value(2).toString(), query.value(3).toString(),
-                    query.value(4).toInt(),   query.value(5)};
+    *participant = {query.value(0).toInt(),    query.value(1).toString(), query.value(2).toString(),
+                    query.value(3).toString(), query.value(4).toInt(),    query.value(5)};
     return true;
 }
 
@@ -122,10 +130,10 @@ QVariantList idValues(const QList<int> &ids) {
 bool deleteParticipants(QSqlDatabase db, const QList<int> &ids, const QStringList &photos,
                         QString *error) {
     if (ids.isEmpty()) return true;
-    if (!store::exec(db,
-                     QStringLiteral("DELETE FROM UserList WHERE ID IN (%1)")
-                         .arg(idPlaceholders(ids.size())),
-                     idValues(ids), error))
+    if (!store::exec(
+            db,
+            QStringLiteral("DELETE FROM UserList WHERE ID IN (%1)").arg(idPlaceholders(ids.size())),
+            idValues(ids), error))
         return false;
     for (const QString &photo : photos) {
         if (photo.trimmed().isEmpty()) continue;
@@ -162,7 +170,8 @@ QString settlePhoto(int id, const QString &photoState, const QString &storedPhot
     }
     if (photoState != QLatin1String("yes") && fileExists(photoState)) {
         const QString target = base + getExt(photoState);
-        if (QFileInfo(photoState).absoluteFilePath() != QFileInfo(appState().path(target)).absoluteFilePath()) {
+        if (QFileInfo(photoState).absoluteFilePath() !=
+            QFileInfo(appState().path(target)).absoluteFilePath()) {
             QFile::remove(appState().path(target));
             QFile::copy(photoState, appState().path(target));
         }

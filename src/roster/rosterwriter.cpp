@@ -2,6 +2,15 @@
 
 #include <QSqlError>
 
+namespace {
+
+// Text columns hold empty text, never NULL, so the duplicate test finds every row.
+QString notNull(const QString &text) {
+    return text.isNull() ? QStringLiteral("") : text;
+}
+
+}  // namespace
+
 RosterWriter::RosterWriter(QSqlDatabase db) : m_db(db), m_duplicate(db), m_insert(db) {}
 
 RosterWriter::~RosterWriter() {
@@ -15,8 +24,8 @@ bool RosterWriter::begin(bool replace, QString *error) {
     }
     m_open = true;
     m_cleared = false;
-    if (!m_duplicate.prepare(QStringLiteral(
-            "SELECT 1 FROM UserList WHERE UserName=? AND UserPart=? LIMIT 1")) ||
+    if (!m_duplicate.prepare(
+            QStringLiteral("SELECT 1 FROM UserList WHERE UserName=? AND UserPart=? LIMIT 1")) ||
         !m_insert.prepare(QStringLiteral("INSERT INTO UserList (ID, UserName, UserPart, UserPhoto, "
                                          "DiffNum, UserStatus) VALUES (?, ?, ?, ?, ?, 0)"))) {
         *error = m_insert.lastError().text() + m_duplicate.lastError().text();
@@ -40,8 +49,8 @@ bool RosterWriter::clearRoster(QString *error) {
 }
 
 bool RosterWriter::isDuplicate(const QString &name, const QString &part) {
-    m_duplicate.addBindValue(name);
-    m_duplicate.addBindValue(part);
+    m_duplicate.addBindValue(notNull(name));
+    m_duplicate.addBindValue(notNull(part));
     const bool found = m_duplicate.exec() && m_duplicate.next();
     m_duplicate.finish();
     return found;
@@ -51,9 +60,9 @@ int RosterWriter::insert(const QString &name, const QString &part, const QString
                          int diffNum, QString *error) {
     const int id = m_nextId;
     m_insert.addBindValue(id);
-    m_insert.addBindValue(name);
-    m_insert.addBindValue(part);
-    m_insert.addBindValue(photo.isNull() ? QLatin1String("") : photo);
+    m_insert.addBindValue(notNull(name));
+    m_insert.addBindValue(notNull(part));
+    m_insert.addBindValue(notNull(photo));
     m_insert.addBindValue(diffNum);
     if (!m_insert.exec()) {
         if (error) *error = m_insert.lastError().text();

@@ -27,7 +27,8 @@ bool looksLikeText(const QString &text) {
 }  // namespace
 
 bool decodeText(const QByteArray &bytes, QString *text, QString *error) {
-    const QString notText = QStringLiteral("文件不是可以导入的文本文件，请选择文本格式(*.txt)的名单文件。");
+    const QString notText =
+        QStringLiteral("文件不是可以导入的文本文件，请选择文本格式(*.txt)的名单文件。");
     bool ok = false;
     if (bytes.startsWith("\xEF\xBB\xBF")) {
         ok = decodeWith(QStringConverter::Utf8, QByteArrayView(bytes).sliced(3), text);
@@ -77,28 +78,30 @@ int diffNumber(const QString &text) {
 }
 
 TxtRow TxtLineParser::parse(const QString &line) {
-    const QStringList fields =
-        m_separator.isEmpty() ? QStringList{line} : line.split(m_separator);
+    const QStringList fields = m_separator.isEmpty() ? QStringList{line} : line.split(m_separator);
     TxtRow row = m_last;
     row.name = fields.at(0).trimmed();
     switch (fields.size()) {
-    case 1: row.part.clear(); break;
-    case 2:
-        row.part = fields.at(1).trimmed();
-        row.photo.clear();
-        row.diffNum = 0;
-        break;
-    case 3:
-        row.part = fields.at(1).trimmed();
-        row.photo = fields.at(2).trimmed();
-        row.diffNum = 0;
-        break;
-    case 4:
-        row.part = fields.at(1).trimmed();
-        row.photo = fields.at(2).trimmed();
-        row.diffNum = diffNumber(fields.at(3));
-        break;
-    default: break;
+        case 1:
+            row.part.clear();
+            break;
+        case 2:
+            row.part = fields.at(1).trimmed();
+            row.photo.clear();
+            row.diffNum = 0;
+            break;
+        case 3:
+            row.part = fields.at(1).trimmed();
+            row.photo = fields.at(2).trimmed();
+            row.diffNum = 0;
+            break;
+        case 4:
+            row.part = fields.at(1).trimmed();
+            row.photo = fields.at(2).trimmed();
+            row.diffNum = diffNumber(fields.at(3));
+            break;
+        default:
+            break;
     }
     // An empty separator splits nothing: the whole line is the name and the rest carries over.
     if (m_separator.isEmpty()) row.part = m_last.part;

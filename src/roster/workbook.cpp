@@ -48,12 +48,15 @@ QString readRichText(QXmlStreamReader &xml) {
     while (!xml.atEnd()) {
         const auto token = xml.readNext();
         if (token == QXmlStreamReader::StartElement) {
-            if (xml.name() == QLatin1String("rPh")) ++phonetic;
+            if (xml.name() == QLatin1String("rPh"))
+                ++phonetic;
             else if (xml.name() == QLatin1String("t") && phonetic == 0)
                 text += xml.readElementText(QXmlStreamReader::IncludeChildElements);
         } else if (token == QXmlStreamReader::EndElement) {
-            if (xml.name() == QLatin1String("rPh")) --phonetic;
-            else if (xml.name() == end) break;
+            if (xml.name() == QLatin1String("rPh"))
+                --phonetic;
+            else if (xml.name() == end)
+                break;
         }
     }
     return text;
@@ -86,7 +89,8 @@ QString dateSerialText(double serial, bool date1904) {
     if (serial < 1.0 && !date1904) return time.toString(QStringLiteral("HH:mm:ss"));
     const QDate base = date1904 ? QDate(1904, 1, 1) : QDate(1899, 12, 30);
     const QString date = base.addDays(days).toString(QStringLiteral("yyyy-MM-dd"));
-    return seconds == 0 ? date : date + QLatin1Char(' ') + time.toString(QStringLiteral("HH:mm:ss"));
+    return seconds == 0 ? date
+                        : date + QLatin1Char(' ') + time.toString(QStringLiteral("HH:mm:ss"));
 }
 
 bool isDateFormat(int numFmtId, const QString &formatCode) {
@@ -99,12 +103,18 @@ bool isDateFormat(int numFmtId, const QString &formatCode) {
     int bracket = 0;
     for (int i = 0; i < formatCode.size(); ++i) {
         const QChar c = formatCode.at(i);
-        if (c == QLatin1Char('"')) quoted = !quoted;
-        else if (quoted) continue;
-        else if (c == QLatin1Char('\\')) ++i;
-        else if (c == QLatin1Char('[')) ++bracket;
-        else if (c == QLatin1Char(']')) bracket = qMax(0, bracket - 1);
-        else if (bracket == 0 && QStringLiteral("yYdDmMhHsS").contains(c)) return true;
+        if (c == QLatin1Char('"'))
+            quoted = !quoted;
+        else if (quoted)
+            continue;
+        else if (c == QLatin1Char('\\'))
+            ++i;
+        else if (c == QLatin1Char('['))
+            ++bracket;
+        else if (c == QLatin1Char(']'))
+            bracket = qMax(0, bracket - 1);
+        else if (bracket == 0 && QStringLiteral("yYdDmMhHsS").contains(c))
+            return true;
     }
     return false;
 }
@@ -226,8 +236,8 @@ bool Workbook::openXlsx(QString *error) {
                 if (attribute.name() == QLatin1String("id")) id = attribute.value().toString();
             const QString target = targets.value(id);
             if (!target.isEmpty())
-                m_xlsxSheets.append({attributes.value(QLatin1String("name")).toString(),
-                                     resolveTarget(target)});
+                m_xlsxSheets.append(
+                    {attributes.value(QLatin1String("name")).toString(), resolveTarget(target)});
         }
     }
     if (xml.hasError()) {
@@ -337,15 +347,19 @@ bool Workbook::readXlsxSheet(int index, int limit, Sheet *sheet, QString *error)
                        type == QLatin1String("e")) {
                 text = value.isNull() ? QLatin1String("") : value;
             } else if (type == QLatin1String("b")) {
-                text = value == QLatin1String("1") ? QStringLiteral("TRUE") : QStringLiteral("FALSE");
+                text =
+                    value == QLatin1String("1") ? QStringLiteral("TRUE") : QStringLiteral("FALSE");
             } else if (type == QLatin1String("d")) {
                 text = value.replace(QLatin1Char('T'), QLatin1Char(' '));
             } else {
                 bool ok = false;
                 const double number = value.toDouble(&ok);
-                if (!ok) text = value;
-                else if (m_dateStyles.value(style)) text = dateSerialText(number, m_date1904);
-                else text = numberText(number);
+                if (!ok)
+                    text = value;
+                else if (m_dateStyles.value(style))
+                    text = dateSerialText(number, m_date1904);
+                else
+                    text = numberText(number);
             }
             while (row->size() <= column)
                 row->append(QString());
@@ -360,7 +374,8 @@ bool Workbook::readXlsxSheet(int index, int limit, Sheet *sheet, QString *error)
     // Trailing rows without any value are not part of the sheet's used range.
     while (!sheet->rows.isEmpty()) {
         const Row &last = sheet->rows.last();
-        if (std::any_of(last.begin(), last.end(), [](const QString &cell) { return !cell.isNull(); }))
+        if (std::any_of(last.begin(), last.end(),
+                        [](const QString &cell) { return !cell.isNull(); }))
             break;
         sheet->rows.removeLast();
     }
@@ -413,14 +428,22 @@ bool Workbook::readXlsSheet(int index, int limit, Sheet *sheet, QString *error) 
                 return false;
             }
             switch (cell.type) {
-            case FREEXL_CELL_INT: row << QString::number(cell.value.int_value); break;
-            case FREEXL_CELL_DOUBLE: row << numberText(cell.value.double_value); break;
-            case FREEXL_CELL_TEXT:
-            case FREEXL_CELL_SST_TEXT:
-            case FREEXL_CELL_DATE:
-            case FREEXL_CELL_DATETIME:
-            case FREEXL_CELL_TIME: row << QString::fromUtf8(cell.value.text_value); break;
-            default: row << QString(); break;
+                case FREEXL_CELL_INT:
+                    row << QString::number(cell.value.int_value);
+                    break;
+                case FREEXL_CELL_DOUBLE:
+                    row << numberText(cell.value.double_value);
+                    break;
+                case FREEXL_CELL_TEXT:
+                case FREEXL_CELL_SST_TEXT:
+                case FREEXL_CELL_DATE:
+                case FREEXL_CELL_DATETIME:
+                case FREEXL_CELL_TIME:
+                    row << QString::fromUtf8(cell.value.text_value);
+                    break;
+                default:
+                    row << QString();
+                    break;
             }
         }
         sheet->rows.append(row);

@@ -91,7 +91,8 @@ void TestWorkbook::realWorkbooks() {
     QCOMPARE(sheet.rows.size(), 6);
     QCOMPARE(sheet.rows.at(0), (Row{"工号", "姓名", "部门", "电话", "入职日期", "分数", "合计"}));
     const Row first = sheet.rows.at(1);
-    QCOMPARE(first.mid(0, 6), (Row{"10001", "张三", "研发部", "13800138000", "2023-05-08", "12.5"}));
+    QCOMPARE(first.mid(0, 6),
+             (Row{"10001", "张三", "研发部", "13800138000", "2023-05-08", "12.5"}));
     if (formulasCached) QCOMPARE(first.at(6), QStringLiteral("10002"));
     QCOMPARE(sheet.rows.at(2).at(1), QStringLiteral("李四"));
     QVERIFY(sheet.rows.at(2).at(2).isNull());  // empty cell
@@ -116,8 +117,9 @@ void TestWorkbook::secondSheetWithBlankInName() {
     workbook::Sheet sheet;
     QVERIFY(book.readSheet(1, -1, &sheet, &error));
     QCOMPARE(sheet.name, QStringLiteral("Sheet 2"));
-    QCOMPARE(sheet.rows, (QList<Row>{{"名字", "备注"}, {"陈七", "行政部"}, {"陈七", "行政部"},
-                                     {"周八", "客服部"}}));
+    QCOMPARE(
+        sheet.rows,
+        (QList<Row>{{"名字", "备注"}, {"陈七", "行政部"}, {"陈七", "行政部"}, {"周八", "客服部"}}));
 }
 
 void TestWorkbook::inlineStringsAndSparseRows() {
