@@ -25,8 +25,9 @@ namespace {
 void fillRoster(QSqlDatabase db, int count) {
     db.transaction();
     QSqlQuery insert(db);
-    insert.prepare("INSERT INTO UserList (ID, UserName, UserPart, UserPhoto, DiffNum, UserStatus) "
-                   "VALUES (?, ?, ?, '', ?, ?)");
+    insert.prepare(
+        "INSERT INTO UserList (ID, UserName, UserPart, UserPhoto, DiffNum, UserStatus) "
+        "VALUES (?, ?, ?, '', ?, ?)");
     for (int i = 1; i <= count; ++i) {
         insert.addBindValue(i);
         insert.addBindValue(QStringLiteral("人%1").arg(i));
@@ -93,13 +94,18 @@ void TestRosterManager::pagesAreClamped_data() {
     QTest::addColumn<int>("rows");
     QTest::addColumn<QString>("pageText");
     QTest::addColumn<QString>("total");
-    QTest::newRow("first") << "" << 1 << 1 << 1000 << "当前第∶1页/ 共3页" << "总计人数：2500";
-    QTest::newRow("last") << "" << 3 << 3 << 500 << "当前第∶3页/ 共3页" << "总计人数：2500";
-    QTest::newRow("beyond") << "" << 9 << 3 << 500 << "当前第∶3页/ 共3页" << "总计人数：2500";
-    QTest::newRow("below") << "" << 0 << 1 << 1000 << "当前第∶1页/ 共3页" << "总计人数：2500";
+    QTest::newRow("first") << "" << 1 << 1 << 1000 << "当前第∶1页/ 共3页"
+                           << "总计人数：2500";
+    QTest::newRow("last") << "" << 3 << 3 << 500 << "当前第∶3页/ 共3页"
+                          << "总计人数：2500";
+    QTest::newRow("beyond") << "" << 9 << 3 << 500 << "当前第∶3页/ 共3页"
+                            << "总计人数：2500";
+    QTest::newRow("below") << "" << 0 << 1 << 1000 << "当前第∶1页/ 共3页"
+                           << "总计人数：2500";
     QTest::newRow("search from page 3") << "人1" << 3 << 2 << 111 << "当前第∶2页/ 共2页"
                                         << "总计人数：1111";
-    QTest::newRow("no hits") << "无此人" << 3 << 3 << 0 << "当前第∶3页/ 共0页" << "总计人数：0";
+    QTest::newRow("no hits") << "无此人" << 3 << 3 << 0 << "当前第∶3页/ 共0页"
+                             << "总计人数：0";
     QTest::newRow("wildcards are text") << "%" << 1 << 1 << 0 << "当前第∶1页/ 共0页"
                                         << "总计人数：0";
 }
@@ -198,8 +204,9 @@ void TestRosterManager::saveKeepsWinAndRefusesDuplicates() {
     form->txtUserName->setText(QStringLiteral("甲 "));
     form->cmdSaveClicked();
     QCOMPARE(scripted->last().text, QStringLiteral("数据更新成功！"));
-    QCOMPARE(store::scalar(folder.db(), "SELECT UserName || '/' || UserPart || '/' || DiffNum || "
-                                        "'/' || UserStatus || JxID FROM UserList WHERE ID=2")
+    QCOMPARE(store::scalar(folder.db(),
+                           "SELECT UserName || '/' || UserPart || '/' || DiffNum || "
+                           "'/' || UserStatus || JxID FROM UserList WHERE ID=2")
                  .toString(),
              QStringLiteral("甲 /三部/9/3|1|"));
     // Saving a row unchanged is no duplicate of itself.
@@ -265,10 +272,14 @@ void TestRosterManager::batchDistinctionNumber_data() {
     QTest::addColumn<QString>("answer");
     QTest::addColumn<QString>("message");
     QTest::addColumn<int>("stored");
-    QTest::newRow("number") << "42" << "数据更新成功！" << 42;
-    QTest::newRow("cancel") << "" << "请输入区分编号\n只能输入数字" << 1;
-    QTest::newRow("text") << "4a" << "您没输入正确的区分编号!" << 1;
-    QTest::newRow("beyond 32 bits") << "99999999999" << "您没输入正确的区分编号!" << 1;
+    QTest::newRow("number") << "42"
+                            << "数据更新成功！" << 42;
+    QTest::newRow("cancel") << ""
+                            << "请输入区分编号\n只能输入数字" << 1;
+    QTest::newRow("text") << "4a"
+                          << "您没输入正确的区分编号!" << 1;
+    QTest::newRow("beyond 32 bits") << "99999999999"
+                                    << "您没输入正确的区分编号!" << 1;
 }
 
 void TestRosterManager::batchDistinctionNumber() {
@@ -331,8 +342,9 @@ void TestRosterManager::addUserRules() {
     form.txtIsPhoto->setText(QStringLiteral("camre"));
     QVERIFY(form.cmdOkClicked());
     QCOMPARE(form.addedId(), 2);
-    QCOMPARE(store::scalar(folder.db(), "SELECT UserName || '/' || UserPart || '/' || DiffNum || "
-                                        "'/' || UserPhoto FROM UserList WHERE ID=2")
+    QCOMPARE(store::scalar(folder.db(),
+                           "SELECT UserName || '/' || UserPart || '/' || DiffNum || "
+                           "'/' || UserPhoto FROM UserList WHERE ID=2")
                  .toString(),
              QStringLiteral("甲/二部/0/Photos/U2.jpg"));
     QVERIFY(QFile::exists(folder.path("Photos/U2.jpg")));
