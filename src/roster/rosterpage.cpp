@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QSqlError>
 #include <QSqlQuery>
 
@@ -23,46 +24,103 @@ QString orderClause(int sortType) {
     }
 }
 
+namespace {
+
+const QString kColumns =
+    QStringLiteral("SELECT ID, UserName, UserPart, UserPhoto, UserStatus, DiffNum FROM UserList");
+
+Participant participantFrom(const QSqlQuery &query) {
+    return {query.value(0).toInt(),
+            query.value(1).toString().trimmed(),
+            query.value(2).toString().trimmed(),
+            query.value(3).toString(),
+            query.value(4).toInt(),
+            query.value(5)};
+}
+
+void setPages(Page *result, int page) {
+    result->page = page;
+    if (result->recordCount == 0) return;
+    result->pageCount = static_cast<int>((result->recordCount + kPageSize - 1) / kPageSize);
+    result->page = qBound(1, page, result->pageCount);
+}
+
+// The whole roster: the count and the page each walk an index.
+bool readAll(QSqlDatabase db, int sortType, int page, Page *result, QString *error) {
+    result->recordCount =
+        store::scalar(db, QStringLiteral("SELECT COUNT(*) FROM UserList")).toLongLong();
+    setPages(result, page);
+    if (result->recordCount == 0) return true;
+    QSqlQuery query(db);
+    query.setForwardOnly(true);
+    query.prepare(kColumns + orderClause(sortType) + QStringLiteral(" LIMIT ? OFFSET ?"));
+    query.addBindValue(kPageSize);
+    query.addBindValue(qint64(result->page - 1) * kPageSize);
+    if (!query.exec()) {
+        *error = query.lastError().text();
+        return false;
+    }
+    while (query.next())
+        result->rows.append(participantFrom(query));
+    return true;
+}
+
+// A search: one pass over the names finds the hits in order, then only the page's rows are read.
+bool readHits(QSqlDatabase db, const QString &key, int sortType, int page, Page *result,
+              QString *error) {
+    QSqlQuery query(db);
+    query.setForwardOnly(true);
+    query.prepare(QStringLiteral("SELECT ID FROM UserList WHERE UserName LIKE ? ESCAPE '\\'") +
+                  orderClause(sortType));
+    query.addBindValue(store::containsPattern(key));
+    if (!query.exec()) {
+        *error = query.lastError().text();
+        return false;
+    }
+    QList<int> hits;
+    while (query.next())
+        hits.append(query.value(0).toInt());
+    query.finish();
+    result->recordCount = hits.size();
+    setPages(result, page);
+    if (hits.isEmpty()) return true;
+    const QList<int> ids = hits.mid((result->page - 1) * kPageSize, kPageSize);
+    QStringList marks;
+    QHash<int, int> place;
+    for (int i = 0; i < ids.size(); ++i) {
+        marks << QStringLiteral("?");
+        place.insert(ids.at(i), i);
+    }
+    query.prepare(kColumns + QStringLiteral(" WHERE ID IN (%1)").arg(marks.join(QLatin1Char(','))));
+    for (int id : ids)
+        query.addBindValue(id);
+    if (!query.exec()) {
+        *error = query.lastError().text();
+        return false;
+    }
+    result->rows.resize(ids.size());
+    while (query.next()) {
+        const Participant participant = participantFrom(query);
+        result->rows[place.value(participant.id)] = participant;
+    }
+    return true;
+}
+
+}  // namespace
+
 bool readPage(QSqlDatabase db, const QString &search, int sortType, int page, Page *result,
               QString *error) {
     *result = Page();
     const QString key = search.trimmed();
-    const QString where =
-        key.isEmpty() ? QString() : QStringLiteral(" WHERE UserName LIKE ? ESCAPE '\\'");
-    const QVariantList values =
-        key.isEmpty() ? QVariantList() : QVariantList{store::containsPattern(key)};
-    result->recordCount =
-        store::scalar(db, QStringLiteral("SELECT COUNT(*) FROM UserList") + where, values)
+    const bool ok = key.isEmpty() ? readAll(db, sortType, page, result, error)
+                                  : readHits(db, key, sortType, page, result, error);
+    if (!ok) return false;
+    result->won =
+        store::scalar(db, QStringLiteral("SELECT COUNT(*) FROM UserList WHERE UserStatus=3"))
             .toLongLong();
-    result->page = page;
-    if (result->recordCount > 0) {
-        result->pageCount = static_cast<int>((result->recordCount + kPageSize - 1) / kPageSize);
-        result->page = qBound(1, page, result->pageCount);
-        QSqlQuery query(db);
-        query.setForwardOnly(true);
-        query.prepare(QStringLiteral("SELECT ID, UserName, UserPart, UserPhoto, UserStatus, "
-                                     "DiffNum FROM UserList") +
-                      where + orderClause(sortType) + QStringLiteral(" LIMIT ? OFFSET ?"));
-        for (const QVariant &value : values)
-            query.addBindValue(value);
-        query.addBindValue(kPageSize);
-        query.addBindValue(qint64(result->page - 1) * kPageSize);
-        if (!query.exec()) {
-            *error = query.lastError().text();
-            return false;
-        }
-        while (query.next()) {
-            result->rows.append({query.value(0).toInt(), query.value(1).toString().trimmed(),
-                                 query.value(2).toString().trimmed(), query.value(3).toString(),
-                                 query.value(4).toInt(), query.value(5)});
-        }
-    }
-    result->won = store::scalar(db, QStringLiteral("SELECT COUNT(*) FROM UserList WHERE "
-                                                   "UserStatus=3"))
-                      .toLongLong();
-    result->gaveUp = store::scalar(db, QStringLiteral("SELECT COUNT(*) FROM UserList WHERE "
-                                                      "UserStatus=1"))
-                         .toLongLong();
+    result->gaveUp =
+        store::scalar(db, QStringLiteral("SELECT COUNT(*) FROM UserList WHERE UserStatus=1"))
+            .toLongLong();
     return true;
 }
 

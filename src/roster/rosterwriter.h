@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QSet>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include "core/store.h"
@@ -34,10 +36,18 @@ public:
     bool cleared() const { return m_cleared; }
 
 private:
+    bool dropIndexes(QString *error);
+    bool restoreIndexes(QString *error);
+
     QSqlDatabase m_db;
+    QStringList m_droppedIndexes;
     QSqlQuery m_duplicate;
     QSqlQuery m_insert;
     int m_nextId = 1;
     bool m_open = false;
     bool m_cleared = false;
+    // Rows written by this writer are looked up in memory; the store is asked only about rows
+    // that were there before (none after a replace).
+    bool m_startedEmpty = false;
+    QSet<QString> m_written;
 };

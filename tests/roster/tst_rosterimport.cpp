@@ -33,6 +33,17 @@ QStringList dumpRoster(QSqlDatabase db) {
     return rows;
 }
 
+// The roster's indexes: a replace drops them for speed and must always bring them back.
+QStringList indexes(QSqlDatabase db) {
+    QSqlQuery query(QStringLiteral("SELECT sql FROM sqlite_master WHERE type='index' AND "
+                                   "tbl_name='UserList' AND sql IS NOT NULL ORDER BY name"),
+                    db);
+    QStringList rows;
+    while (query.next())
+        rows << query.value(0).toString();
+    return rows;
+}
+
 QStringList names(QSqlDatabase db) {
     QSqlQuery query(QStringLiteral("SELECT UserName || '/' || UserPart FROM UserList ORDER BY ID"),
                     db);
@@ -327,12 +338,14 @@ void TestRosterImport::excelReplaceKeepsPrizePhotos() {
     TempProgramFolder folder;
     QVERIFY(folder.start());
     folder.addUsers({"甲", "乙"});
+    const QStringList indexesBefore = indexes(folder.db());
     const int award = folder.addAward(QStringLiteral("一等奖"), 3, 1);
     for (const QString name : {"U1.jpg", "JP1.jpg", "camertemp.jpg"})
         writeImage(folder.path("Photos/") + name, 10, 10);
     ExcelImport job({{"丙"}}, {true}, QStringLiteral(" "), false, true);
     QCOMPARE(job.runToEnd(), RosterImport::Outcome::Finished);
     QCOMPARE(names(folder.db()), QStringList{"丙/"});
+    QCOMPARE(indexes(folder.db()), indexesBefore);
     QVERIFY(!QFile::exists(folder.path("Photos/U1.jpg")));
     QVERIFY(QFile::exists(folder.path("Photos/JP1.jpg")));
     QVERIFY(QFile::exists(folder.path("Photos/camertemp.jpg")));
@@ -435,6 +448,8 @@ void TestRosterImport::cancelLeavesRosterAsItWas() {
     folder.addUsers({"甲|一部|5", "乙|二部|6"});
     writeImage(folder.path("Photos/U1.jpg"), 10, 10);
     const QStringList before = dumpRoster(folder.db());
+    const QStringList indexesBefore = indexes(folder.db());
+    QVERIFY(indexesBefore.size() >= 5);
     QTemporaryDir pictures;
     QList<QStringList> rows;
     QStringList lines;
@@ -469,6 +484,7 @@ void TestRosterImport::cancelLeavesRosterAsItWas() {
     QCOMPARE(job->runToEnd(), RosterImport::Outcome::Cancelled);
     QVERIFY(job->done() > 0 && job->done() < job->total());
     QCOMPARE(dumpRoster(folder.db()), before);
+    QCOMPARE(indexes(folder.db()), indexesBefore);
     QCOMPARE(QImage(folder.path("Photos/U1.jpg")).size(), QSize(10, 10));
     QCOMPARE(QDir(folder.path("Photos"))
                  .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
