@@ -103,7 +103,7 @@ QWidget *frmAdminUser::buildList() {
     lstUser->setRootIsDecorated(false);
     lstUser->setUniformRowHeights(true);
     lstUser->setAlternatingRowColors(true);
-    lstUser->header()->setStretchLastSection(false);
+    lstUser->header()->setStretchLastSection(true);
     lstUser->setColumnWidth(ColTick, 44);
     lstUser->setColumnWidth(ColPlace, 50);
     lstUser->setColumnWidth(ColName, 200);

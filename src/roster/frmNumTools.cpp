@@ -133,6 +133,8 @@ void frmNumTools::cmdStartClicked() {
     if (!ui().question(QStringLiteral("生成数字编号将会完全覆盖原来名单\n您确认要生成编号么？"),
                        QStringLiteral("重要提示")))
         return;
+    for (QWidget *w : QList<QWidget *>{txtS1, txtS2, txtStart, txtEnd, chkB, txtB, txtMsk})
+        w->setEnabled(false);
     cmdStart->hide();
     cmdExit->hide();
     cmdOk->show();
