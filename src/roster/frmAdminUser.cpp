@@ -22,12 +22,9 @@
 #include "core/widgethelpers.h"
 #include "roster/editorparts.h"
 #include "roster/frmAddUser.h"
-#include "roster/frmExcelToUser.h"
-#include "roster/frmNumTools.h"
-#include "roster/frmPhotoToUser.h"
-#include "roster/frmTxtToUser.h"
 #include "roster/picturebox.h"
 #include "roster/rosterpage.h"
+#include "roster/rosterscreens.h"
 
 namespace {
 
@@ -419,37 +416,19 @@ void frmAdminUser::addUser() {
 }
 
 void frmAdminUser::importExcel() {
-    const QString file = ui().openFile(QStringLiteral("导入Excel文件"), QString(),
-                                       QStringLiteral("Excel文件 (*.xls *.xlsx)"));
-    if (file.trimmed().isEmpty()) return;
-    appState().excelFile = file;
-    appState().importFromConsole = false;
-    frmExcelToUser form(this);
-    form.exec();
-    rdUserLst(QString(), QString(), 1);
+    if (rosterscreens::importExcel(this, false)) rdUserLst(QString(), QString(), 1);
 }
 
 void frmAdminUser::importTxt() {
-    const QString file =
-        ui().openFile(QStringLiteral("导入Txt文件"), QString(), QStringLiteral("文本文件 (*.txt)"));
-    if (file.trimmed().isEmpty()) return;
-    appState().txtFile = file;
-    appState().importFromConsole = false;
-    frmTxtToUser form(this);
-    form.exec();
-    rdUserLst(QString(), QString(), 1);
+    if (rosterscreens::importTxt(this, false)) rdUserLst(QString(), QString(), 1);
 }
 
 void frmAdminUser::importPhotos() {
-    appState().importFromConsole = false;
-    frmPhotoToUser form(this);
-    form.exec();
+    rosterscreens::importPhotos(this, false);
     rdUserLst(QString(), QString(), 1);
 }
 
 void frmAdminUser::generateNumbers() {
-    appState().importFromConsole = false;
-    frmNumTools form(this);
-    form.exec();
+    rosterscreens::generateNumbers(this, false);
     rdUserLst(QString(), QString(), 1);
 }

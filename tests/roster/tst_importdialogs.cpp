@@ -20,6 +20,7 @@
 #include "roster/frmNumTools.h"
 #include "roster/frmPhotoToUser.h"
 #include "roster/frmTxtToUser.h"
+#include "roster/rosterscreens.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
@@ -63,6 +64,7 @@ private Q_SLOTS:
     void closeDuringImportAsks();
     void photoDialogFlow();
     void numberToolsPreviewAndQuestion();
+    void blankFileChoiceStops();
 };
 
 void TestImportDialogs::excelPreviewAndImport_data() {
@@ -278,6 +280,18 @@ void TestImportDialogs::numberToolsPreviewAndQuestion() {
         form.txtTJ->toPlainText().startsWith(QStringLiteral("屏蔽数据如下：\nST004E\nST013E\n")));
     QVERIFY(form.cmdOk->isEnabled());
     QCOMPARE(roster(folder.db()).first(), QStringLiteral("1|ST001E||0"));
+}
+
+void TestImportDialogs::blankFileChoiceStops() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    ScriptedUi *scripted = installScriptedUi();
+    QVERIFY(!rosterscreens::importExcel(nullptr, true));
+    QVERIFY(!rosterscreens::importTxt(nullptr, true));
+    QCOMPARE(scripted->records.size(), 2);
+    QCOMPARE(scripted->records.at(0).title, QStringLiteral("导入Excel文件"));
+    QCOMPARE(scripted->records.at(1).title, QStringLiteral("导入Txt文件"));
+    QVERIFY(appState().excelFile.isEmpty());
 }
 
 QTEST_MAIN(TestImportDialogs)

@@ -144,7 +144,7 @@ void TestRosterScreens::excelImport() {
     shots.take(form, QStringLiteral("import-excel-finished"));
 
     QList<QStringList> rows{{QStringLiteral("姓名"), QStringLiteral("部门")}};
-    for (int i = 0; i < 150000; ++i)
+    for (int i = 0; i < 60000; ++i)
         rows << QStringList{QStringLiteral("员工%1").arg(i), QStringLiteral("部门%1").arg(i % 9)};
     appState().excelFile = dir.filePath(QStringLiteral("big.xlsx"));
     QVERIFY(testxlsx::write(appState().excelFile, QStringLiteral("全体员工"), rows));
@@ -166,8 +166,8 @@ void TestRosterScreens::textImport() {
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
     QByteArray bytes;
-    for (int i = 0; i < 300000; ++i)
-        bytes += QStringLiteral("员工%1,部门%2\r\n").arg(i % 299990).arg(i % 9).toUtf8();
+    for (int i = 0; i < 120000; ++i)
+        bytes += QStringLiteral("员工%1,部门%2\r\n").arg(i % 119990).arg(i % 9).toUtf8();
     file.write(bytes);
     file.close();
     appState().txtFile = path;
@@ -185,7 +185,7 @@ void TestRosterScreens::photoImport() {
     Shots shots;
     QTemporaryDir dir;
     QStringList files;
-    for (int i = 0; i < 60; ++i) {
+    for (int i = 0; i < 30; ++i) {
         QImage image(1600, 1200, QImage::Format_RGB32);
         image.fill(QColor::fromHsv(i * 6, 120, 200));
         files << dir.filePath(QStringLiteral("员工%1,宣传部.jpg").arg(i));
