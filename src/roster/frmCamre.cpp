@@ -1,14 +1,17 @@
 #include "roster/frmCamre.h"
 
 #include <QCamera>
+#include <QFile>
 #include <QHBoxLayout>
 #include <QImageCapture>
 #include <QLabel>
 #include <QMediaCaptureSession>
 #include <QMediaDevices>
 #include <QPushButton>
+#include <QSoundEffect>
 #include <QStackedLayout>
 #include <QTimer>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <QVideoWidget>
 
@@ -87,6 +90,14 @@ bool frmCamre::openCamera() {
     return true;
 }
 
+void frmCamre::playShutter() {
+    const QString sound = appState().path(QStringLiteral("sys/1.wav"));
+    if (!QFile::exists(sound)) return;
+    if (!shutter) shutter = new QSoundEffect(this);
+    shutter->setSource(QUrl::fromLocalFile(sound));
+    shutter->play();
+}
+
 void frmCamre::closeCamera() {
     if (camera) camera->stop();
     delete preview;
@@ -114,6 +125,7 @@ void frmCamre::freeze(const QImage &frame) {
 void frmCamre::cmdOkClicked() {
     if (cmdOk->text() == kTake) {
         if (capture && capture->isReadyForCapture()) {
+            playShutter();
             cmdOk->setEnabled(false);
             capture->capture();
         }

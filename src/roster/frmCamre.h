@@ -8,6 +8,7 @@ class QImageCapture;
 class QLabel;
 class QMediaCaptureSession;
 class QPushButton;
+class QSoundEffect;
 class QVideoWidget;
 
 // Takes a photo with the webcam: live picture, "拍照" freezes a frame, "保存" writes it to
@@ -36,11 +37,14 @@ private:
     void cmdOkClicked();
     void cmdEscClicked();
     void closeCamera();
+    // The shutter sound, when the program folder has one.
+    void playShutter();
 
     QWidget *picPhoto = nullptr;
     QVideoWidget *preview = nullptr;
     QCamera *camera = nullptr;
     QImageCapture *capture = nullptr;
     QMediaCaptureSession *session = nullptr;
+    QSoundEffect *shutter = nullptr;
     QImage frozen;
 };

@@ -15,7 +15,11 @@ ImportDialog::ImportDialog(const QString &closeQuestion, QWidget *parent)
 }
 
 ImportDialog::~ImportDialog() {
-    if (m_job) m_job->cancel();
+    // The derived dialog is gone already: the job must not call back into it while it rolls back.
+    if (m_job) {
+        m_job->disconnect(this);
+        m_job->cancel();
+    }
 }
 
 bool ImportDialog::runJob(std::unique_ptr<RosterImport> job) {

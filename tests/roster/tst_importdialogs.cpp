@@ -65,6 +65,7 @@ private Q_SLOTS:
     void photoDialogFlow();
     void numberToolsPreviewAndQuestion();
     void blankFileChoiceStops();
+    void dialogDestroyedMidwayRollsBack();
 };
 
 void TestImportDialogs::excelPreviewAndImport_data() {
@@ -292,6 +293,21 @@ void TestImportDialogs::blankFileChoiceStops() {
     QCOMPARE(scripted->records.at(0).title, QStringLiteral("导入Excel文件"));
     QCOMPARE(scripted->records.at(1).title, QStringLiteral("导入Txt文件"));
     QVERIFY(appState().excelFile.isEmpty());
+}
+
+void TestImportDialogs::dialogDestroyedMidwayRollsBack() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"甲|一部|3"});
+    const QStringList before = roster(folder.db());
+    ScriptedUi *scripted = installScriptedUi();
+    auto form = std::make_unique<frmNumTools>();
+    form->txtEnd->setText(QStringLiteral("99999"));
+    scripted->answers.enqueue(true);
+    form->cmdStartClicked();
+    QTRY_VERIFY(form->pBar->value() > 0);
+    form.reset();
+    QCOMPARE(roster(folder.db()), before);
 }
 
 QTEST_MAIN(TestImportDialogs)
