@@ -24,6 +24,8 @@ PictureBox::PictureBox(QWidget *parent) : QFrame(parent), m_stage(createStage(th
 PictureBox::~PictureBox() = default;
 
 bool PictureBox::start() {
+    // The fallback stage never reports "loadok"; waiting for it would leave screens empty.
+    if (qobject_cast<SilentStage *>(m_stage.get())) return false;
     return m_stage->loadMovie(appState().path(appState().moviePhoto));
 }
 

@@ -13,8 +13,8 @@ public:
     explicit PictureBox(QWidget *parent = nullptr);
     ~PictureBox() override;
 
-    // Loads the viewer movie; false when it could not be loaded (the caller then goes on
-    // without waiting for "loadok").
+    // Loads the viewer movie; false when it could not be loaded or no viewer will ever answer
+    // (the caller then goes on without waiting for "loadok").
     bool start();
     // Shows a picture (a path relative to the program folder or absolute), or nothing.
     void showPicture(const QString &path);

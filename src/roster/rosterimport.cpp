@@ -26,6 +26,7 @@ RosterImport::~RosterImport() = default;
 bool RosterImport::start(QString *error) {
     if (m_started) return false;
     if (!m_writer.begin(replaceAtStart(), error)) return false;
+    m_writer.reserve(itemCount());
     m_started = true;
     m_outcome = Outcome::Running;
     m_scheduled = true;

@@ -24,6 +24,10 @@ public:
     // Deletes every participant inside the open transaction (once).
     bool clearRoster(QString *error);
     bool isDuplicate(const QString &name, const QString &part);
+    // Room for the rows about to be written, so a big import does not keep regrowing its set.
+    void reserve(qint64 rows) {
+        m_written.reserve(static_cast<qsizetype>(qMin<qint64>(rows, 1 << 24)));
+    }
     // Inserts one participant and returns its ID, or 0 on failure.
     int insert(const QString &name, const QString &part, const QString &photo = QString(),
                int diffNum = 0, QString *error = nullptr);
