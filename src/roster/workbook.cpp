@@ -8,7 +8,6 @@
 #include <freexl.h>
 #include <zip.h>
 
-#include <algorithm>
 #include <cmath>
 
 namespace workbook {
@@ -302,19 +301,17 @@ bool Workbook::readXlsxSheet(int index, int limit, Sheet *sheet, QString *error)
     QXmlStreamReader xml(bytes);
     int nextRow = 0;
     int nextColumn = 0;
-    Row *row = nullptr;
+    int rowNumber = -1;
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement) continue;
         if (xml.name() == QLatin1String("row")) {
             const auto reference = xml.attributes().value(QLatin1String("r"));
             const int number = reference.isEmpty() ? nextRow : reference.toInt() - 1;
             if (limit >= 0 && number >= limit) break;
-            while (sheet->rows.size() <= number)
-                sheet->rows.append(Row());
-            row = &sheet->rows[number];
+            rowNumber = number;
             nextRow = number + 1;
             nextColumn = 0;
-        } else if (xml.name() == QLatin1String("c") && row) {
+        } else if (xml.name() == QLatin1String("c") && rowNumber >= 0) {
             const auto attributes = xml.attributes();
             const auto reference = attributes.value(QLatin1String("r"));
             int column = reference.isEmpty() ? nextColumn : columnOf(reference);
@@ -361,23 +358,20 @@ bool Workbook::readXlsxSheet(int index, int limit, Sheet *sheet, QString *error)
                 else
                     text = numberText(number);
             }
-            while (row->size() <= column)
-                row->append(QString());
-            (*row)[column] = text;
+            // Rows are made only for cells with a value: a styled but empty row far down the
+            // sheet must not turn into a million blank rows.
+            while (sheet->rows.size() <= rowNumber)
+                sheet->rows.append(Row());
+            Row &row = sheet->rows[rowNumber];
+            while (row.size() <= column)
+                row.append(QString());
+            row[column] = text;
             sheet->columns = qMax(sheet->columns, column + 1);
         }
     }
     if (xml.hasError()) {
         *error = kUnreadable;
         return false;
-    }
-    // Trailing rows without any value are not part of the sheet's used range.
-    while (!sheet->rows.isEmpty()) {
-        const Row &last = sheet->rows.last();
-        if (std::any_of(last.begin(), last.end(),
-                        [](const QString &cell) { return !cell.isNull(); }))
-            break;
-        sheet->rows.removeLast();
     }
     return true;
 }
