@@ -104,7 +104,7 @@ void frmPhotoToUser::setFiles(const QStringList &files) {
 void frmPhotoToUser::cmdStartClicked() {
     cmdStart->hide();
     cmdExit->hide();
-    cmdOpen->setEnabled(false);
+    cmdOpen->hide();
     cmdOk->show();
     cmdOk->setEnabled(false);
     txtInfo->show();

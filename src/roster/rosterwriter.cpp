@@ -13,6 +13,18 @@ QString writtenKey(const QString &name, const QString &part) {
     return name + QChar(0x1f) + part;
 }
 
+constexpr int kColumns = 5;
+
+QString insertStatement(int rows) {
+    QStringList tuples;
+    for (int i = 0; i < rows; ++i)
+        tuples << QStringLiteral("(?, ?, ?, ?, ?, 0)");
+    return QStringLiteral(
+               "INSERT INTO UserList (ID, UserName, UserPart, UserPhoto, DiffNum, "
+               "UserStatus) VALUES ") +
+           tuples.join(QLatin1Char(','));
+}
+
 }  // namespace
 
 RosterWriter::RosterWriter(QSqlDatabase db) : m_db(db), m_duplicate(db), m_insert(db) {}
@@ -33,8 +45,7 @@ bool RosterWriter::begin(bool replace, QString *error) {
     m_cleared = false;
     if (!m_duplicate.prepare(
             QStringLiteral("SELECT 1 FROM UserList WHERE UserName=? AND UserPart=? LIMIT 1")) ||
-        !m_insert.prepare(QStringLiteral("INSERT INTO UserList (ID, UserName, UserPart, UserPhoto, "
-                                         "DiffNum, UserStatus) VALUES (?, ?, ?, ?, ?, 0)"))) {
+        !m_insert.prepare(insertStatement(kBatchRows))) {
         *error = m_insert.lastError().text() + m_duplicate.lastError().text();
         rollback();
         return false;
@@ -72,23 +83,37 @@ bool RosterWriter::isDuplicate(const QString &name, const QString &part) {
 
 int RosterWriter::insert(const QString &name, const QString &part, const QString &photo,
                          int diffNum, QString *error) {
-    const int id = m_nextId;
-    m_insert.addBindValue(id);
-    m_insert.addBindValue(notNull(name));
-    m_insert.addBindValue(notNull(part));
-    m_insert.addBindValue(notNull(photo));
-    m_insert.addBindValue(diffNum);
-    if (!m_insert.exec()) {
-        if (error) *error = m_insert.lastError().text();
-        return 0;
-    }
-    ++m_nextId;
+    const int id = m_nextId++;
+    m_pending << QVariant(id) << QVariant(notNull(name)) << QVariant(notNull(part))
+              << QVariant(notNull(photo)) << QVariant(diffNum);
     m_written.insert(writtenKey(name, part));
+    if (m_pending.size() >= kBatchRows * kColumns && !flush(error)) return 0;
     return id;
+}
+
+// Rows go to the store in batches of one multi-row INSERT: far fewer statements for a big import.
+bool RosterWriter::flush(QString *error) {
+    if (m_pending.isEmpty()) return true;
+    const int rows = static_cast<int>(m_pending.size() / kColumns);
+    QSqlQuery rest(m_db);
+    QSqlQuery &query = rows == kBatchRows ? m_insert : rest;
+    if (rows != kBatchRows) query.prepare(insertStatement(rows));
+    for (const QVariant &value : std::as_const(m_pending))
+        query.addBindValue(value);
+    m_pending.clear();
+    if (!query.exec()) {
+        if (error) *error = query.lastError().text();
+        return false;
+    }
+    return true;
 }
 
 bool RosterWriter::commit(QString *error) {
     if (!m_open) return false;
+    if (!flush(error)) {
+        rollback();
+        return false;
+    }
     m_duplicate.finish();
     m_insert.finish();
     if (!restoreIndexes(error)) {
@@ -138,6 +163,7 @@ bool RosterWriter::restoreIndexes(QString *error) {
 
 void RosterWriter::rollback() {
     m_droppedIndexes.clear();
+    m_pending.clear();
     if (!m_open) return;
     m_duplicate.finish();
     m_insert.finish();

@@ -28,7 +28,8 @@ public:
     void reserve(qint64 rows) {
         m_written.reserve(static_cast<qsizetype>(qMin<qint64>(rows, 1 << 24)));
     }
-    // Inserts one participant and returns its ID, or 0 on failure.
+    // Inserts one participant and returns its ID, or 0 on failure. Rows are sent in batches, so
+    // a fault may show at a later row or at the commit; the whole transaction fails either way.
     int insert(const QString &name, const QString &part, const QString &photo = QString(),
                int diffNum = 0, QString *error = nullptr);
     // The ID the next insert gets.
@@ -40,11 +41,14 @@ public:
     bool cleared() const { return m_cleared; }
 
 private:
+    static constexpr int kBatchRows = 64;
+    bool flush(QString *error);
     bool dropIndexes(QString *error);
     bool restoreIndexes(QString *error);
 
     QSqlDatabase m_db;
     QStringList m_droppedIndexes;
+    QVariantList m_pending;
     QSqlQuery m_duplicate;
     QSqlQuery m_insert;
     int m_nextId = 1;
