@@ -54,6 +54,7 @@ class TestRosterManager : public QObject {
 
 private Q_SLOTS:
     void firstFillWaitsForViewer();
+    void fillsAtOnceWithoutViewer();
     void pagesAreClamped_data();
     void pagesAreClamped();
     void sortModes_data();
@@ -85,6 +86,15 @@ void TestRosterManager::firstFillWaitsForViewer() {
     // The row count equals the table's, so the last row is selected and loaded.
     QCOMPARE(form.txtUserName->text(), QStringLiteral("乙"));
     QCOMPARE(form.lstUser->topLevelItem(1)->text(1), QStringLiteral("2"));
+}
+
+void TestRosterManager::fillsAtOnceWithoutViewer() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"甲|一部"});
+    setStageFactory({});
+    frmAdminUser form;
+    QCOMPARE(form.lstUser->topLevelItemCount(), 1);
 }
 
 void TestRosterManager::pagesAreClamped_data() {
