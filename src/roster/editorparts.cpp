@@ -24,13 +24,10 @@ QToolBar *makePhotoToolbar(QWidget *owner, PictureBox *viewer, QLineEdit *photoS
     QObject::connect(bar->addAction(QStringLiteral("拍照")), &QAction::triggered, owner,
                      [owner, viewer, photoState, caller] {
                          appState().cameraCaller = caller;
-                         frmCamre camera(owner);
-                         QObject::connect(&camera, &frmCamre::saved, owner,
-                                          [viewer, photoState](const QString &path) {
-                                              viewer->showPicture(path);
-                                              photoState->setText(QStringLiteral("camre"));
-                                          });
-                         camera.exec();
+                         const QString path = frmCamre::takePhoto(owner);
+                         if (path.isEmpty()) return;
+                         viewer->showPicture(path);
+                         photoState->setText(QStringLiteral("camre"));
                      });
     QObject::connect(bar->addAction(QStringLiteral("选择照片")), &QAction::triggered, owner,
                      [viewer, photoState, fileFilter] {

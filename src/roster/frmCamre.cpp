@@ -60,6 +60,14 @@ frmCamre::~frmCamre() {
     closeCamera();
 }
 
+QString frmCamre::takePhoto(QWidget *parent) {
+    frmCamre camera(parent);
+    QString saved;
+    connect(&camera, &frmCamre::saved, &camera, [&saved](const QString &path) { saved = path; });
+    camera.exec();
+    return saved;
+}
+
 bool frmCamre::openCamera() {
     closeCamera();
     const QCameraDevice device = QMediaDevices::defaultVideoInput();

@@ -20,6 +20,10 @@ public:
     explicit frmCamre(QWidget *parent = nullptr);
     ~frmCamre() override;
 
+    // Runs the dialog modally for appState().cameraCaller; the saved file, or an empty text when
+    // no photo was taken.
+    static QString takePhoto(QWidget *parent);
+
     QPushButton *cmdOk = nullptr;
     QPushButton *cmdEsc = nullptr;
     QLabel *labInfo = nullptr;

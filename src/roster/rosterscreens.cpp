@@ -1,9 +1,11 @@
 #include "roster/rosterscreens.h"
 
+#include "awards/camerahook.h"
 #include "core/appstate.h"
 #include "core/events.h"
 #include "core/ui.h"
 #include "roster/frmAdminUser.h"
+#include "roster/frmCamre.h"
 #include "roster/frmExcelToUser.h"
 #include "roster/frmNumTools.h"
 #include "roster/frmPhotoToUser.h"
@@ -47,6 +49,10 @@ void generateNumbers(QWidget *parent, bool fromConsole) {
     appState().importFromConsole = fromConsole;
     frmNumTools form(parent);
     form.exec();
+}
+
+void installCamera() {
+    awardcamera::setShot(&frmCamre::takePhoto);
 }
 
 void openRosterAction(int index, QWidget *parent) {

@@ -14,6 +14,10 @@ bool importTxt(QWidget *parent, bool fromConsole);
 void importPhotos(QWidget *parent, bool fromConsole);
 void generateNumbers(QWidget *parent, bool fromConsole);
 
+// Lends the camera dialog to the award editors (they ask through awardcamera::shot()). The
+// program calls this once at start-up.
+void installCamera();
+
 // The console's five roster links in order: manage, Excel, text, pictures, numbers.
 void openRosterAction(int index, QWidget *parent);
 

@@ -9,12 +9,14 @@
 #include <QTreeWidget>
 #include <QtTest>
 
+#include "awards/camerahook.h"
 #include "core/appstate.h"
 #include "core/store.h"
 #include "roster/frmAddUser.h"
 #include "roster/frmAdminUser.h"
 #include "roster/frmCamre.h"
 #include "roster/rosterpage.h"
+#include "roster/rosterscreens.h"
 #include "stage/protocol.h"
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
@@ -69,6 +71,7 @@ private Q_SLOTS:
     void addUserRules();
     void cameraMissing();
     void cameraSaveHandsOver();
+    void cameraLentToAwards();
 };
 
 void TestRosterManager::firstFillWaitsForViewer() {
@@ -393,6 +396,12 @@ void TestRosterManager::cameraSaveHandsOver() {
     QCOMPARE(handed, folder.path("Photos/camertemp.jpg"));
     QCOMPARE(QImage(handed).size(), QSize(640, 480));
     QCOMPARE(camera.result(), int(QDialog::Accepted));
+}
+
+void TestRosterManager::cameraLentToAwards() {
+    awardcamera::setShot({});
+    rosterscreens::installCamera();
+    QVERIFY(static_cast<bool>(awardcamera::shot()));
 }
 
 QTEST_MAIN(TestRosterManager)
