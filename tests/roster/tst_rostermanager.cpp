@@ -57,6 +57,7 @@ class TestRosterManager : public QObject {
 private Q_SLOTS:
     void firstFillWaitsForViewer();
     void fillsAtOnceWithoutViewer();
+    void fillsWhenRealViewerReports();
     void pagesAreClamped_data();
     void pagesAreClamped();
     void sortModes_data();
@@ -95,9 +96,19 @@ void TestRosterManager::fillsAtOnceWithoutViewer() {
     TempProgramFolder folder;
     QVERIFY(folder.start());
     folder.addUsers({"甲|一部"});
-    setStageFactory({});
+    setStageFactory([](QWidget *parent) { return std::make_unique<SilentStage>(parent); });
     frmAdminUser form;
     QCOMPARE(form.lstUser->topLevelItemCount(), 1);
+}
+
+void TestRosterManager::fillsWhenRealViewerReports() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"甲|一部"});
+    setStageFactory({});
+    frmAdminUser form;
+    QTRY_COMPARE(form.lstUser->topLevelItemCount(), 1);
+    QCOMPARE(form.txtUserName->text(), QStringLiteral("甲"));
 }
 
 void TestRosterManager::pagesAreClamped_data() {

@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPainter>
 #include <QProgressBar>
 #include <QSqlQuery>
 #include <QTreeWidget>
@@ -19,7 +20,6 @@
 #include "roster/frmNumTools.h"
 #include "roster/frmPhotoToUser.h"
 #include "roster/frmTxtToUser.h"
-#include "stage/protocol.h"
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
@@ -108,20 +108,36 @@ void TestRosterScreens::rosterManager() {
     fillDemoRoster(folder.db());
     installScriptedUi();
     Shots shots;
-    auto &stages = installRecordingStages();
+    for (int id : {1, 5, 9, 13, 17, 21, 25}) {
+        QImage photo(300, 400, QImage::Format_RGB32);
+        photo.fill(QColor::fromHsv(id * 13, 90, 210));
+        QPainter painter(&photo);
+        painter.setBrush(QColor(250, 226, 200));
+        painter.setPen(Qt::NoPen);
+        painter.drawEllipse(QRect(90, 70, 120, 150));
+        painter.drawRoundedRect(QRect(50, 240, 200, 200), 80, 80);
+        painter.end();
+        photo.save(folder.path(QStringLiteral("Photos/U%1.jpg").arg(id)));
+    }
+    setStageFactory({});  // the real picture viewer
     frmAdminUser form;
-    stages.last()->reply(proto::cmd::loadok, QStringLiteral("yes"));
+    form.show();  // laid out first: the viewer decodes at the size it is shown
+    QTRY_COMPARE(form.lstUser->topLevelItemCount(), 26);
+    form.lstUser->setCurrentItem(form.lstUser->topLevelItem(24));
     form.lstUser->topLevelItem(2)->setCheckState(0, Qt::Checked);
     form.lstUser->topLevelItem(3)->setCheckState(0, Qt::Checked);
+    QTest::qWait(1500);  // the viewer decodes the picture asynchronously
     shots.take(form, QStringLiteral("roster-manager"));
 }
 
 void TestRosterScreens::editorsAndCamera() {
     TempProgramFolder folder;
     QVERIFY(folder.start());
-    installRecordingStages();
+    setStageFactory({});
     Shots shots;
     frmAddUser add;
+    add.show();
+    QTest::qWait(300);
     shots.take(add, QStringLiteral("roster-add-user"));
     frmCamre camera;
     camera.openCamera();
