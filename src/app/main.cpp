@@ -4,8 +4,10 @@
 #include "core/frmMain.h"
 #include "core/startup.h"
 #include "core/widgethelpers.h"
+#include "sound/mediabackend.h"
 
 int main(int argc, char *argv[]) {
+    chooseMediaBackend();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quellio"));
     QApplication::setOrganizationName(QStringLiteral("quellio"));
