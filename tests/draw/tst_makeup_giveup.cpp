@@ -4,8 +4,8 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QPagedPaintDevice>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QSqlQuery>
 #include <QTabWidget>
@@ -149,10 +149,14 @@ void TestMakeupGiveUp::makeupShiftsTheBatchPlan() {
 void TestMakeupGiveUp::makeupSlotChecks_data() {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("message");
-    QTest::newRow("empty") << "" << "至少追加一个名额!";
-    QTest::newRow("zero") << "0" << "至少追加一个名额!";
-    QTest::newRow("beyond 16 bits") << "32758" << "追加后奖品名额最多为32767个";
-    QTest::newRow("five digits") << "99999" << "追加后奖品名额最多为32767个";
+    QTest::newRow("empty") << ""
+                           << "至少追加一个名额!";
+    QTest::newRow("zero") << "0"
+                          << "至少追加一个名额!";
+    QTest::newRow("beyond 16 bits") << "32758"
+                                    << "追加后奖品名额最多为32767个";
+    QTest::newRow("five digits") << "99999"
+                                 << "追加后奖品名额最多为32767个";
 }
 
 void TestMakeupGiveUp::makeupSlotChecks() {
@@ -197,16 +201,14 @@ void TestMakeupGiveUp::newAwardChecksInOrder_data() {
     QTest::addColumn<int>("focus");  // index of the field that gets the focus
     QTest::newRow("blank name") << QStringList{"  ", "", "", ""} << "请输入奖项名称!" << 0;
     QTest::newRow("no slots") << QStringList{"特等奖", "", "", ""} << "至少存在1个名额" << 1;
-    QTest::newRow("zero slots") << QStringList{"特等奖", "0", "1", "车"} << "至少存在1个名额"
-                                << 1;
+    QTest::newRow("zero slots") << QStringList{"特等奖", "0", "1", "车"} << "至少存在1个名额" << 1;
     QTest::newRow("slots 32768") << QStringList{"特等奖", "32768", "1", "车"}
                                  << "奖品名额最多为32767个" << 1;
-    QTest::newRow("no batches") << QStringList{"特等奖", "3", "", "车"}
-                                << "至少存在1个抽奖批次" << 2;
-    QTest::newRow("batches 40000") << QStringList{"特等奖", "3", "40000", "车"}
-                                   << "抽奖批次最多为32767次" << 2;
-    QTest::newRow("blank prize") << QStringList{"特等奖", "3", "1", " "} << "奖品名称不能为空"
-                                 << 3;
+    QTest::newRow("no batches") << QStringList{"特等奖", "3", "", "车"} << "至少存在1个抽奖批次"
+                                << 2;
+    QTest::newRow("batches 40000")
+        << QStringList{"特等奖", "3", "40000", "车"} << "抽奖批次最多为32767次" << 2;
+    QTest::newRow("blank prize") << QStringList{"特等奖", "3", "1", " "} << "奖品名称不能为空" << 3;
 }
 
 void TestMakeupGiveUp::newAwardChecksInOrder() {
@@ -248,8 +250,9 @@ void TestMakeupGiveUp::newAwardGoesLastAndLoads() {
     const int id = dialog.awardToLoad();
     QCOMPARE(id, 3);
     QSqlQuery query(rig.folder.db());
-    query.exec(QStringLiteral("SELECT JXName, JXNum, JXGroup, JPName, JPPhoto, OrderNum, "
-                              "isReLuck, RangeType FROM JPList WHERE ID=3"));
+    query.exec(
+        QStringLiteral("SELECT JXName, JXNum, JXGroup, JPName, JPPhoto, OrderNum, "
+                       "isReLuck, RangeType FROM JPList WHERE ID=3"));
     QVERIFY(query.next());
     QCOMPARE(query.value(0).toString(), QStringLiteral("加码奖 ' |$"));
     QCOMPARE(query.value(1).toInt(), 3);

@@ -84,14 +84,17 @@ void TestLuckList::rowsFollowTheDrawOrder() {
     const results::LuckList list = results::luckList(m_folder->db());
     QStringList lines;
     for (const results::LuckRow &row : list.rows)
-        lines << QStringList{QString::number(row.number), row.jxName, row.jpName, row.userName,
-                             row.userPart, row.status}
+        lines << QStringList{QString::number(row.number),
+                             row.jxName,
+                             row.jpName,
+                             row.userName,
+                             row.userPart,
+                             row.status}
                      .join(QLatin1Char(','));
-    QCOMPARE(lines, QStringList({"1,一等奖,笔记本,李四,市场部,中奖",
-                                 "2,一等奖,笔记本,张三,研发部,中奖",
-                                 "3,二等奖,平板电脑,李四,市场部,中奖",
-                                 "4,二等奖,平板电脑,王五,财务部,中奖",
-                                 "5,二等奖,平板电脑,赵六,行政部,弃奖"}));
+    QCOMPARE(lines, QStringList(
+                        {"1,一等奖,笔记本,李四,市场部,中奖", "2,一等奖,笔记本,张三,研发部,中奖",
+                         "3,二等奖,平板电脑,李四,市场部,中奖", "4,二等奖,平板电脑,王五,财务部,中奖",
+                         "5,二等奖,平板电脑,赵六,行政部,弃奖"}));
     QCOMPARE(list.prizeTotal, 15);
     QVERIFY(list.rows[4].greyRow);
     QVERIFY(!list.rows[3].greyRow);
