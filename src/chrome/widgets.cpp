@@ -98,3 +98,20 @@ void LinkLabel::mouseReleaseEvent(QMouseEvent *event) {
         Q_EMIT clicked();
     QLabel::mouseReleaseEvent(event);
 }
+
+ChevronCombo::ChevronCombo(QWidget *parent) : QComboBox(parent) {
+    setStyleSheet(QStringLiteral(
+        "QComboBox::drop-down { subcontrol-origin: padding; subcontrol-position: center right;"
+        " width: 22px; border: none; }"));
+}
+
+void ChevronCombo::paintEvent(QPaintEvent *event) {
+    QComboBox::paintEvent(event);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(isEnabled() ? style::kSoft : QColor(210, 180, 182), 1.6, Qt::SolidLine,
+                        Qt::RoundCap, Qt::RoundJoin));
+    const QPointF centre(width() - 13.0, height() / 2.0 + 1.0);
+    painter.drawPolyline(
+        QPolygonF{centre + QPointF(-4, -2.5), centre + QPointF(0, 1.5), centre + QPointF(4, -2.5)});
+}

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QColor>
+#include <QComboBox>
 #include <QLabel>
 #include <QString>
 
@@ -61,4 +62,14 @@ Q_SIGNALS:
 
 protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
+};
+
+// A combo box with a chevron in the text colour: the style sheet's combo has no arrow of its own.
+class ChevronCombo : public QComboBox {
+    Q_OBJECT
+public:
+    explicit ChevronCombo(QWidget *parent);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 };

@@ -11,10 +11,12 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "chrome/widgets.h"
 #include "core/events.h"
 #include "core/store.h"
 #include "core/ui.h"
 #include "core/widgethelpers.h"
+#include "draw/engine.h"
 #include "draw/makeup.h"
 
 namespace {
@@ -65,7 +67,7 @@ frmAddJX::frmAddJX(int currentAward, QWidget *parent) : QDialog(parent) {
 
 QWidget *frmAddJX::buildQuickTab() {
     auto *page = new QWidget(this);
-    ComboJX = new QComboBox(page);
+    ComboJX = new ChevronCombo(page);
     ComboJX->setMinimumWidth(250);
     txtNum = numberBox(page);
     auto *slotsRow = new QHBoxLayout;
@@ -79,10 +81,13 @@ QWidget *frmAddJX::buildQuickTab() {
     form->addRow(QStringLiteral("追加："), slotsRow);
     auto *layout = new QVBoxLayout(page);
     layout->setContentsMargins(22, 22, 22, 16);
+    labJxInfo = new QLabel(page);
     layout->addLayout(form);
-    layout->addSpacing(6);
+    layout->addSpacing(4);
+    layout->addWidget(labJxInfo);
     layout->addWidget(hintLabel(QStringLiteral("追加奖项名额必须为正整数!!"), page));
     layout->addStretch();
+    connect(ComboJX, &QComboBox::currentIndexChanged, this, &frmAddJX::showAwardInfo);
     return page;
 }
 
@@ -126,6 +131,21 @@ void frmAddJX::rdJXLst(int selectId) {
     }
     const int index = ComboJX->findData(selectId);
     ComboJX->setCurrentIndex(index >= 0 ? index : 0);
+    showAwardInfo();
+}
+
+void frmAddJX::showAwardInfo() {
+    const int id = draw::choiceId(ComboJX->currentText());
+    const int slotCount = draw::slotsOf(store::mainConn(), id);
+    if (id == 0 || slotCount < 0) {
+        labJxInfo->clear();
+        return;
+    }
+    const int have = draw::countAwardWinners(store::mainConn(), id);
+    labJxInfo->setText(QStringLiteral("该奖项现有名额 %1 个，已中奖 %2 人，剩余 %3 个")
+                           .arg(slotCount)
+                           .arg(have)
+                           .arg(qMax(slotCount - have, 0)));
 }
 
 void frmAddJX::save() {

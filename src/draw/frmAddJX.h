@@ -3,6 +3,7 @@
 #include <QDialog>
 
 class QCheckBox;
+class QLabel;
 class QComboBox;
 class QLineEdit;
 class QPushButton;
@@ -19,6 +20,7 @@ public:
     QTabWidget *sTab = nullptr;
     QComboBox *ComboJX = nullptr;
     QLineEdit *txtNum = nullptr;
+    QLabel *labJxInfo = nullptr;  // the chosen award's slots and winners
     QLineEdit *txtJxName = nullptr;
     QLineEdit *txtJxNum = nullptr;
     QLineEdit *txtJxGroup = nullptr;
@@ -43,6 +45,7 @@ private:
     void saveSlots();
     void saveNewAward();
     void finish(int id);
+    void showAwardInfo();
 
     int m_awardToLoad = 0;
 };

@@ -1,10 +1,25 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QDialog>
 
 class QLabel;
 class QPushButton;
-class ToolButton;
+
+// One of the prompt's four choices: a card with an icon and a caption that sinks by one pixel
+// while pressed.
+class ChoiceTile : public QAbstractButton {
+    Q_OBJECT
+public:
+    ChoiceTile(const QString &icon, const QString &caption, QWidget *parent);
+    QSize sizeHint() const override { return {90, 96}; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString m_icon;
+};
 
 namespace draw {
 class DrawEngine;
@@ -20,7 +35,7 @@ public:
     explicit frmAskEnd(draw::DrawEngine &engine, QWidget *parent = nullptr);
 
     QLabel *Label1 = nullptr;
-    ToolButton *imgLab[5] = {};  // 1 to 4, as the choices
+    ChoiceTile *imgLab[5] = {};  // 1 to 4, as the choices
     QPushButton *CancelButton = nullptr;
 
     // What a click on imgLab(index) does.

@@ -86,17 +86,26 @@ void frmLuckList::buildList() {
     lstUser->setAlternatingRowColors(true);
     lstUser->setAllColumnsShowFocus(true);
     lstUser->setSelectionMode(QAbstractItemView::SingleSelection);
+    QPalette palette = lstUser->palette();
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::Highlight, QColor(251, 214, 218));
+        palette.setColor(group, QPalette::HighlightedText, style::kDeep);
+    }
+    lstUser->setPalette(palette);
     lstUser->setStyleSheet(QStringLiteral(
         "QTreeWidget { background: white; alternate-background-color: rgb(255,247,247);"
         " border: 1px solid rgb(230,190,194); border-radius: 6px; }"
         "QTreeWidget::item { height: 28px; border: none; }"
-        "QTreeWidget::item:selected { background: rgb(251,214,218); color: rgb(128,23,25); }"
+        "QTreeWidget::item:selected, QTreeWidget::item:selected:!active {"
+        " background: rgb(251,214,218); color: rgb(128,23,25); }"
         "QHeaderView::section { background: rgb(250,225,227); border: none;"
         " border-right: 1px solid rgb(236,200,203); border-bottom: 1px solid rgb(230,190,194);"
         " padding: 6px 6px; font-weight: bold; }"));
     const int widths[] = {60, 120, 150, 130, 150};
     for (int column = 0; column < ColStatus; ++column)
         lstUser->setColumnWidth(column, widths[column]);
+    lstUser->headerItem()->setTextAlignment(ColNumber, Qt::AlignCenter);
+    lstUser->headerItem()->setTextAlignment(ColStatus, Qt::AlignCenter);
     lstUser->header()->setStretchLastSection(true);
     lstUser->header()->setSectionsMovable(false);
 }

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPagedPaintDevice>
+#include <QPainter>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSqlQuery>
@@ -13,6 +14,7 @@
 #include <QTreeWidget>
 #include <QtTest>
 
+#include "chrome/style.h"
 #include "chrome/widgets.h"
 #include "core/appstate.h"
 #include "core/settings.h"
@@ -27,6 +29,7 @@
 #include "results/printwinners.h"
 #include "stage/protocol.h"
 #include "support/recordingstage.h"
+#include "support/sampleevening.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
@@ -52,6 +55,54 @@ struct Rig {
     }
     int winners(int award) { return draw::countAwardWinners(folder.db(), award); }
 };
+
+QPixmap grabShown(QWidget &dialog) {
+    dialog.show();
+    QTest::qWait(60);
+    return dialog.grab();
+}
+
+// Two pictures of one dialog next to each other on the dialogs' background.
+QImage sideBySide(const QPixmap &left, const QPixmap &right) {
+    const int gap = 24;
+    QImage image(left.width() + right.width() + 3 * gap,
+                 qMax(left.height(), right.height()) + 2 * gap, QImage::Format_RGB32);
+    image.fill(QColor(236, 214, 216));
+    QPainter painter(&image);
+    painter.drawPixmap(gap, gap, left);
+    painter.drawPixmap(2 * gap + left.width(), gap, right);
+    return image;
+}
+
+// The prompt as the operator meets it: a window with its caption, centred over the stage.
+QImage overStage(const QPixmap &stage, const QPixmap &dialog, const QString &caption) {
+    QImage image = stage.toImage().scaled(1280, 720, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(image.rect(), QColor(0, 0, 0, 70));
+    const int captionHeight = 32;
+    QRect window(0, 0, dialog.width(), dialog.height() + captionHeight);
+    window.moveCenter(image.rect().center());
+    for (int i = 12; i > 0; --i) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0, 0, 0, 7));
+        painter.drawRoundedRect(window.adjusted(-i, -i + 4, i, i + 4), 8 + i, 8 + i);
+    }
+    painter.setBrush(QColor(128, 23, 25));
+    painter.drawRoundedRect(window, 6, 6);
+    painter.drawPixmap(window.left(), window.top() + captionHeight, dialog);
+    QFont font = painter.font();
+    font.setFamily(QStringLiteral("Noto Sans CJK SC"));
+    font.setPixelSize(14);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(QRect(window.left() + 14, window.top(), window.width() - 28, captionHeight),
+                     Qt::AlignVCenter | Qt::AlignLeft, caption);
+    painter.drawText(QRect(window.left() + 14, window.top(), window.width() - 28, captionHeight),
+                     Qt::AlignVCenter | Qt::AlignRight, QStringLiteral("✕"));
+    return image;
+}
 
 QTreeWidgetItem *row(frmGiveUp &dialog, int index) {
     return dialog.lstUser->topLevelItem(index);
@@ -511,8 +562,38 @@ void TestMakeupGiveUp::askEndExportPrintParade() {
     QCOMPARE(rig.cell(ids[0], "JxID").toString(), QStringLiteral("|1|"));
 }
 
+// Renders the dialogs for docs/screenshots when QUELLIO_SCREENSHOTS names a folder.
 void TestMakeupGiveUp::screenshot() {
-    QSKIP("added with the screenshots");
+    const QString out = qEnvironmentVariable("QUELLIO_SCREENSHOTS");
+    if (out.isEmpty()) QSKIP("QUELLIO_SCREENSHOTS not set");
+    QDir().mkpath(out);
+    style::apply();
+    Rig rig;
+    QVERIFY(rig.started);
+    fillSampleEvening(rig.folder);
+
+    frmGiveUp giveUp;
+    row(giveUp, 2)->setCheckState(frmGiveUp::ColNumber, Qt::Checked);
+    row(giveUp, 5)->setCheckState(frmGiveUp::ColNumber, Qt::Checked);
+    giveUp.lstUser->setCurrentItem(row(giveUp, 5));
+    QVERIFY(grabShown(giveUp).save(out + QStringLiteral("/give-up.png")));
+
+    frmAddJX addJx(4);
+    addJx.txtNum->setText(QStringLiteral("5"));
+    const QPixmap quick = grabShown(addJx);
+    addJx.sTab->setCurrentIndex(1);
+    addJx.txtJxName->setText(QStringLiteral("董事长特别奖"));
+    addJx.txtJxNum->setText(QStringLiteral("6"));
+    addJx.txtJxGroup->setText(QStringLiteral("2"));
+    addJx.txtJpName->setText(QStringLiteral("现金红包 888元"));
+    const QPixmap award = grabShown(addJx);
+    QVERIFY(sideBySide(quick, award).save(out + QStringLiteral("/add-award-draw.png")));
+
+    frmAskEnd prompt(rig.engine);
+    const QPixmap stage(QStringLiteral(QUELLIO_SOURCE_DIR "/docs/screenshots/stage-idle.png"));
+    QVERIFY(!stage.isNull());
+    QVERIFY(overStage(stage, grabShown(prompt), prompt.windowTitle())
+                .save(out + QStringLiteral("/ask-end.png")));
 }
 
 QTEST_MAIN(TestMakeupGiveUp)

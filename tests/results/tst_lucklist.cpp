@@ -6,10 +6,12 @@
 #include <QTreeWidget>
 #include <QtTest>
 
+#include "chrome/style.h"
 #include "core/store.h"
 #include "results/frmLuckList.h"
 #include "results/lucklist.h"
 #include "results/printwinners.h"
+#include "support/sampleevening.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
@@ -169,8 +171,18 @@ void TestLuckList::exportAndPrintButtons() {
     QCOMPARE(m_ui->texts(), QStringList({"找不到打印机"}));
 }
 
+// Renders the winner list for docs/screenshots when QUELLIO_SCREENSHOTS names a folder.
 void TestLuckList::screenshot() {
-    QSKIP("added with the screenshots");
+    const QString out = qEnvironmentVariable("QUELLIO_SCREENSHOTS");
+    if (out.isEmpty()) QSKIP("QUELLIO_SCREENSHOTS not set");
+    QDir().mkpath(out);
+    style::apply();
+    fillSampleEvening(*m_folder);
+    frmLuckList dialog;
+    dialog.lstUser->setCurrentItem(dialog.lstUser->topLevelItem(3));
+    dialog.show();
+    QTest::qWait(60);
+    QVERIFY(dialog.grab().save(out + QStringLiteral("/winner-list.png")));
 }
 
 QTEST_MAIN(TestLuckList)
