@@ -61,7 +61,7 @@ frmStart::frmStart(QWidget *parent) : QWidget(parent, Qt::Window) {
     connect(&m_tmM, &QTimer::timeout, this, &frmStart::tmM_Timer);
 
     m_stage = createStage(m_picMain);
-    m_picMain->layout()->addWidget(m_stage->widget());
+    if (QWidget *stageWidget = m_stage->widget()) m_picMain->layout()->addWidget(stageWidget);
     m_engine = std::make_unique<draw::DrawEngine>(*m_stage, m_session);
     connect(m_stage.get(), &Stage::FSCommand, this, &frmStart::mainFlash_FSCommand);
     connect(m_engine.get(), &draw::DrawEngine::batchRecorded, this, &frmStart::onBatchRecorded);
@@ -246,8 +246,10 @@ void frmStart::mainFlash_FSCommand(const QString &command, const QString &args) 
 
 void frmStart::sendStageSetup() {
     const AppState &state = appState();
-    m_stage->widget()->show();
-    m_stage->widget()->setFocus();
+    if (QWidget *stageWidget = m_stage->widget()) {
+        stageWidget->show();
+        stageWidget->setFocus();
+    }
     QSqlDatabase db = store::mainConn();
     if (state.luckType > 0)
         send(proto::loadAllUserPics,
