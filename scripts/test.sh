@@ -8,7 +8,7 @@ bash scripts/install-deps.sh
 build=${QUELLIO_BUILD_DIR:-build}
 cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DQUELLIO_WERROR=ON \
   ${QUELLIO_CMAKE_ARGS:-} >/dev/null
+cmake --build "$build" --target format-check >/dev/null
 cmake --build "$build" --parallel "$(nproc)"
-cmake --build "$build" --target format-check
 export QT_QPA_PLATFORM=offscreen
 (cd "$build" && ctest --output-on-failure --parallel "$(nproc)" "$@")

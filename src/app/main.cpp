@@ -1,11 +1,11 @@
 #include <QApplication>
-#include <QPointer>
 
 #include "chrome/style.h"
 #include "core/frmMain.h"
 #include "core/startup.h"
 #include "core/widgethelpers.h"
 #include "draw/frmStart.h"
+#include "sound/mediabackend.h"
 
 namespace {
 
@@ -26,6 +26,7 @@ void openDrawScreen(frmMain *console) {
 }  // namespace
 
 int main(int argc, char *argv[]) {
+    chooseMediaBackend();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quellio"));
     QApplication::setOrganizationName(QStringLiteral("quellio"));

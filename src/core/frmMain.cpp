@@ -24,6 +24,7 @@
 #include "core/ui.h"
 #include "core/widgethelpers.h"
 #include "draw/progress.h"
+#include "results/exportwinners.h"
 #include "sound/frmKeyBoard.h"
 #include "stage/stage.h"
 
@@ -93,6 +94,7 @@ frmMain::frmMain(QWidget *parent) : FramelessWindow(QSize(kWidth, kHeight), pare
     tmMove.setInterval(12);
     connect(&tmMove, &QTimer::timeout, this, &frmMain::moveStep);
     tjJX();
+    connect(imgReluck, &LinkLabel::clicked, this, &frmMain::resetDraw);
     connect(&events(), &Events::awardsChanged, this, &frmMain::tjJX);
     connect(&events(), &Events::resultsChanged, this, &frmMain::getLuckPos);
     createPreviewStage();
@@ -412,10 +414,29 @@ void frmMain::comingSoon(const QString &screen) {
 }
 
 void frmMain::tjJX() {
+    const draw::AwardFigures figures = draw::awardFigures(store::mainConn());
+    labJxNum[0]->setText(QString::number(figures.awardCount));
+    labJxNum[1]->setText(QString::number(figures.slotSum));
+    labJxNum[2]->setText(QString::number(figures.batchSum));
+    luckTotal = figures.slotSum;
     getLuckPos();
 }
 
-void frmMain::getLuckPos() {}
+void frmMain::getLuckPos() {
+    // With no award the panel's copy keeps what it showed.
+    if (draw::awardFigures(store::mainConn()).awardCount == 0) {
+        labJD->setText(QStringLiteral("0%"));
+        return;
+    }
+    labJD->setText(draw::luckProgress(store::mainConn(), luckTotal));
+    labJD2->setText(labJD->text());
+}
+
+void frmMain::resetDraw() {
+    const auto snapshot = [](const QString &path) { return !exportWinners(path, false).isEmpty(); };
+    if (draw::oneKeyReset(store::mainConn(), labJD->text(), snapshot))
+        Q_EMIT events().resultsChanged();
+}
 
 void frmMain::AddUserRefrash() {
     comingSoon(QStringLiteral("名单管理"));

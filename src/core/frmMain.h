@@ -84,6 +84,7 @@ private:
     void openTool(int index);
     void openRosterAction(int index);
     void comingSoon(const QString &screen);
+    void resetDraw();
 
     // The interface page (frmMain_template.cpp).
     void createPreviewStage();

@@ -1,5 +1,6 @@
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
@@ -30,6 +31,8 @@ private Q_SLOTS:
     void savingThePage();
     void templateWithoutPageRowIsReported();
     void panelSlidesBetweenItsTwoPlaces();
+    void oneKeyReset_data();
+    void oneKeyReset();
     void login_data();
     void login();
     void passwordDialogKeepsTheOldPasswordOnEmptyFields();
@@ -171,6 +174,48 @@ void TestConsole::panelSlidesBetweenItsTwoPlaces() {
         console.moveStep();
     QCOMPARE(console.picSetBox->y(), frmMain::kPanelHidden);
     QVERIFY(!console.panelClosing);
+}
+
+void TestConsole::oneKeyReset_data() {
+    QTest::addColumn<int>("winners");
+    QTest::addColumn<QString>("progress");
+    QTest::addColumn<bool>("asks");
+    QTest::newRow("nothing drawn: silent") << 0 << "0%" << false;
+    QTest::newRow("one of a hundred: asks") << 1 << "1%" << true;
+}
+
+void TestConsole::oneKeyReset() {
+    QFETCH(int, winners);
+    QFETCH(QString, progress);
+    QFETCH(bool, asks);
+    const int award = m_folder->addAward(QStringLiteral("一等奖"), 100, 1);
+    const QList<int> ids = m_folder->addUsers({"甲|研发部", "乙|市场部"});
+    for (int i = 0; i < winners; ++i)
+        store::exec(
+            m_folder->db(),
+            QStringLiteral("UPDATE UserList SET JxID=?, UserStatus=3, UpdateTime=? WHERE ID=?"),
+            {store::awardMarker(award), store::nowText(), ids.at(i)});
+    frmMain console;
+    QCOMPARE(console.labJxNum[1]->text(), QStringLiteral("100"));
+    QCOMPARE(console.labJD->text(), progress);
+    m_ui->answers.enqueue(true);
+    Q_EMIT console.imgReluck->clicked();
+    QCOMPARE(store::scalar(m_folder->db(),
+                           QStringLiteral("SELECT COUNT(*) FROM UserList WHERE UserStatus<>0"))
+                 .toInt(),
+             0);
+    QCOMPARE(console.labJD->text(), QStringLiteral("0%"));
+    const QStringList snapshots = QDir(m_folder->path(QStringLiteral("History")))
+                                      .entryList({QStringLiteral("*.tmp")}, QDir::Files);
+    if (!asks) {
+        QVERIFY(m_ui->records.isEmpty());
+        QVERIFY(snapshots.isEmpty());
+        return;
+    }
+    QCOMPARE(m_ui->texts(),
+             (QStringList{QStringLiteral("重要提示∶\n确认要清空所有中奖记录,复原至初始状态么?"),
+                          QStringLiteral("已恢复至初始抽奖状态!")}));
+    QCOMPARE(snapshots.size(), 1);
 }
 
 void TestConsole::login_data() {
