@@ -6,6 +6,7 @@
 
 #include "core/appstate.h"
 #include "core/store.h"
+#include "design/payloads.h"
 #include "draw/frmStart.h"
 #include "results/printwinners.h"
 #include "sound/clsMusic.h"
@@ -484,6 +485,15 @@ void TestDrawScreen::musicFollowsTheDraw() {
     QCOMPARE(s.stage->lines(), QStringList{QStringLiteral("vbCallMusic=no")});
     s.click(proto::btn::btnSoundOff);
     QCOMPARE(s.form->volume(), 0);
+
+    // Minimised, the music pauses and its supervision stops; restored, both go on.
+    s.form->show();
+    s.form->setWindowState(Qt::WindowMinimized);
+    QCOMPARE(player->current, MediaBackend::State::Paused);
+    QVERIFY(!s.form->tmM().isActive());
+    s.form->setWindowState(Qt::WindowNoState);
+    QCOMPARE(player->current, MediaBackend::State::Playing);
+    QVERIFY(s.form->tmM().isActive());
 }
 
 void TestDrawScreen::buttonsByState() {
@@ -518,6 +528,13 @@ void TestDrawScreen::buttonsByState() {
     s.stage->clear();
     s.click(proto::btn::btnScreenN);
     QVERIFY(!s.form->isFullScreenMode());
+    QCOMPARE(s.form->size(), QSize(appState().bgW, appState().bgH));
+    QCOMPARE(s.stage->values(proto::vbSetScale).last(),
+             design::stageScalePayload(appState().bgW, appState().bgH, false, appState().bgW,
+                                       appState().bgH));
+    s.click(proto::btn::btnScreenF);
+    QVERIFY(s.form->isFullScreenMode());
+    QVERIFY(s.form->windowState() & Qt::WindowFullScreen);
     s.stage->reply(proto::cmd::msg, QStringLiteral("trace"));
     QCOMPARE(s.form->Text1()->toPlainText(), QStringLiteral("trace\n"));
     setPrinterFactory(nullptr);
