@@ -25,6 +25,8 @@ constexpr int kRight = 39;
 }  // namespace
 
 QString keyClass(int code, const QList<int> &codes, int drawState) {
+    // Rows without a key hold 0 or -1; no key the stage reports may match them.
+    if (code <= 0) return QString();
     const auto codeOf = [&codes](int row) { return row < codes.size() ? codes[row] : 0; };
     QString found;
     if (code == codeOf(0))

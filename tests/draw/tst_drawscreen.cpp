@@ -332,6 +332,8 @@ void TestDrawScreen::keyClasses_data() {
     QTest::newRow("clear") << apart << 67 << 1 << "clearKey";
     QTest::newRow("screen") << apart << 70 << 0 << "screenKey";
     QTest::newRow("unknown") << apart << 81 << 0 << "";
+    QTest::newRow("a key the stage cannot name")
+        << QList<int>{32, 32, -1, -1, 79, 80, 76, 77, 70} << -1 << 2 << "";
     QTest::newRow("the first of the seven wins")
         << QList<int>{13, 32, 67, 67, 79, 80, 76, 77, 70} << 67 << 2 << "clearKey";
     QTest::newRow("a later row replaces start")
