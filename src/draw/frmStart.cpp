@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFrame>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -105,12 +106,15 @@ void frmStart::buildControls() {
     auto *layout = new QVBoxLayout(m_picMain);
     layout->setContentsMargins(0, 0, 0, 0);
 
-    // The too-fast hint: a small panel in the middle that only a refused Stop shows.
-    m_picInfo = new QWidget(this);
+    // The too-fast hint: a small panel in the middle that only a refused Stop shows. The stage
+    // renders in a native window no sibling widget can cover, so the panel is a window of its
+    // own that floats above it without taking the keyboard from the stage.
+    m_picInfo = new QFrame(this, Qt::ToolTip | Qt::FramelessWindowHint);
     m_picInfo->setObjectName(QStringLiteral("picInfo"));
-    m_picInfo->setStyleSheet(QStringLiteral(
-        "#picInfo { background: rgba(20, 20, 20, 220); border: 2px solid #E8B150; "
-        "border-radius: 10px; } QLabel { color: #FFE08A; font-size: 28px; padding: 14px 30px; }"));
+    m_picInfo->setAttribute(Qt::WA_ShowWithoutActivating);
+    m_picInfo->setStyleSheet(
+        QStringLiteral("#picInfo { background: #2A0A0C; border: 2px solid #E8B150; } "
+                       "QLabel { color: #FFE08A; font-size: 36px; padding: 18px 40px; }"));
     auto *infoLayout = new QVBoxLayout(m_picInfo);
     infoLayout->setContentsMargins(0, 0, 0, 0);
     m_labP = new QLabel(m_picInfo);
@@ -178,12 +182,17 @@ void frmStart::setFullScreenMode(bool fullScreen) {
 void frmStart::layoutStage() {
     if (isMinimized() || m_isScreenChanging) return;
     m_picMain->setGeometry(rect());
-    m_picInfo->adjustSize();
-    m_picInfo->move((width() - m_picInfo->width()) / 2, (height() - m_picInfo->height()) / 2);
+    placeInfo();
     const AppState &state = appState();
     if (m_stageShown && state.bgW > 0 && state.bgH > 0)
         send(proto::vbSetScale, design::stageScalePayload(m_picMain->width(), m_picMain->height(),
                                                           m_isFullScreen, state.bgW, state.bgH));
+}
+
+void frmStart::placeInfo() {
+    m_picInfo->adjustSize();
+    const QPoint centre = mapToGlobal(rect().center());
+    m_picInfo->move(centre - QPoint(m_picInfo->width() / 2, m_picInfo->height() / 2));
 }
 
 void frmStart::resizeEvent(QResizeEvent *event) {
@@ -208,6 +217,7 @@ void frmStart::closeEvent(QCloseEvent *event) {
     m_tmAS.stop();
     m_tmDelay.stop();
     m_tmM.stop();
+    m_picInfo->hide();
     if (m_music) m_music->StopPlaying();
     m_session.drawState = draw::Idle;
     event->accept();
@@ -224,7 +234,13 @@ void frmStart::mainFlash_FSCommand(const QString &command, const QString &args) 
     } else if (command == proto::cmd::loaduserok) {
         if (args == proto::ok) onStageReady();
     } else if (command == proto::cmd::blocksetok) {
-        if (args == proto::ok) m_tmAS.start();
+        if (args != proto::ok) return;
+        m_tmAS.start();
+        // A first sample as soon as the stage rolls (changBtn "start" follows this reply), so
+        // the roll begins on real names rather than on the sizing text.
+        QTimer::singleShot(0, this, [this] {
+            if (m_tmAS.isActive()) tmAS_Timer();
+        });
     } else if (command == proto::cmd::callLoadPlay) {
         playNextAward();
     } else if (command == proto::cmd::luckplaystop) {
@@ -345,8 +361,7 @@ void frmStart::cmdStart() {
 
 void frmStart::cmdStop() {
     if (appState().isTimeProtect == 1 && m_tmDelay.isActive()) {
-        m_picInfo->adjustSize();
-        m_picInfo->move((width() - m_picInfo->width()) / 2, (height() - m_picInfo->height()) / 2);
+        placeInfo();
         m_picInfo->show();
         m_picInfo->raise();
         return;

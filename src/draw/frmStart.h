@@ -115,6 +115,7 @@ private:
     void onStageReady();
     void sendStageSetup();
     void layoutStage();
+    void placeInfo();
     void placeOnConsoleScreen();
     void send(const QString &name, const QString &value);
 

@@ -142,8 +142,10 @@ void TestDrawScreen::wholeDrawStoresTheWinnersOnLanding() {
     s.stage->reply(proto::cmd::blocksetok, proto::ok);
     QVERIFY(s.form->tmAS().isActive());
     QCOMPARE(s.form->tmAS().interval(), 200);
+    QTRY_COMPARE(s.stage->values(proto::vbPushLst).size(), 1);
     s.form->tmAS_Timer();
-    QCOMPARE(s.stage->values(proto::vbPushLst).size(), 1);
+    QCOMPARE(s.stage->values(proto::vbPushLst).size(), 2);
+    QCOMPARE(s.stage->values(proto::vbPushLst).last().count('$'), 2);
 
     // Nothing is stored before the landing.
     appState().isTimeProtect = 0;

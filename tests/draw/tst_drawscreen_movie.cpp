@@ -1,5 +1,6 @@
 #include <QDir>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QQuickWindow>
 #include <QtTest>
 
@@ -69,10 +70,16 @@ struct LiveScreen {
         key(Qt::Key_Space);
         return waitState(draw::Result);
     }
+    // The stage as the hall sees it, with the stop guard's panel when it is up.
     void save(const QString &name) {
         const QString dir = qEnvironmentVariable("QUELLIO_SCREENSHOT_DIR");
         QTest::qWait(80);
-        const QImage image = stage()->grab();
+        QImage image = stage()->grab();
+        if (form->picInfo()->isVisible()) {
+            QPainter painter(&image);
+            const QPixmap panel = form->picInfo()->grab();
+            painter.drawPixmap(form->mapFromGlobal(form->picInfo()->pos()), panel);
+        }
         QVERIFY(!image.isNull());
         if (dir.isEmpty()) return;
         QDir().mkpath(dir);
@@ -117,6 +124,7 @@ void TestDrawScreenMovie::wholeDrawsOnTheRealMovie() {
     s.key(Qt::Key_Space);
     QVERIFY(s.form->picInfo()->isVisible());
     QCOMPARE(s.state(), int(draw::Running));
+    s.save(QStringLiteral("drawscreen-stopguard.png"));
     // Esc while the names roll: no question.
     s.key(Qt::Key_Escape);
     QVERIFY(s.ui->records.isEmpty());
