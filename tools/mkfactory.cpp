@@ -133,6 +133,18 @@ bool copyConfig(const QString &data, const QString &out) {
                target, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
 }
 
+// The sample workbooks that "打开excel模板" opens.
+bool copyDemoWorkbooks(const QString &data, const QString &out) {
+    bool ok = true;
+    for (const char *name : {"demo.xlsx", "demo.xls"}) {
+        QFile::remove(out + QLatin1Char('/') + QLatin1String(name));
+        ok = QFile::copy(data + QLatin1Char('/') + QLatin1String(name),
+                         out + QLatin1Char('/') + QLatin1String(name)) &&
+             ok;
+    }
+    return ok;
+}
+
 // About 200 distinct Chinese names with departments, and three awards, for trying things out.
 bool fillDemoRows(QSqlDatabase db) {
     const QStringList surnames = QStringLiteral(
@@ -213,6 +225,8 @@ int main(int argc, char *argv[]) {
     if (!copyMovies(movies, out)) return fail(QStringLiteral("cannot copy the movies"));
     if (!sound::writeBuiltInSounds(out + QLatin1Char('/')))
         return fail(QStringLiteral("cannot write the built-in sounds"));
+    if (!copyDemoWorkbooks(data, out))
+        return fail(QStringLiteral("cannot copy the demo workbooks"));
     if (parser.isSet(QStringLiteral("demo")) && !fillDemo(out, &error)) return fail(error);
     return 0;
 }

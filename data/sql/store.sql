@@ -16,6 +16,8 @@ CREATE INDEX IF NOT EXISTS UserList_UpdateTime ON UserList(UpdateTime);
 CREATE INDEX IF NOT EXISTS UserList_DiffNum ON UserList(DiffNum);
 -- Lets the win counters read only the participants who hold some text in JxID.
 CREATE INDEX IF NOT EXISTS UserList_JxID ON UserList(JxID);
+-- Version 3: the roster manager pages by remark through this index.
+CREATE INDEX IF NOT EXISTS UserList_Part ON UserList(UserPart);
 CREATE TABLE IF NOT EXISTS JPList (
   ID INTEGER PRIMARY KEY,
   JXName TEXT NOT NULL DEFAULT '',

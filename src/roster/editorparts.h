@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QString>
+
+class QToolBar;
+class PictureBox;
+class QWidget;
+
+// Pieces shared by the participant editors of the roster manager and the add dialog.
+namespace editorparts {
+
+// A box for the distinction number: digits only.
+void makeDigitsOnly(QLineEdit *edit);
+
+// The picture toolbar: "拍照" (camera), "选择照片" (file), "清除照片". photoState is the hidden
+// picture state ("no", "yes", "camre" or a chosen file), kept up to date by the toolbar.
+QToolBar *makePhotoToolbar(QWidget *owner, PictureBox *viewer, QLineEdit *photoState,
+                           const QString &caller, const QString &fileFilter);
+
+}  // namespace editorparts

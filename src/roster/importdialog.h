@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "roster/rosterimport.h"
+
+class QProgressBar;
+
+// What the four bulk imports share: the job on the event loop, the progress bar, and the close
+// question while the job runs (Yes cancels it, and the roster stays as it was before).
+class ImportDialog : public QDialog {
+    Q_OBJECT
+public:
+    ImportDialog(const QString &closeQuestion, QWidget *parent);
+    ~ImportDialog() override;
+
+    RosterImport *job() const { return m_job.get(); }
+    bool isImporting() const { return m_job && m_job->isRunning(); }
+    // Waits on the event loop until the running job ends (tests, screenshots).
+    void waitForJob();
+
+    QProgressBar *pBar = nullptr;
+
+protected:
+    // Starts the job; a job that cannot start shows its message and returns false.
+    bool runJob(std::unique_ptr<RosterImport> job);
+    virtual void jobFinished(RosterImport::Outcome outcome) = 0;
+    void closeEvent(QCloseEvent *event) override;
+    void reject() override;
+    // The message of a failed job, in a box titled "错误".
+    void showFailure(const QString &text);
+
+private:
+    std::unique_ptr<RosterImport> m_job;
+    QString m_closeQuestion;
+};

@@ -1,0 +1,48 @@
+#include "roster/numbergen.h"
+
+namespace numbergen {
+
+QString padNumber(int number, const QString &padText, const QString &endText) {
+    const QString digits = QString::number(number);
+    const qsizetype width = endText.size();
+    if (padText.isEmpty() || digits.size() > width) return digits;
+    return padText.repeated(width - digits.size()) + digits;
+}
+
+QString makeCode(const Options &options, int number) {
+    const QString middle = options.pad
+                               ? padNumber(number, options.padText.trimmed(), options.endText)
+                               : QString::number(number);
+    return options.prefix.trimmed() + middle + options.suffix.trimmed();
+}
+
+bool range(const Options &options, int *start, int *end) {
+    *start = options.startText.trimmed().toInt();
+    *end = options.endText.trimmed().toInt();
+    return *end > *start;
+}
+
+QString previewText(const Options &options) {
+    int start = 0;
+    int end = 0;
+    if (!range(options, &start, &end)) return QString();
+    const QString prefix = options.prefix.trimmed();
+    const QString suffix = options.suffix.trimmed();
+    return prefix + padNumber(start, options.padText.trimmed(), options.endText) + suffix +
+           QStringLiteral(" - ") + prefix + options.endText + suffix;
+}
+
+QStringList maskParts(const QString &mask) {
+    QString text = mask.trimmed();
+    if (text.isEmpty()) return {};
+    text.replace(QStringLiteral("，"), QStringLiteral(","));
+    return text.split(QLatin1Char(','));
+}
+
+bool isExcluded(const QString &code, const QStringList &maskParts) {
+    for (const QString &part : maskParts)
+        if (code.contains(part)) return true;
+    return false;
+}
+
+}  // namespace numbergen

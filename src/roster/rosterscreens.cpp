@@ -1,0 +1,80 @@
+#include "roster/rosterscreens.h"
+
+#include "awards/camerahook.h"
+#include "core/appstate.h"
+#include "core/events.h"
+#include "core/ui.h"
+#include "roster/frmAdminUser.h"
+#include "roster/frmCamre.h"
+#include "roster/frmExcelToUser.h"
+#include "roster/frmNumTools.h"
+#include "roster/frmPhotoToUser.h"
+#include "roster/frmTxtToUser.h"
+
+namespace rosterscreens {
+
+void openManager(QWidget *parent) {
+    frmAdminUser::showManager(parent);
+}
+
+bool importExcel(QWidget *parent, bool fromConsole) {
+    const QString file = ui().openFile(QStringLiteral("导入Excel文件"), QString(),
+                                       QStringLiteral("Excel文件 (*.xls *.xlsx)"));
+    if (file.trimmed().isEmpty()) return false;
+    appState().excelFile = file;
+    appState().importFromConsole = fromConsole;
+    frmExcelToUser form(parent);
+    form.exec();
+    return true;
+}
+
+bool importTxt(QWidget *parent, bool fromConsole) {
+    const QString file =
+        ui().openFile(QStringLiteral("导入Txt文件"), QString(), QStringLiteral("文本文件 (*.txt)"));
+    if (file.trimmed().isEmpty()) return false;
+    appState().txtFile = file;
+    appState().importFromConsole = fromConsole;
+    frmTxtToUser form(parent);
+    form.exec();
+    return true;
+}
+
+void importPhotos(QWidget *parent, bool fromConsole) {
+    appState().importFromConsole = fromConsole;
+    frmPhotoToUser form(parent);
+    form.exec();
+}
+
+void generateNumbers(QWidget *parent, bool fromConsole) {
+    appState().importFromConsole = fromConsole;
+    frmNumTools form(parent);
+    form.exec();
+}
+
+void installCamera() {
+    awardcamera::setShot(&frmCamre::takePhoto);
+}
+
+void openRosterAction(int index, QWidget *parent) {
+    switch (index) {
+        case 0:
+            openManager(parent);
+            break;
+        case 1:
+            importExcel(parent, true);
+            break;
+        case 2:
+            importTxt(parent, true);
+            break;
+        case 3:
+            importPhotos(parent, true);
+            break;
+        case 4:
+            generateNumbers(parent, true);
+            break;
+        default:
+            break;
+    }
+}
+
+}  // namespace rosterscreens

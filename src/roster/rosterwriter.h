@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QSet>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+#include "core/store.h"
+
+// Writes many participants in one transaction: an import, the number generator or a replace of
+// the roster either lands whole or not at all. Queries are prepared once, and the next ID is
+// counted in memory, since nothing else writes the roster while the transaction is open.
+class RosterWriter {
+public:
+    explicit RosterWriter(QSqlDatabase db = store::mainConn());
+    ~RosterWriter();  // rolls back what was not committed
+    RosterWriter(const RosterWriter &) = delete;
+    RosterWriter &operator=(const RosterWriter &) = delete;
+
+    // Opens the transaction; with replace every participant is deleted first.
+    bool begin(bool replace, QString *error);
+    // Deletes every participant inside the open transaction (once).
+    bool clearRoster(QString *error);
+    bool isDuplicate(const QString &name, const QString &part);
+    // Room for the rows about to be written, so a big import does not keep regrowing its set.
+    void reserve(qint64 rows) {
+        m_written.reserve(static_cast<qsizetype>(qMin<qint64>(rows, 1 << 24)));
+    }
+    // Inserts one participant and returns its ID, or 0 on failure. Rows are sent in batches, so
+    // a fault may show at a later row or at the commit; the whole transaction fails either way.
+    int insert(const QString &name, const QString &part, const QString &photo = QString(),
+               int diffNum = 0, QString *error = nullptr);
+    // The ID the next insert gets.
+    int nextId() const { return m_nextId; }
+    bool commit(QString *error);
+    void rollback();
+
+    bool isOpen() const { return m_open; }
+    bool cleared() const { return m_cleared; }
+
+private:
+    static constexpr int kBatchRows = 64;
+    bool flush(QString *error);
+    bool dropIndexes(QString *error);
+    bool restoreIndexes(QString *error);
+
+    QSqlDatabase m_db;
+    QStringList m_droppedIndexes;
+    QVariantList m_pending;
+    QSqlQuery m_duplicate;
+    QSqlQuery m_insert;
+    int m_nextId = 1;
+    bool m_open = false;
+    bool m_cleared = false;
+    // Rows written by this writer are looked up in memory; the store is asked only about rows
+    // that were there before (none after a replace).
+    bool m_startedEmpty = false;
+    QSet<QString> m_written;
+};

@@ -1,0 +1,112 @@
+#include "roster/textimport.h"
+
+#include <QStringDecoder>
+
+#include <cmath>
+#include <limits>
+
+namespace textimport {
+
+namespace {
+
+bool decodeWith(QStringConverter::Encoding encoding, QByteArrayView bytes, QString *text) {
+    QStringDecoder decoder(encoding, QStringConverter::Flag::Stateless);
+    *text = decoder(bytes);
+    return !decoder.hasError();
+}
+
+bool looksLikeText(const QString &text) {
+    for (const QChar c : text) {
+        const char16_t u = c.unicode();
+        if (u < 0x20 && u != u'\t' && u != u'\r' && u != u'\n' && u != u'\f') return false;
+        if (u == 0xFFFD) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+bool decodeText(const QByteArray &bytes, QString *text, QString *error) {
+    const QString notText =
+        QStringLiteral("文件不是可以导入的文本文件，请选择文本格式(*.txt)的名单文件。");
+    bool ok = false;
+    if (bytes.startsWith("\xEF\xBB\xBF")) {
+        ok = decodeWith(QStringConverter::Utf8, QByteArrayView(bytes).sliced(3), text);
+    } else if (bytes.startsWith("\xFF\xFE")) {
+        ok = decodeWith(QStringConverter::Utf16LE, QByteArrayView(bytes).sliced(2), text);
+    } else if (bytes.startsWith("\xFE\xFF")) {
+        ok = decodeWith(QStringConverter::Utf16BE, QByteArrayView(bytes).sliced(2), text);
+    } else {
+        ok = decodeWith(QStringConverter::Utf8, bytes, text);
+        if (!ok) {
+            // Neither a mark nor valid UTF-8: Chinese Windows text (GB2312 is a subset).
+            QStringDecoder decoder("GB18030", QStringConverter::Flag::Stateless);
+            *text = decoder(bytes);
+            ok = decoder.isValid() && !decoder.hasError();
+        }
+    }
+    if (!ok || !looksLikeText(*text)) {
+        text->clear();
+        *error = notText;
+        return false;
+    }
+    return true;
+}
+
+QStringList splitLines(const QString &text) {
+    QStringList lines;
+    qsizetype start = 0;
+    const qsizetype size = text.size();
+    for (qsizetype i = 0; i < size; ++i) {
+        const QChar c = text.at(i);
+        if (c != QLatin1Char('\r') && c != QLatin1Char('\n')) continue;
+        lines.append(text.mid(start, i - start));
+        if (c == QLatin1Char('\r') && i + 1 < size && text.at(i + 1) == QLatin1Char('\n')) ++i;
+        start = i + 1;
+    }
+    lines.append(text.mid(start));
+    return lines;
+}
+
+int diffNumber(const QString &text) {
+    bool ok = false;
+    const double value = text.trimmed().toDouble(&ok);
+    if (!ok || !std::isfinite(value)) return 0;
+    if (value > std::numeric_limits<int>::max() || value < std::numeric_limits<int>::min())
+        return 0;
+    return static_cast<int>(std::lround(value));
+}
+
+TxtRow TxtLineParser::parse(const QString &line) {
+    const QStringList fields = m_separator.isEmpty() ? QStringList{line} : line.split(m_separator);
+    TxtRow row = m_last;
+    row.name = fields.at(0).trimmed();
+    switch (fields.size()) {
+        case 1:
+            row.part.clear();
+            break;
+        case 2:
+            row.part = fields.at(1).trimmed();
+            row.photo.clear();
+            row.diffNum = 0;
+            break;
+        case 3:
+            row.part = fields.at(1).trimmed();
+            row.photo = fields.at(2).trimmed();
+            row.diffNum = 0;
+            break;
+        case 4:
+            row.part = fields.at(1).trimmed();
+            row.photo = fields.at(2).trimmed();
+            row.diffNum = diffNumber(fields.at(3));
+            break;
+        default:
+            break;
+    }
+    // An empty separator splits nothing: the whole line is the name and the rest carries over.
+    if (m_separator.isEmpty()) row.part = m_last.part;
+    m_last = row;
+    return row;
+}
+
+}  // namespace textimport

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+// Reading a roster text file: one participant a line, fields split by the operator's separator.
+namespace textimport {
+
+// The whole file as text. A UTF-8 or UTF-16 byte-order mark decides the encoding; otherwise valid
+// UTF-8 is UTF-8 and anything else GB18030. No byte is skipped. False (with a message) for data
+// that is not text in any of these, such as a picture or a program.
+bool decodeText(const QByteArray &bytes, QString *text, QString *error);
+// Lines end at CR LF, LF or CR.
+QStringList splitLines(const QString &text);
+
+struct TxtRow {
+    QString name;
+    QString part;
+    QString photo;
+    int diffNum = 0;
+};
+
+// Turns lines into rows. Remark, photo and distinction number of a line that has no separator
+// (or more than three) are carried over from the line before, as operators' files rely on it.
+class TxtLineParser {
+public:
+    explicit TxtLineParser(const QString &separator) : m_separator(separator) {}
+    // The row for one line; its name is empty for a line to pass over.
+    TxtRow parse(const QString &line);
+
+private:
+    QString m_separator;
+    TxtRow m_last;
+};
+
+// A distinction number typed as text: a number becomes a 32-bit integer, anything else 0.
+int diffNumber(const QString &text);
+
+}  // namespace textimport

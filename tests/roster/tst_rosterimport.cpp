@@ -1,0 +1,514 @@
+#include <QFile>
+#include <QImage>
+#include <QSqlQuery>
+#include <QSqlRecord>
+#include <QTimer>
+#include <QtTest>
+
+#include "core/appstate.h"
+#include "roster/numbergen.h"
+#include "roster/photoimport.h"
+#include "roster/rosterimport.h"
+#include "roster/textimport.h"
+#include "roster/workbook.h"
+#include "support/tempprogramfolder.h"
+
+namespace {
+
+QString fixture(const QString &name) {
+    return QStringLiteral(QUELLIO_SOURCE_DIR "/tests/roster/fixtures/") + name;
+}
+
+// Every column of every participant: what "byte for byte the same roster" is compared by.
+QStringList dumpRoster(QSqlDatabase db) {
+    QSqlQuery query(QStringLiteral("SELECT * FROM UserList ORDER BY ID"), db);
+    QStringList rows;
+    while (query.next()) {
+        QStringList cells;
+        for (int i = 0; i < query.record().count(); ++i)
+            cells << (query.value(i).isNull() ? QStringLiteral("<null>")
+                                              : query.value(i).toString());
+        rows << cells.join(QLatin1Char('|'));
+    }
+    return rows;
+}
+
+// The roster's indexes: a replace drops them for speed and must always bring them back.
+QStringList indexes(QSqlDatabase db) {
+    QSqlQuery query(QStringLiteral("SELECT sql FROM sqlite_master WHERE type='index' AND "
+                                   "tbl_name='UserList' AND sql IS NOT NULL ORDER BY name"),
+                    db);
+    QStringList rows;
+    while (query.next())
+        rows << query.value(0).toString();
+    return rows;
+}
+
+QStringList names(QSqlDatabase db) {
+    QSqlQuery query(QStringLiteral("SELECT UserName || '/' || UserPart FROM UserList ORDER BY ID"),
+                    db);
+    QStringList rows;
+    while (query.next())
+        rows << query.value(0).toString();
+    return rows;
+}
+
+void writeImage(const QString &path, int w, int h) {
+    QImage image(w, h, QImage::Format_RGB32);
+    image.fill(Qt::darkCyan);
+    QVERIFY(image.save(path));
+}
+
+}  // namespace
+
+class TestRosterImport : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void decodesEveryEncoding_data();
+    void decodesEveryEncoding();
+    void lineFields_data();
+    void lineFields();
+    void codes_data();
+    void codes();
+    void masks_data();
+    void masks();
+    void photoNames_data();
+    void photoNames();
+    void shrinkRule_data();
+    void shrinkRule();
+    void settlesPictures();
+    void excelImportMergesAndRefusesDuplicates();
+    void excelReplaceKeepsPrizePhotos();
+    void textImportFromFile();
+    void photoImportStagesPictures();
+    void numberGeneratorReplacesRoster();
+    void cancelLeavesRosterAsItWas_data();
+    void cancelLeavesRosterAsItWas();
+    void failureHalfWayLeavesRosterAsItWas();
+};
+
+void TestRosterImport::decodesEveryEncoding_data() {
+    QTest::addColumn<QString>("file");
+    QTest::newRow("UTF-8 LF") << "utf8-lf.txt";
+    QTest::newRow("UTF-8 BOM CR LF") << "utf8-bom-crlf.txt";
+    QTest::newRow("UTF-16 LE CR LF") << "utf16le-crlf.txt";
+    QTest::newRow("GB18030 CR LF") << "gb18030-crlf.txt";
+    QTest::newRow("GB18030 CR") << "cr-only.txt";
+}
+
+void TestRosterImport::decodesEveryEncoding() {
+    QFETCH(QString, file);
+    QStringList lines;
+    QString error;
+    QVERIFY2(TxtImport::readLines(fixture(file), &lines, &error), qPrintable(error));
+    QCOMPARE(lines.at(0), QStringLiteral("张三,研发部,Photos/U1.jpg,7"));  // nothing skipped
+    QCOMPARE(lines.at(1), QStringLiteral("李四,市场部"));
+    QCOMPARE(lines.at(3), QStringLiteral("O'Brien,外联部,,x"));
+    QCOMPARE(lines.at(4), QString());
+    QVERIFY(!TxtImport::readLines(fixture(QStringLiteral("binary.txt")), &lines, &error));
+    QVERIFY(error.contains(QStringLiteral("文本")));
+}
+
+void TestRosterImport::lineFields_data() {
+    QTest::addColumn<QString>("separator");
+    QTest::addColumn<QStringList>("lines");
+    QTest::addColumn<QStringList>("rows");  // name/part/photo/diff of the last line
+    QTest::newRow("four fields") << "," << QStringList{"张三,研发部,p/1.jpg,7"}
+                                 << QStringList{"张三", "研发部", "p/1.jpg", "7"};
+    QTest::newRow("two fields reset photo and number")
+        << "," << QStringList{"a,b,p.jpg,5", "张三 , 研发部 "}
+        << QStringList{"张三", "研发部", "", "0"};
+    QTest::newRow("no separator keeps photo and number, not remark")
+        << "," << QStringList{"a,b,p.jpg,5", "王五"} << QStringList{"王五", "", "p.jpg", "5"};
+    QTest::newRow("more than four keeps all but the name")
+        << "," << QStringList{"a,b,p.jpg,5", "x,y,z,1,2"} << QStringList{"x", "b", "p.jpg", "5"};
+    QTest::newRow("empty separator takes the line whole")
+        << "" << QStringList{"a,b"} << QStringList{"a,b", "", "", "0"};
+    QTest::newRow("number not numeric")
+        << "," << QStringList{"a,b,c,x"} << QStringList{"a", "b", "c", "0"};
+    QTest::newRow("apostrophe kept")
+        << "|" << QStringList{"O'Brien|外联部"} << QStringList{"O'Brien", "外联部", "", "0"};
+}
+
+void TestRosterImport::lineFields() {
+    QFETCH(QString, separator);
+    QFETCH(QStringList, lines);
+    QFETCH(QStringList, rows);
+    textimport::TxtLineParser parser(separator);
+    textimport::TxtRow row;
+    for (const QString &line : lines)
+        row = parser.parse(line);
+    QCOMPARE((QStringList{row.name, row.part, row.photo, QString::number(row.diffNum)}), rows);
+}
+
+void TestRosterImport::codes_data() {
+    QTest::addColumn<QString>("start");
+    QTest::addColumn<QString>("end");
+    QTest::addColumn<bool>("pad");
+    QTest::addColumn<QString>("padText");
+    QTest::addColumn<QString>("preview");
+    QTest::addColumn<QString>("first");
+    QTest::newRow("defaults") << "1"
+                              << "1000" << true << "0"
+                              << "ST0001E - ST1000E"
+                              << "ST0001E";
+    QTest::newRow("width of end") << "1"
+                                  << "100" << true << "0"
+                                  << "ST001E - ST100E"
+                                  << "ST001E";
+    QTest::newRow("no padding") << "1"
+                                << "100" << false << "0"
+                                << "ST001E - ST100E"
+                                << "ST1E";
+    QTest::newRow("empty pad") << "7"
+                               << "100" << true << ""
+                               << "ST7E - ST100E"
+                               << "ST7E";
+    QTest::newRow("end below start") << "99999"
+                                     << "1000" << true << "0"
+                                     << ""
+                                     << "";
+    QTest::newRow("equal") << "5"
+                           << "5" << true << "0"
+                           << ""
+                           << "";
+}
+
+void TestRosterImport::codes() {
+    QFETCH(QString, start);
+    QFETCH(QString, end);
+    QFETCH(bool, pad);
+    QFETCH(QString, padText);
+    QFETCH(QString, preview);
+    QFETCH(QString, first);
+    numbergen::Options options;
+    options.startText = start;
+    options.endText = end;
+    options.pad = pad;
+    options.padText = padText;
+    QCOMPARE(numbergen::previewText(options), preview);
+    int from = 0;
+    int to = 0;
+    if (numbergen::range(options, &from, &to))
+        QCOMPARE(numbergen::makeCode(options, from), first);
+    else
+        QVERIFY(first.isEmpty());
+}
+
+void TestRosterImport::masks_data() {
+    QTest::addColumn<QString>("mask");
+    QTest::addColumn<QString>("prefix");
+    QTest::addColumn<QStringList>("excluded");
+    QTest::addColumn<QStringList>("kept");
+    const QStringList unlucky{"ST0004E", "ST0013E", "ST0014E", "ST0040E"};
+    QTest::newRow("ascii comma") << "4,13"
+                                 << "ST" << unlucky << QStringList{"ST0001E", "ST0031E"};
+    QTest::newRow("full-width comma") << "4，13"
+                                      << "ST" << unlucky << QStringList{"ST0031E"};
+    QTest::newRow("empty mask") << ""
+                                << "ST" << QStringList{} << QStringList{"ST0004E"};
+    QTest::newRow("prefix hit") << "4"
+                                << "ST4" << QStringList{"ST40001E"} << QStringList{};
+    QTest::newRow("trailing comma") << "4,"
+                                    << "ST" << QStringList{"ST0001E"} << QStringList{};
+}
+
+void TestRosterImport::masks() {
+    QFETCH(QString, mask);
+    QFETCH(QString, prefix);
+    QFETCH(QStringList, excluded);
+    QFETCH(QStringList, kept);
+    const QStringList parts = numbergen::maskParts(mask);
+    for (const QString &code : excluded)
+        QVERIFY2(numbergen::isExcluded(code, parts), qPrintable(code));
+    for (const QString &code : kept)
+        QVERIFY2(!numbergen::isExcluded(code, parts), qPrintable(code));
+    Q_UNUSED(prefix);
+}
+
+void TestRosterImport::photoNames_data() {
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("part");
+    QTest::newRow("name only") << "张三.jpg"
+                               << "张三"
+                               << "";
+    QTest::newRow("ascii comma") << "张三,宣传部.jpg"
+                                 << "张三"
+                                 << "宣传部";
+    QTest::newRow("full-width comma") << "张三，宣传部.png"
+                                      << "张三"
+                                      << "宣传部";
+    QTest::newRow("ascii wins") << "张三，甲,宣传部.jpg"
+                                << "张三，甲"
+                                << "宣传部";
+    QTest::newRow("four characters cut") << "张三.jpeg"
+                                         << "张三."
+                                         << "";
+}
+
+void TestRosterImport::photoNames() {
+    QFETCH(QString, file);
+    QFETCH(QString, name);
+    QFETCH(QString, part);
+    const photoimport::PhotoName parsed = photoimport::parsePhotoName(file);
+    QCOMPARE(parsed.name, name);
+    QCOMPARE(parsed.part, part);
+}
+
+void TestRosterImport::shrinkRule_data() {
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("slider");
+    QTest::addColumn<QSize>("result");
+    QTest::newRow("fits exactly") << QSize(800, 800) << 8 << QSize();
+    QTest::newRow("one pixel wide") << QSize(801, 600) << 8 << QSize(800, 599);
+    QTest::newRow("portrait") << QSize(600, 1200) << 8 << QSize(400, 800);
+    QTest::newRow("small limit") << QSize(300, 200) << 1 << QSize(100, 67);
+}
+
+void TestRosterImport::shrinkRule() {
+    QFETCH(QSize, size);
+    QFETCH(int, slider);
+    QFETCH(QSize, result);
+    QCOMPARE(photoimport::shrunkSize(size, slider), result);
+}
+
+void TestRosterImport::settlesPictures() {
+    QTemporaryDir dir;
+    const QString square = dir.filePath(QStringLiteral("a.png"));
+    const QString wide = dir.filePath(QStringLiteral("b.bmp"));
+    const QString fits = dir.filePath(QStringLiteral("c.jpg"));
+    writeImage(square, 900, 900);
+    writeImage(wide, 801, 600);
+    writeImage(fits, 800, 800);
+    using photoimport::Settled;
+    QCOMPARE(photoimport::settlePicture(square, dir.filePath("A.png"), true, 8),
+             Settled::PngCopied);
+    QCOMPARE(QImage(dir.filePath("A.png")).size(), QSize(900, 900));
+    QCOMPARE(photoimport::settlePicture(wide, dir.filePath("B.bmp"), true, 8), Settled::Shrunk);
+    const QImage shrunk(dir.filePath("B.bmp"));
+    QCOMPARE(shrunk.size(), QSize(800, 599));
+    QFile written(dir.filePath("B.bmp"));
+    QVERIFY(written.open(QIODevice::ReadOnly));
+    QVERIFY(written.read(2) == QByteArray("\xFF\xD8"));  // JPEG whatever the name says
+    QCOMPARE(photoimport::settlePicture(fits, dir.filePath("C.jpg"), true, 8), Settled::Copied);
+    QFile original(fits);
+    QFile copy(dir.filePath("C.jpg"));
+    QVERIFY(original.open(QIODevice::ReadOnly) && copy.open(QIODevice::ReadOnly));
+    QCOMPARE(copy.readAll(), original.readAll());
+    QCOMPARE(photoimport::settlePicture(wide, dir.filePath("D.bmp"), false, 8), Settled::Copied);
+    QCOMPARE(photoimport::settlePicture(dir.filePath("none.jpg"), dir.filePath("E.jpg"), true, 8),
+             Settled::Failed);
+}
+
+void TestRosterImport::excelImportMergesAndRefusesDuplicates() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"周八|客服部"});
+    workbook::Workbook book;
+    QString error;
+    QVERIFY(book.open(fixture(QStringLiteral("libreoffice.xlsx")), &error));
+    workbook::Sheet sheet;
+    QVERIFY(book.readSheet(1, -1, &sheet, &error));
+    ExcelImport job(sheet.rows, {true, false}, QStringLiteral(" "), true, false);
+    QCOMPARE(job.runToEnd(), RosterImport::Outcome::Finished);
+    QCOMPARE(job.imported(), 1);
+    QCOMPARE(job.duplicates(), 2);
+    QCOMPARE(names(folder.db()), (QStringList{"周八/客服部", "陈七/行政部"}));
+    QVERIFY(job.log().contains(QStringLiteral("\n重复数据：陈七")));
+
+    // A merge text other than blanks stays at the end of the name; an empty name is logged.
+    QVERIFY(book.readSheet(0, -1, &sheet, &error));
+    ExcelImport merged(sheet.rows, {false, true, false, false, false, false, false},
+                       QStringLiteral("-"), true, true);
+    QCOMPARE(merged.runToEnd(), RosterImport::Outcome::Finished);
+    QCOMPARE(merged.imported(), 5);  // the empty name of row 5 is "-"
+    ExcelImport blank({{QString(), "x"}}, {true, false}, QStringLiteral(" "), false, false);
+    QCOMPARE(blank.runToEnd(), RosterImport::Outcome::Finished);
+    QCOMPARE(blank.log(), QStringLiteral("\n屏蔽空白数据"));
+    QCOMPARE(blank.imported() + blank.duplicates(), 0);
+    const QStringList rows = names(folder.db());
+    QCOMPARE(rows.first().section(QLatin1Char('/'), 0, 0), QStringLiteral("张三-"));
+    QVERIFY(
+        rows.first().endsWith(QStringLiteral("10001-研发部-13800138000-2023-05-08-12.5-10002-")));
+}
+
+void TestRosterImport::excelReplaceKeepsPrizePhotos() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"甲", "乙"});
+    const QStringList indexesBefore = indexes(folder.db());
+    const int award = folder.addAward(QStringLiteral("一等奖"), 3, 1);
+    for (const QString name : {"U1.jpg", "JP1.jpg", "camertemp.jpg"})
+        writeImage(folder.path("Photos/") + name, 10, 10);
+    ExcelImport job({{"丙"}}, {true}, QStringLiteral(" "), false, true);
+    QCOMPARE(job.runToEnd(), RosterImport::Outcome::Finished);
+    QCOMPARE(names(folder.db()), QStringList{"丙/"});
+    QCOMPARE(indexes(folder.db()), indexesBefore);
+    QVERIFY(!QFile::exists(folder.path("Photos/U1.jpg")));
+    QVERIFY(QFile::exists(folder.path("Photos/JP1.jpg")));
+    QVERIFY(QFile::exists(folder.path("Photos/camertemp.jpg")));
+    QCOMPARE(store::scalar(folder.db(), "SELECT COUNT(*) FROM JPList WHERE ID=?", {award}).toInt(),
+             1);
+
+    // A replace with an empty sheet leaves the roster alone.
+    ExcelImport empty({}, {true}, QStringLiteral(" "), false, true);
+    QCOMPARE(empty.runToEnd(), RosterImport::Outcome::Finished);
+    QCOMPARE(names(folder.db()), QStringList{"丙/"});
+}
+
+void TestRosterImport::textImportFromFile() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    QStringList lines;
+    QString error;
+    QVERIFY(TxtImport::readLines(fixture(QStringLiteral("gb18030-crlf.txt")), &lines, &error));
+    TxtImport job(lines, QStringLiteral(","), true);
+    QCOMPARE(job.runToEnd(), RosterImport::Outcome::Finished);
+    QCOMPARE(job.imported(), 4);
+    QCOMPARE(job.duplicates(), 1);
+    QCOMPARE(job.log(), QStringLiteral("\n重复数据：张三,研发部"));
+    QCOMPARE(dumpRoster(folder.db()).first().section(QLatin1Char('|'), 0, 5),
+             QStringLiteral("1|张三|研发部|Photos/U1.jpg|7|0"));
+    QCOMPARE(names(folder.db()).at(3), QStringLiteral("O'Brien/外联部"));
+}
+
+void TestRosterImport::photoImportStagesPictures() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"旧人"});
+    writeImage(folder.path("Photos/U1.jpg"), 10, 10);
+    QTemporaryDir a;
+    QTemporaryDir b;
+    writeImage(a.filePath(QStringLiteral("张三,宣传部.jpg")), 1000, 500);
+    writeImage(a.filePath(QStringLiteral("李四.png")), 900, 900);
+    writeImage(b.filePath(QStringLiteral("张三,宣传部.jpg")), 20, 20);
+    PhotoImport job(
+        {a.filePath(QStringLiteral("张三,宣传部.jpg")), a.filePath(QStringLiteral("李四.png")),
+         b.filePath(QStringLiteral("张三,宣传部.jpg"))},
+        true, 8, true);
+    QCOMPARE(job.runToEnd(), RosterImport::Outcome::Finished);
+    QCOMPARE(job.imported(), 2);
+    QCOMPARE(job.duplicates(), 1);
+    QVERIFY(job.log().contains(QStringLiteral("PNG不支持压缩∶")));
+    QVERIFY(job.log().contains(QStringLiteral("重复图片∶")));
+    QCOMPARE(names(folder.db()), (QStringList{"张三/宣传部 ", "李四/ "}));
+    QCOMPARE(QImage(folder.path("Photos/U1.jpg")).size(), QSize(800, 400));
+    QCOMPARE(QImage(folder.path("Photos/U2.png")).size(), QSize(900, 900));
+    QCOMPARE(
+        QDir(folder.path("Photos")).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden),
+        QStringList());
+
+    // One file is handled like several: its picture stays.
+    writeImage(a.filePath(QStringLiteral("王五.jpg")), 30, 30);
+    PhotoImport one({a.filePath(QStringLiteral("王五.jpg"))}, true, 8, true);
+    QCOMPARE(one.runToEnd(), RosterImport::Outcome::Finished);
+    QCOMPARE(dumpRoster(folder.db()).first().section(QLatin1Char('|'), 0, 3),
+             QStringLiteral("1|王五| |Photos/U1.jpg"));
+    QCOMPARE(QImage(folder.path("Photos/U1.jpg")).size(), QSize(30, 30));
+    QVERIFY(!QFile::exists(folder.path("Photos/U2.png")));
+}
+
+void TestRosterImport::numberGeneratorReplacesRoster() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"a", "b"});
+    numbergen::Options options;
+    options.mask = QStringLiteral("4，13");
+    NumberGeneration job(options);
+    QCOMPARE(job.runToEnd(), RosterImport::Outcome::Finished);
+    const QStringList rows = names(folder.db());
+    QCOMPARE(rows.first(), QStringLiteral("ST0001E/"));
+    QCOMPARE(rows.last(), QStringLiteral("ST1000E/"));
+    QVERIFY(!rows.contains(QStringLiteral("ST0004E/")));
+    QVERIFY(!rows.contains(QStringLiteral("ST0113E/")));
+    QCOMPARE(job.imported() + job.excluded(), 1000);
+    QVERIFY(job.log().startsWith(QStringLiteral("ST0004E\nST0013E\nST0014E\n")));
+
+    options.mask = QStringLiteral("0");
+    NumberGeneration all(options);
+    QCOMPARE(all.runToEnd(), RosterImport::Outcome::Finished);
+    QCOMPARE(all.imported(), 0);
+    QVERIFY(names(folder.db()).isEmpty());
+}
+
+void TestRosterImport::cancelLeavesRosterAsItWas_data() {
+    QTest::addColumn<int>("kind");
+    QTest::newRow("excel replace") << 0;
+    QTest::newRow("text append") << 1;
+    QTest::newRow("photo replace") << 2;
+    QTest::newRow("number generator") << 3;
+}
+
+void TestRosterImport::cancelLeavesRosterAsItWas() {
+    QFETCH(int, kind);
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"甲|一部|5", "乙|二部|6"});
+    writeImage(folder.path("Photos/U1.jpg"), 10, 10);
+    const QStringList before = dumpRoster(folder.db());
+    const QStringList indexesBefore = indexes(folder.db());
+    QVERIFY(indexesBefore.size() >= 5);
+    QTemporaryDir pictures;
+    QList<QStringList> rows;
+    QStringList lines;
+    QStringList files;
+    for (int i = 0; i < 60000; ++i) {
+        rows << QStringList{QStringLiteral("人%1").arg(i)};
+        lines << QStringLiteral("人%1,部").arg(i);
+    }
+    for (int i = 0; i < 200; ++i) {
+        files << pictures.filePath(QStringLiteral("人%1.jpg").arg(i));
+        writeImage(files.last(), 900, 900);
+    }
+    std::unique_ptr<RosterImport> job;
+    numbergen::Options options;
+    options.endText = QStringLiteral("99999");
+    switch (kind) {
+        case 0:
+            job = std::make_unique<ExcelImport>(rows, QList<bool>{true}, " ", false, true);
+            break;
+        case 1:
+            job = std::make_unique<TxtImport>(lines, ",", false);
+            break;
+        case 2:
+            job = std::make_unique<PhotoImport>(files, true, 1, true);
+            break;
+        default:
+            job = std::make_unique<NumberGeneration>(options);
+            break;
+    }
+    // Cancel as the close question does: after the first slice has written rows.
+    connect(job.get(), &RosterImport::progress, job.get(), [&job] { job->cancel(); });
+    QCOMPARE(job->runToEnd(), RosterImport::Outcome::Cancelled);
+    QVERIFY(job->done() > 0 && job->done() < job->total());
+    QCOMPARE(dumpRoster(folder.db()), before);
+    QCOMPARE(indexes(folder.db()), indexesBefore);
+    QCOMPARE(QImage(folder.path("Photos/U1.jpg")).size(), QSize(10, 10));
+    QCOMPARE(QDir(folder.path("Photos"))
+                 .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
+             QStringList{"U1.jpg"});
+}
+
+void TestRosterImport::failureHalfWayLeavesRosterAsItWas() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"甲|一部|5"});
+    const QStringList before = dumpRoster(folder.db());
+    // A store that refuses one row half way, as a full disk or a damaged file would.
+    QVERIFY(store::exec(folder.db(),
+                        "CREATE TRIGGER refuse BEFORE INSERT ON UserList WHEN "
+                        "NEW.UserName='坏' BEGIN SELECT RAISE(ABORT, 'refused'); END"));
+    QStringList lines;
+    for (int i = 0; i < 500; ++i)
+        lines << QStringLiteral("人%1").arg(i);
+    lines.insert(250, QStringLiteral("坏"));
+    TxtImport job(lines, QStringLiteral(","), true);
+    QCOMPARE(job.runToEnd(), RosterImport::Outcome::Failed);
+    QVERIFY(job.errorText().contains(QStringLiteral("refused")));
+    QCOMPARE(dumpRoster(folder.db()), before);
+}
+
+QTEST_MAIN(TestRosterImport)
+#include "tst_rosterimport.moc"

@@ -1,0 +1,419 @@
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFile>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSqlQuery>
+#include <QTreeWidget>
+#include <QtTest>
+
+#include "awards/camerahook.h"
+#include "core/appstate.h"
+#include "core/store.h"
+#include "roster/frmAddUser.h"
+#include "roster/frmAdminUser.h"
+#include "roster/frmCamre.h"
+#include "roster/rosterpage.h"
+#include "roster/rosterscreens.h"
+#include "stage/protocol.h"
+#include "support/recordingstage.h"
+#include "support/scriptedui.h"
+#include "support/tempprogramfolder.h"
+
+namespace {
+
+void fillRoster(QSqlDatabase db, int count) {
+    db.transaction();
+    QSqlQuery insert(db);
+    insert.prepare(
+        "INSERT INTO UserList (ID, UserName, UserPart, UserPhoto, DiffNum, UserStatus) "
+        "VALUES (?, ?, ?, '', ?, ?)");
+    for (int i = 1; i <= count; ++i) {
+        insert.addBindValue(i);
+        insert.addBindValue(QStringLiteral("人%1").arg(i));
+        insert.addBindValue(QStringLiteral("部%1").arg(i % 7));
+        insert.addBindValue(i % 5);
+        insert.addBindValue(i % 10 == 0 ? 3 : (i % 10 == 1 ? 1 : (i % 10 == 2 ? 2 : 0)));
+        insert.exec();
+    }
+    db.commit();
+}
+
+// The manager after its viewer has reported "loadok".
+std::unique_ptr<frmAdminUser> openManager() {
+    auto &stages = installRecordingStages();
+    auto form = std::make_unique<frmAdminUser>();
+    stages.last()->reply(proto::cmd::loadok, QStringLiteral("yes"));
+    return form;
+}
+
+}  // namespace
+
+class TestRosterManager : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void firstFillWaitsForViewer();
+    void fillsAtOnceWithoutViewer();
+    void fillsWhenRealViewerReports();
+    void pagesAreClamped_data();
+    void pagesAreClamped();
+    void sortModes_data();
+    void sortModes();
+    void countersAndStatusWords();
+    void saveKeepsWinAndRefusesDuplicates();
+    void savePictureStates();
+    void deleteTickedRemovesPhotos();
+    void batchDistinctionNumber_data();
+    void batchDistinctionNumber();
+    void exportsShownPage();
+    void addUserRules();
+    void cameraMissing();
+    void cameraSaveHandsOver();
+    void cameraLentToAwards();
+};
+
+void TestRosterManager::firstFillWaitsForViewer() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"甲|一部", "乙|二部"});
+    auto &stages = installRecordingStages();
+    frmAdminUser form;
+    QCOMPARE(stages.last()->movie, folder.path("sys/viewer.qml"));
+    QCOMPARE(form.lstUser->topLevelItemCount(), 0);
+    stages.last()->reply(QStringLiteral("other"), QStringLiteral("yes"));
+    QCOMPARE(form.lstUser->topLevelItemCount(), 0);
+    stages.last()->reply(proto::cmd::loadok, QStringLiteral("yes"));
+    QCOMPARE(form.lstUser->topLevelItemCount(), 2);
+    // The row count equals the table's, so the last row is selected and loaded.
+    QCOMPARE(form.txtUserName->text(), QStringLiteral("乙"));
+    QCOMPARE(form.lstUser->topLevelItem(1)->text(1), QStringLiteral("2"));
+}
+
+void TestRosterManager::fillsAtOnceWithoutViewer() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"甲|一部"});
+    setStageFactory([](QWidget *parent) { return std::make_unique<SilentStage>(parent); });
+    frmAdminUser form;
+    QCOMPARE(form.lstUser->topLevelItemCount(), 1);
+}
+
+void TestRosterManager::fillsWhenRealViewerReports() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"甲|一部"});
+    setStageFactory({});
+    frmAdminUser form;
+    QTRY_COMPARE(form.lstUser->topLevelItemCount(), 1);
+    QCOMPARE(form.txtUserName->text(), QStringLiteral("甲"));
+}
+
+void TestRosterManager::pagesAreClamped_data() {
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<int>("page");
+    QTest::addColumn<int>("shownPage");
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<QString>("pageText");
+    QTest::addColumn<QString>("total");
+    QTest::newRow("first") << "" << 1 << 1 << 1000 << "当前第∶1页/ 共3页"
+                           << "总计人数：2500";
+    QTest::newRow("last") << "" << 3 << 3 << 500 << "当前第∶3页/ 共3页"
+                          << "总计人数：2500";
+    QTest::newRow("beyond") << "" << 9 << 3 << 500 << "当前第∶3页/ 共3页"
+                            << "总计人数：2500";
+    QTest::newRow("below") << "" << 0 << 1 << 1000 << "当前第∶1页/ 共3页"
+                           << "总计人数：2500";
+    QTest::newRow("search from page 3") << "人1" << 3 << 2 << 111 << "当前第∶2页/ 共2页"
+                                        << "总计人数：1111";
+    QTest::newRow("no hits") << "无此人" << 3 << 3 << 0 << "当前第∶3页/ 共0页"
+                             << "总计人数：0";
+    QTest::newRow("wildcards are text") << "%" << 1 << 1 << 0 << "当前第∶1页/ 共0页"
+                                        << "总计人数：0";
+}
+
+void TestRosterManager::pagesAreClamped() {
+    QFETCH(QString, search);
+    QFETCH(int, page);
+    QFETCH(int, shownPage);
+    QFETCH(int, rows);
+    QFETCH(QString, pageText);
+    QFETCH(QString, total);
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    fillRoster(folder.db(), 2500);
+    auto form = openManager();
+    form->rdUserLst(QString(), search, page);
+    QCOMPARE(form->currentPage(), shownPage);
+    QCOMPARE(form->lstUser->topLevelItemCount(), rows);
+    QCOMPARE(form->labPage->text(), pageText);
+    QCOMPARE(form->labInfo1->text(), total);
+    QCOMPARE(form->cmdSave->isEnabled(), rows > 0);
+    QCOMPARE(form->cmdPageUp->isEnabled(), rows > 0 && shownPage > 1);
+}
+
+void TestRosterManager::sortModes_data() {
+    QTest::addColumn<int>("sort");
+    QTest::addColumn<QStringList>("firstIds");
+    QTest::newRow("ID") << 0 << QStringList{"1", "2", "3"};
+    QTest::newRow("remark") << 1 << QStringList{"7", "14", "21"};
+    QTest::newRow("distinction number") << 2 << QStringList{"5", "10", "15"};
+    QTest::newRow("status") << 3 << QStringList{"3", "4", "5"};
+}
+
+void TestRosterManager::sortModes() {
+    QFETCH(int, sort);
+    QFETCH(QStringList, firstIds);
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    fillRoster(folder.db(), 2500);
+    roster::Page page;
+    QString error;
+    QVERIFY(roster::readPage(folder.db(), QString(), sort, 2, &page, &error));
+    QCOMPARE(page.rows.size(), 1000);
+    roster::Page first;
+    QVERIFY(roster::readPage(folder.db(), QString(), sort, 1, &first, &error));
+    QStringList ids;
+    for (int i = 0; i < 3; ++i)
+        ids << QString::number(first.rows.at(i).id);
+    QCOMPARE(ids, firstIds);
+    // Pages never overlap.
+    QSet<int> seen;
+    for (const auto &row : std::as_const(first.rows))
+        seen.insert(row.id);
+    for (const auto &row : std::as_const(page.rows))
+        QVERIFY(!seen.contains(row.id));
+}
+
+void TestRosterManager::countersAndStatusWords() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    fillRoster(folder.db(), 20);
+    auto form = openManager();
+    QCOMPARE(form->labInfo2->text(), QStringLiteral("已中奖人数：2"));
+    QCOMPARE(form->labinfo3->text(), QStringLiteral("弃奖∶2"));
+    QCOMPARE(form->lstUser->topLevelItem(0)->text(5), QStringLiteral("已弃奖"));
+    QCOMPARE(form->lstUser->topLevelItem(0)->foreground(5).color(), QColor(255, 0, 0));
+    QCOMPARE(form->lstUser->topLevelItem(1)->text(5), QStringLiteral("已领奖"));
+    QCOMPARE(form->lstUser->topLevelItem(9)->text(5), QStringLiteral("已中奖"));
+    QCOMPARE(form->lstUser->topLevelItem(9)->foreground(5).color(), QColor(18, 118, 0));
+    QCOMPARE(form->lstUser->topLevelItem(2)->text(5), QString());
+    appState().selJxid = 4;
+    store::exec(folder.db(), "UPDATE UserList SET UserStatus=0");
+    form->rdUserLst(QString(), QString(), 1);
+    QCOMPARE(appState().selJxid, qint16(0));
+}
+
+void TestRosterManager::saveKeepsWinAndRefusesDuplicates() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"甲|一部|1", "乙|二部|2"});
+    store::exec(folder.db(), "UPDATE UserList SET UserStatus=3, JxID='|1|' WHERE ID=2");
+    ScriptedUi *scripted = installScriptedUi();
+    auto form = openManager();
+    form->lstUser->setCurrentItem(form->lstUser->topLevelItem(1));
+    form->txtUserName->setText(QStringLiteral("甲"));
+    form->txtUserPart->setText(QStringLiteral("一部"));
+    form->cmdSaveClicked();
+    QCOMPARE(scripted->last().text, QStringLiteral("名单重复,已经存在同样的人员信息"));
+    QCOMPARE(scripted->last().title, QStringLiteral("编辑失败"));
+    form->txtDiffNum->setValidator(nullptr);
+    form->txtDiffNum->setText(QStringLiteral("x1"));
+    form->txtUserPart->setText(QStringLiteral("三部"));
+    form->cmdSaveClicked();
+    QCOMPARE(scripted->last().text, QStringLiteral("“区分编号”只能填写数字"));
+    form->txtDiffNum->setText(QStringLiteral("9"));
+    form->txtUserName->setText(QStringLiteral("甲 "));
+    form->cmdSaveClicked();
+    QCOMPARE(scripted->last().text, QStringLiteral("数据更新成功！"));
+    QCOMPARE(store::scalar(folder.db(),
+                           "SELECT UserName || '/' || UserPart || '/' || DiffNum || "
+                           "'/' || UserStatus || JxID FROM UserList WHERE ID=2")
+                 .toString(),
+             QStringLiteral("甲 /三部/9/3|1|"));
+    // Saving a row unchanged is no duplicate of itself.
+    form->cmdSaveClicked();
+    QCOMPARE(scripted->last().text, QStringLiteral("数据更新成功！"));
+    QCOMPARE(form->lstUser->currentItem()->text(1), QStringLiteral("2"));
+}
+
+void TestRosterManager::savePictureStates() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"甲|一部"});
+    installScriptedUi();
+    auto form = openManager();
+    QTemporaryDir dir;
+    const QString chosen = dir.filePath(QStringLiteral("face.png"));
+    QImage(20, 20, QImage::Format_RGB32).save(chosen);
+    form->txtIsPhoto->setText(chosen);
+    form->cmdSaveClicked();
+    QCOMPARE(store::scalar(folder.db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
+             QStringLiteral("Photos/U1.png"));
+    QVERIFY(QFile::exists(folder.path("Photos/U1.png")));
+    QCOMPARE(form->txtIsPhoto->text(), QStringLiteral("yes"));
+    QImage(30, 30, QImage::Format_RGB32).save(folder.path("Photos/camertemp.jpg"));
+    form->txtIsPhoto->setText(QStringLiteral("camre"));
+    form->cmdSaveClicked();
+    QCOMPARE(store::scalar(folder.db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
+             QStringLiteral("Photos/U1.jpg"));
+    QCOMPARE(QImage(folder.path("Photos/U1.jpg")).size(), QSize(30, 30));
+    form->txtIsPhoto->setText(QStringLiteral("no"));
+    form->cmdSaveClicked();
+    QCOMPARE(store::scalar(folder.db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
+             QString());
+    QVERIFY(!QFile::exists(folder.path("Photos/U1.jpg")));
+    QVERIFY(QFile::exists(folder.path("Photos/camertemp.jpg")));
+}
+
+void TestRosterManager::deleteTickedRemovesPhotos() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    fillRoster(folder.db(), 1001);
+    store::exec(folder.db(), "UPDATE UserList SET UserPhoto='Photos/U1001.jpg' WHERE ID=1001");
+    QImage(5, 5, QImage::Format_RGB32).save(folder.path("Photos/U1001.jpg"));
+    ScriptedUi *scripted = installScriptedUi();
+    auto form = openManager();
+    form->deleteTicked();
+    QCOMPARE(scripted->last().text, QStringLiteral("请勾选需要删除的名单!"));
+    form->rdUserLst(QString(), QString(), 2);
+    form->selectAll();
+    QVERIFY(form->chkAll->isChecked());
+    scripted->answers.enqueue(false);
+    form->deleteTicked();
+    QCOMPARE(scripted->last().text, QStringLiteral("确认要删除选择的抽奖名单么?"));
+    QCOMPARE(store::scalar(folder.db(), "SELECT COUNT(*) FROM UserList").toInt(), 1001);
+    scripted->answers.enqueue(true);
+    form->deleteTicked();
+    QCOMPARE(store::scalar(folder.db(), "SELECT COUNT(*) FROM UserList").toInt(), 1000);
+    QVERIFY(!QFile::exists(folder.path("Photos/U1001.jpg")));
+    QCOMPARE(form->currentPage(), 1);  // the emptied last page clamps to the new last one
+}
+
+void TestRosterManager::batchDistinctionNumber_data() {
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<int>("stored");
+    QTest::newRow("number") << "42"
+                            << "数据更新成功！" << 42;
+    QTest::newRow("cancel") << ""
+                            << "请输入区分编号\n只能输入数字" << 1;
+    QTest::newRow("text") << "4a"
+                          << "您没输入正确的区分编号!" << 1;
+    QTest::newRow("beyond 32 bits") << "99999999999"
+                                    << "您没输入正确的区分编号!" << 1;
+}
+
+void TestRosterManager::batchDistinctionNumber() {
+    QFETCH(QString, answer);
+    QFETCH(QString, message);
+    QFETCH(int, stored);
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"甲|一部|1", "乙|二部|1"});
+    ScriptedUi *scripted = installScriptedUi();
+    auto form = openManager();
+    form->cmdSetDiffClicked();
+    QCOMPARE(scripted->last().text, QStringLiteral("请勾选需要设置区分编号的名单!"));
+    form->lstUser->topLevelItem(0)->setCheckState(0, Qt::Checked);
+    scripted->inputs.enqueue(answer);
+    form->cmdSetDiffClicked();
+    QCOMPARE(scripted->last().text, message);
+    QCOMPARE(store::scalar(folder.db(), "SELECT DiffNum FROM UserList WHERE ID=1").toInt(), stored);
+    QCOMPARE(store::scalar(folder.db(), "SELECT DiffNum FROM UserList WHERE ID=2").toInt(), 1);
+}
+
+void TestRosterManager::exportsShownPage() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"甲,乙|一部|3", "丙\"|二部"});
+    ScriptedUi *scripted = installScriptedUi();
+    auto form = openManager();
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("out.csv"));
+    scripted->files.enqueue(path);
+    form->cmdOutClicked();
+    QCOMPARE(scripted->last().text, QStringLiteral("导出完毕"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(),
+             QByteArray("\xEF\xBB\xBF") +
+                 QStringLiteral("排序,抽奖名单(抽奖时滚动的内容),备注,照片,状态,区分编号\r\n"
+                                "1,\"甲,乙\",一部,,,3\r\n2,\"丙\"\"\",二部,,,0\r\n")
+                     .toUtf8());
+    QVERIFY(form->cmdOut->isEnabled());
+}
+
+void TestRosterManager::addUserRules() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"甲|一部"});
+    ScriptedUi *scripted = installScriptedUi();
+    installRecordingStages();
+    frmAddUser form;
+    QCOMPARE(form.txtDiffNum->text(), QStringLiteral("0"));
+    QVERIFY(!form.cmdOkClicked());
+    QCOMPARE(scripted->last().text, QStringLiteral("请输入抽奖名单!"));
+    form.txtUserName->setText(QStringLiteral(" 甲 "));
+    form.txtUserPart->setText(QStringLiteral("一部"));
+    QVERIFY(!form.cmdOkClicked());
+    QCOMPARE(scripted->last().title, QStringLiteral("新增失败"));
+    form.txtUserPart->setText(QStringLiteral("二部"));
+    form.txtDiffNum->setText(QString());
+    QImage(10, 10, QImage::Format_RGB32).save(folder.path("Photos/camertemp.jpg"));
+    form.txtIsPhoto->setText(QStringLiteral("camre"));
+    QVERIFY(form.cmdOkClicked());
+    QCOMPARE(form.addedId(), 2);
+    QCOMPARE(store::scalar(folder.db(),
+                           "SELECT UserName || '/' || UserPart || '/' || DiffNum || "
+                           "'/' || UserPhoto FROM UserList WHERE ID=2")
+                 .toString(),
+             QStringLiteral("甲/二部/0/Photos/U2.jpg"));
+    QVERIFY(QFile::exists(folder.path("Photos/U2.jpg")));
+}
+
+void TestRosterManager::cameraMissing() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    frmCamre camera;
+    QCOMPARE(camera.windowTitle(), QStringLiteral("拍照"));
+    QCOMPARE(camera.labInfo->text(), QStringLiteral("正在开启摄像头..."));
+    QVERIFY(!camera.cmdOk->isEnabled());
+    if (camera.openCamera()) QSKIP("this machine has a camera");
+    QCOMPARE(camera.labInfo->text(), QStringLiteral("打开摄像头失败..."));
+    QCOMPARE(camera.cmdOk->text(), QStringLiteral("拍照"));
+    QVERIFY(!camera.cmdOk->isEnabled());
+    camera.show();
+    QCOMPARE(camera.cmdEsc->text(), QStringLiteral("取消"));
+    camera.cmdEsc->click();
+    QVERIFY(!camera.isVisible());
+    QCOMPARE(camera.result(), int(QDialog::Rejected));
+}
+
+void TestRosterManager::cameraSaveHandsOver() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    frmCamre camera;
+    QImage frame(640, 480, QImage::Format_RGB32);
+    frame.fill(Qt::red);
+    camera.freeze(frame);
+    QCOMPARE(camera.cmdOk->text(), QStringLiteral("保存"));
+    QCOMPARE(camera.cmdEsc->text(), QStringLiteral("重拍"));
+    QString handed;
+    connect(&camera, &frmCamre::saved, this, [&handed](const QString &path) { handed = path; });
+    camera.cmdOk->click();
+    QCOMPARE(handed, folder.path("Photos/camertemp.jpg"));
+    QCOMPARE(QImage(handed).size(), QSize(640, 480));
+    QCOMPARE(camera.result(), int(QDialog::Accepted));
+}
+
+void TestRosterManager::cameraLentToAwards() {
+    awardcamera::setShot({});
+    rosterscreens::installCamera();
+    QVERIFY(static_cast<bool>(awardcamera::shot()));
+}
+
+QTEST_MAIN(TestRosterManager)
+#include "tst_rostermanager.moc"

@@ -1,0 +1,190 @@
+#include <QtTest>
+
+#include "roster/workbook.h"
+
+using workbook::Row;
+
+namespace {
+
+QString fixture(const QString &name) {
+    return QStringLiteral(QUELLIO_SOURCE_DIR "/tests/roster/fixtures/") + name;
+}
+
+}  // namespace
+
+class TestWorkbook : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void numbersAsShown_data();
+    void numbersAsShown();
+    void dates_data();
+    void dates();
+    void realWorkbooks_data();
+    void realWorkbooks();
+    void secondSheetWithBlankInName_data();
+    void secondSheetWithBlankInName();
+    void inlineStringsAndSparseRows();
+    void limitReadsOnlyFirstRows();
+    void unreadableFiles_data();
+    void unreadableFiles();
+    void demoWorkbooksShip_data();
+    void demoWorkbooksShip();
+};
+
+void TestWorkbook::numbersAsShown_data() {
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("phone") << 13800138000.0 << "13800138000";
+    QTest::newRow("small") << 12.0 << "12";
+    QTest::newRow("15 digits") << 123456789012345.0 << "123456789012345";
+    QTest::newRow("fraction") << 12.5 << "12.5";
+    QTest::newRow("tenth") << 0.1 << "0.1";
+    QTest::newRow("negative") << -3.25 << "-3.25";
+    QTest::newRow("zero") << 0.0 << "0";
+}
+
+void TestWorkbook::numbersAsShown() {
+    QFETCH(double, value);
+    QFETCH(QString, text);
+    QCOMPARE(workbook::numberText(value), text);
+}
+
+void TestWorkbook::dates_data() {
+    QTest::addColumn<double>("serial");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("date") << 45054.0 << "2023-05-08";
+    QTest::newRow("date and time") << 45293.395833333336 << "2024-01-02 09:30:00";
+    QTest::newRow("time only") << 0.5 << "12:00:00";
+}
+
+void TestWorkbook::dates() {
+    QFETCH(double, serial);
+    QFETCH(QString, text);
+    QCOMPARE(workbook::dateSerialText(serial), text);
+    QVERIFY(workbook::isDateFormat(14, QString()));
+    QVERIFY(workbook::isDateFormat(176, QStringLiteral("yyyy/mm/dd;@")));
+    QVERIFY(!workbook::isDateFormat(176, QStringLiteral("0.00_);[Red]\\(0.00\\)")));
+    QVERIFY(!workbook::isDateFormat(176, QStringLiteral("\"day\"0")));
+}
+
+// The same sheet written by an xlsx library, by LibreOffice as xlsx and by LibreOffice as xls.
+void TestWorkbook::realWorkbooks_data() {
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<bool>("formulasCached");
+    QTest::newRow("openpyxl xlsx") << "openpyxl.xlsx" << false;
+    QTest::newRow("LibreOffice xlsx") << "libreoffice.xlsx" << true;
+    // FreeXL does not hand out the cached results of formulas in BIFF files.
+    QTest::newRow("LibreOffice xls") << "libreoffice.xls" << false;
+}
+
+void TestWorkbook::realWorkbooks() {
+    QFETCH(QString, file);
+    QFETCH(bool, formulasCached);
+    workbook::Workbook book;
+    QString error;
+    QVERIFY2(book.open(fixture(file), &error), qPrintable(error));
+    QCOMPARE(book.sheetNames(), (QStringList{"员工名单", "Sheet 2"}));
+    workbook::Sheet sheet;
+    QVERIFY2(book.readSheet(0, -1, &sheet, &error), qPrintable(error));
+    QCOMPARE(sheet.columns, 7);
+    QCOMPARE(sheet.rows.size(), 6);
+    QCOMPARE(sheet.rows.at(0), (Row{"工号", "姓名", "部门", "电话", "入职日期", "分数", "合计"}));
+    const Row first = sheet.rows.at(1);
+    QCOMPARE(first.mid(0, 6),
+             (Row{"10001", "张三", "研发部", "13800138000", "2023-05-08", "12.5"}));
+    if (formulasCached) QCOMPARE(first.at(6), QStringLiteral("10002"));
+    QCOMPARE(sheet.rows.at(2).at(1), QStringLiteral("李四"));
+    QVERIFY(sheet.rows.at(2).at(2).isNull());  // empty cell
+    QCOMPARE(sheet.rows.at(2).at(4).left(10), QStringLiteral("2024-01-02"));
+    QCOMPARE(sheet.rows.at(2).at(5), QStringLiteral("12"));
+    QCOMPARE(sheet.rows.at(3).at(3), QStringLiteral("123456789012345"));
+    QCOMPARE(sheet.rows.at(3).at(5), QStringLiteral("0.1"));
+    QVERIFY(sheet.rows.at(4).at(0).isNull());
+    QCOMPARE(sheet.rows.at(4).at(2), QStringLiteral("财务部"));
+    QCOMPARE(sheet.rows.at(5).at(5), QStringLiteral("-3.25"));
+}
+
+void TestWorkbook::secondSheetWithBlankInName_data() {
+    realWorkbooks_data();
+}
+
+void TestWorkbook::secondSheetWithBlankInName() {
+    QFETCH(QString, file);
+    workbook::Workbook book;
+    QString error;
+    QVERIFY(book.open(fixture(file), &error));
+    workbook::Sheet sheet;
+    QVERIFY(book.readSheet(1, -1, &sheet, &error));
+    QCOMPARE(sheet.name, QStringLiteral("Sheet 2"));
+    QCOMPARE(
+        sheet.rows,
+        (QList<Row>{{"名字", "备注"}, {"陈七", "行政部"}, {"陈七", "行政部"}, {"周八", "客服部"}}));
+}
+
+void TestWorkbook::inlineStringsAndSparseRows() {
+    workbook::Workbook book;
+    QString error;
+    QVERIFY2(book.open(fixture(QStringLiteral("inline.xlsx")), &error), qPrintable(error));
+    QCOMPARE(book.sheetNames(), QStringList{"内联"});
+    workbook::Sheet sheet;
+    QVERIFY(book.readSheet(0, -1, &sheet, &error));
+    QCOMPARE(sheet.columns, 3);
+    QCOMPARE(sheet.rows.size(), 4);
+    QCOMPARE(sheet.rows.at(0).mid(0, 2), (Row{"姓名", "编号"}));
+    QVERIFY(sheet.rows.at(1).at(0).isNull());  // a missing row is a row of empty cells
+    QCOMPARE(sheet.rows.at(2).at(0), QStringLiteral("李白"));  // runs joined, phonetics left out
+    QCOMPARE(sheet.rows.at(2).at(2), QStringLiteral("1.5e+20"));
+    QCOMPARE(sheet.rows.at(3).at(1), QStringLiteral("TRUE"));
+    QCOMPARE(sheet.rows.at(3).at(2), QStringLiteral("姓名"));
+}
+
+void TestWorkbook::limitReadsOnlyFirstRows() {
+    workbook::Workbook book;
+    QString error;
+    QVERIFY(book.open(fixture(QStringLiteral("libreoffice.xlsx")), &error));
+    workbook::Sheet sheet;
+    QVERIFY(book.readSheet(0, 4, &sheet, &error));
+    QCOMPARE(sheet.rows.size(), 4);
+    QVERIFY(book.open(fixture(QStringLiteral("libreoffice.xls")), &error));
+    QVERIFY(book.readSheet(0, 2, &sheet, &error));
+    QCOMPARE(sheet.rows.size(), 2);
+}
+
+void TestWorkbook::unreadableFiles_data() {
+    QTest::addColumn<QString>("file");
+    QTest::newRow("truncated xlsx") << "broken.xlsx";
+    QTest::newRow("text file") << "utf8-lf.txt";
+    QTest::newRow("binary") << "binary.txt";
+    QTest::newRow("missing") << "nothing-here.xlsx";
+}
+
+void TestWorkbook::unreadableFiles() {
+    QFETCH(QString, file);
+    workbook::Workbook book;
+    QString error;
+    QVERIFY(!book.open(fixture(file), &error));
+    QVERIFY(!error.isEmpty());
+    QVERIFY(!book.isOpen());
+}
+
+void TestWorkbook::demoWorkbooksShip_data() {
+    QTest::addColumn<QString>("file");
+    QTest::newRow("xlsx") << "demo.xlsx";
+    QTest::newRow("xls") << "demo.xls";
+}
+
+void TestWorkbook::demoWorkbooksShip() {
+    QFETCH(QString, file);
+    workbook::Workbook book;
+    QString error;
+    QVERIFY2(book.open(QStringLiteral(QUELLIO_FACTORY_DIR "/") + file, &error), qPrintable(error));
+    workbook::Sheet sheet;
+    QVERIFY(book.readSheet(0, -1, &sheet, &error));
+    QCOMPARE(sheet.rows.at(0), (Row{"姓名", "部门", "工号"}));
+    QCOMPARE(sheet.rows.size(), 21);
+    QCOMPARE(sheet.rows.at(1).at(2), QStringLiteral("20240001"));
+}
+
+QTEST_GUILESS_MAIN(TestWorkbook)
+#include "tst_workbook.moc"
