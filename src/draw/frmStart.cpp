@@ -41,7 +41,6 @@ void notYetAvailable(const QString &what) {
 frmStart::frmStart(QWidget *parent) : QWidget(parent, Qt::Window) {
     AppState &state = appState();
     setWindowTitle(state.title1.isEmpty() ? QApplication::applicationDisplayName() : state.title1);
-    setAttribute(Qt::WA_DeleteOnClose, false);
     qint16 selected = 0;
     QString ignored;
     if (settings::readInt(settings::kMain, QStringLiteral("selJxid"), &selected, &ignored))
