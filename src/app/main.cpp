@@ -4,6 +4,7 @@
 #include "core/frmMain.h"
 #include "core/startup.h"
 #include "core/widgethelpers.h"
+#include "roster/rosterscreens.h"
 #include "sound/mediabackend.h"
 
 int main(int argc, char *argv[]) {
@@ -14,6 +15,7 @@ int main(int argc, char *argv[]) {
     QApplication::setApplicationDisplayName(QStringLiteral("Quellio抽奖(全能版)"));
     if (!startUp(QApplication::applicationDirPath())) return 1;
     style::apply();
+    rosterscreens::installCamera();
 
     frmMain console;
     setConsoleWindow(&console);
