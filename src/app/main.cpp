@@ -5,6 +5,7 @@
 #include "core/startup.h"
 #include "core/widgethelpers.h"
 #include "draw/frmStart.h"
+#include "roster/rosterscreens.h"
 #include "sound/mediabackend.h"
 
 namespace {
@@ -33,6 +34,7 @@ int main(int argc, char *argv[]) {
     QApplication::setApplicationDisplayName(QStringLiteral("Quellio抽奖(全能版)"));
     if (!startUp(QApplication::applicationDirPath())) return 1;
     style::apply();
+    rosterscreens::installCamera();
 
     frmMain console;
     setConsoleWindow(&console);
