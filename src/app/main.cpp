@@ -4,7 +4,27 @@
 #include "core/frmMain.h"
 #include "core/startup.h"
 #include "core/widgethelpers.h"
+#include "draw/frmStart.h"
+#include "roster/rosterscreens.h"
 #include "sound/mediabackend.h"
+
+namespace {
+
+// The draw screen in front of a hidden console; when the operator leaves it, the console comes
+// back with fresh figures. With no console (the --draw switch) leaving the draw ends the program.
+void openDrawScreen(frmMain *console) {
+    auto *screen = new frmStart;
+    screen->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(screen, &frmStart::closed, screen, [console] {
+        if (!console) return;
+        console->show();
+        console->tjJX();
+    });
+    if (console) console->hide();
+    screen->show();
+}
+
+}  // namespace
 
 int main(int argc, char *argv[]) {
     chooseMediaBackend();
@@ -14,11 +34,18 @@ int main(int argc, char *argv[]) {
     QApplication::setApplicationDisplayName(QStringLiteral("Quellio抽奖(全能版)"));
     if (!startUp(QApplication::applicationDirPath())) return 1;
     style::apply();
+    rosterscreens::installCamera();
 
     frmMain console;
     setConsoleWindow(&console);
     centerForm(&console);
-    console.show();
+    QObject::connect(&console, &frmMain::drawRequested, &console,
+                     [&console] { openDrawScreen(&console); });
+    // Development switch: straight to the draw screen (scripts/run.sh --draw).
+    if (QApplication::arguments().contains(QStringLiteral("--draw")))
+        openDrawScreen(nullptr);
+    else
+        console.show();
     const int code = QApplication::exec();
     exitProgram(true);
     return code;

@@ -26,6 +26,7 @@
 #include "draw/progress.h"
 #include "results/exportwinners.h"
 #include "results/frmLuckList.h"
+#include "roster/rosterscreens.h"
 #include "sound/frmKeyBoard.h"
 #include "stage/stage.h"
 
@@ -407,8 +408,7 @@ void frmMain::openTool(int index) {
 }
 
 void frmMain::openRosterAction(int index) {
-    const char *names[] = {"名单管理", "Excel导入", "Txt导入", "图片导入", "编号生成"};
-    comingSoon(QString::fromUtf8(names[index]));
+    rosterscreens::openRosterAction(index, this);
 }
 
 void frmMain::comingSoon(const QString &screen) {
