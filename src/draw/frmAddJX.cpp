@@ -190,7 +190,10 @@ void frmAddJX::saveNewAward() {
     QString error;
     const int id = draw::insertAward(store::mainConn(), award, &error);
     if (id == 0) {
-        ui().message(error, MsgStyle::Information, titles::notice);
+        if (error == draw::kAwardsFullMessage)
+            ui().message(error, MsgStyle::Information, titles::notice);
+        else
+            ui().message(error, MsgStyle::Critical, titles::error);
         return;
     }
     finish(id);

@@ -111,7 +111,7 @@ int insertAward(QSqlDatabase db, const NewAward &award, QString *error) {
         const int order =
             store::getNextID(QStringLiteral("JPList"), QStringLiteral("OrderNum"), db);
         if (id > kMaxSlots || order > kMaxSlots) {
-            if (error) *error = QStringLiteral("奖项编号已到上限32767,不能再增加奖项!");
+            if (error) *error = kAwardsFullMessage;
             return false;
         }
         return store::exec(db,

@@ -49,6 +49,7 @@ struct NewAward {
 
 // The first failing rule in the order of the tab's fields.
 MakeupFault checkNewAward(const NewAward &award);
+inline const QString kAwardsFullMessage = QStringLiteral("奖项编号已到上限32767,不能再增加奖项!");
 // Inserts the award last in the draw order, without a picture and with no distinction range.
 // Returns its ID, or 0 with the reason in error (also when no 16-bit ID or position is left).
 int insertAward(QSqlDatabase db, const NewAward &award, QString *error);

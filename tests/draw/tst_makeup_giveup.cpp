@@ -318,6 +318,20 @@ void TestMakeupGiveUp::newAwardGoesLastAndLoads() {
     QCOMPARE(rig.stage.values(proto::vbLoadJx).constLast().section(QLatin1Char('|'), 2, 3),
              QStringLiteral("3|3"));
     QCOMPARE(rig.session.batchCount, 1);
+
+    // No 16-bit ID left: a message, nothing stored, the dialog stays.
+    store::exec(rig.folder.db(), QStringLiteral("UPDATE JPList SET ID=32767 WHERE ID=3"));
+    frmAddJX full;
+    full.sTab->setCurrentIndex(1);
+    full.txtJxName->setText(QStringLiteral("再加一个"));
+    full.txtJxNum->setText(QStringLiteral("1"));
+    full.txtJxGroup->setText(QStringLiteral("1"));
+    full.txtJpName->setText(QStringLiteral("红包"));
+    full.cmdSave->click();
+    QCOMPARE(m_ui->texts(), QStringList({draw::kAwardsFullMessage}));
+    QCOMPARE(m_ui->last().title, QStringLiteral("提示"));
+    QCOMPARE(full.awardToLoad(), 0);
+    QCOMPARE(store::scalar(rig.folder.db(), "SELECT COUNT(*) FROM JPList").toInt(), 3);
 }
 
 // A holder of two awards gives up: both awards get their slot back, the participant stays in
