@@ -587,7 +587,7 @@ void TestMakeupGiveUp::screenshot() {
     fillSampleEvening(rig.folder);
 
     frmGiveUp giveUp;
-    row(giveUp, 2)->setCheckState(frmGiveUp::ColNumber, Qt::Checked);
+    row(giveUp, 3)->setCheckState(frmGiveUp::ColNumber, Qt::Checked);
     row(giveUp, 5)->setCheckState(frmGiveUp::ColNumber, Qt::Checked);
     giveUp.lstUser->setCurrentItem(row(giveUp, 5));
     QVERIFY(grabShown(giveUp).save(out + QStringLiteral("/give-up.png")));

@@ -52,8 +52,8 @@ QList<int> fillSampleEvening(TempProgramFolder &folder) {
     for (int i = 0; i < 3; ++i)
         win(folder, ids[(next += 13) % ids.size()], first, 4);
     win(folder, ids[(next += 5) % ids.size()], grand, 5);
-    // A third-prize winner who did not come: given up.
+    // The second first-prize winner did not come: given up.
     store::exec(folder.db(), QStringLiteral("UPDATE UserList SET JxID=?, UserStatus=1 WHERE ID=?"),
-                {QStringLiteral("无"), ids[10]});
+                {QStringLiteral("无"), ids[(next - 5 - 13) % ids.size()]});
     return ids;
 }
