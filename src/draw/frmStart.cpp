@@ -21,6 +21,9 @@
 #include "design/stageload.h"
 #include "design/templatemodel.h"
 #include "design/templatepage.h"
+#include "draw/frmAddJX.h"
+#include "draw/frmAskEnd.h"
+#include "draw/frmGiveUp.h"
 #include "results/exportwinners.h"
 #include "results/printwinners.h"
 #include "sound/clsMusic.h"
@@ -30,11 +33,6 @@
 namespace {
 
 int connectionSerial = 0;
-
-void notYetAvailable(const QString &what) {
-    ui().message(what + QStringLiteral("功能即将推出,敬请期待。"), MsgStyle::Information,
-                 titles::notice);
-}
 
 }  // namespace
 
@@ -46,10 +44,23 @@ frmStart::frmStart(QWidget *parent) : QWidget(parent, Qt::Window) {
     if (settings::readInt(settings::kMain, QStringLiteral("selJxid"), &selected, &ignored))
         state.selJxid = selected;
 
-    openGiveUp = [](frmStart &) { notYetAvailable(QStringLiteral("弃奖")); };
-    openAddAward = [](frmStart &) { notYetAvailable(QStringLiteral("补抽")); };
-    openAskEnd = [](frmStart &) {
-        ui().message(QStringLiteral("所有奖项已抽取完毕!"), MsgStyle::Information, titles::notice);
+    openGiveUp = [](frmStart &screen) {
+        frmGiveUp dialog(&screen);
+        QObject::connect(&dialog, &frmGiveUp::givenUp, &screen,
+                         [&screen] { screen.reFrashJx(true, true); });
+        dialog.exec();
+    };
+    openAddAward = [](frmStart &screen) {
+        frmAddJX dialog(screen.session().award.id, &screen);
+        QObject::connect(&dialog, &frmAddJX::loadAward, &screen,
+                         [&screen](int id) { screen.loadJx(id, true); });
+        dialog.exec();
+    };
+    openAskEnd = [this](frmStart &screen) {
+        frmAskEnd dialog(*m_engine, &screen);
+        QObject::connect(&dialog, &frmAskEnd::paradeRequested, &screen,
+                         [&screen] { screen.vbCallPlay(); });
+        dialog.exec();
     };
 
     buildControls();

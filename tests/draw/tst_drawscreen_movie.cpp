@@ -27,6 +27,7 @@ struct LiveScreen {
     bool started = false;
     std::unique_ptr<frmStart> form;
 
+    int askEnd = 0;  // end-of-draw prompts asked for
     LiveScreen() {
         installFontSubstitutes();
         started = folder.start();
@@ -36,6 +37,7 @@ struct LiveScreen {
     }
     bool open() {
         form = std::make_unique<frmStart>();
+        form->openAskEnd = [this](frmStart &) { ++askEnd; };
         form->show();
         QElapsedTimer clock;
         clock.start();
