@@ -28,19 +28,6 @@ namespace {
 constexpr int kViewerWidth = 189;
 constexpr int kViewerHeight = 152;
 
-// Number boxes select their whole text on gaining the focus, so typing replaces the "0".
-class SelectOnFocus : public QObject {
-public:
-    using QObject::QObject;
-    bool eventFilter(QObject *watched, QEvent *event) override {
-        if (event->type() == QEvent::FocusIn) {
-            auto *edit = static_cast<QLineEdit *>(watched);
-            QTimer::singleShot(0, edit, [edit] { selectAllText(edit); });
-        }
-        return false;
-    }
-};
-
 // The style sheet's combo has no arrow of its own; this one draws a chevron in the text colour.
 class ChevronCombo : public QComboBox {
 public:
@@ -65,7 +52,7 @@ QLineEdit *numberBox(QWidget *parent, int digits, int width) {
     edit->setFixedWidth(width);
     edit->setValidator(
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), edit));
-    edit->installEventFilter(new SelectOnFocus(edit));
+    selectAllOnFocus(edit);
     return edit;
 }
 

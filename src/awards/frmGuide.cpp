@@ -21,19 +21,6 @@
 
 namespace {
 
-// Selects the whole text when a box gains the focus.
-class SelectOnFocus : public QObject {
-public:
-    using QObject::QObject;
-    bool eventFilter(QObject *watched, QEvent *event) override {
-        if (event->type() == QEvent::FocusIn) {
-            auto *edit = static_cast<QLineEdit *>(watched);
-            QTimer::singleShot(0, edit, [edit] { selectAllText(edit); });
-        }
-        return false;
-    }
-};
-
 QLineEdit *smallBox(QWidget *parent, int maxLength, bool digitsOnly) {
     auto *edit = new QLineEdit(parent);
     edit->setMaxLength(maxLength);
@@ -42,7 +29,7 @@ QLineEdit *smallBox(QWidget *parent, int maxLength, bool digitsOnly) {
     if (digitsOnly)
         edit->setValidator(
             new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), edit));
-    edit->installEventFilter(new SelectOnFocus(edit));
+    selectAllOnFocus(edit);
     return edit;
 }
 

@@ -1,6 +1,7 @@
 #include "chrome/style.h"
 
 #include <QApplication>
+#include <QTreeWidget>
 
 namespace style {
 
@@ -49,6 +50,29 @@ QToolTip { background: rgb(128,23,25); color: white; border: none; padding: 4px;
 
 void apply() {
     qApp->setStyleSheet(styleSheet());
+}
+
+void styleList(QTreeWidget *list) {
+    list->setRootIsDecorated(false);
+    list->setUniformRowHeights(true);
+    list->setAlternatingRowColors(true);
+    list->setAllColumnsShowFocus(true);
+    list->setSelectionMode(QAbstractItemView::SingleSelection);
+    QPalette palette = list->palette();
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::Highlight, QColor(251, 214, 218));
+        palette.setColor(group, QPalette::HighlightedText, kDeep);
+    }
+    list->setPalette(palette);
+    list->setStyleSheet(QStringLiteral(
+        "QTreeWidget { background: white; alternate-background-color: rgb(255,247,247);"
+        " border: 1px solid rgb(230,190,194); border-radius: 6px; }"
+        "QTreeWidget::item { height: 28px; border: none; }"
+        "QTreeWidget::item:selected, QTreeWidget::item:selected:!active {"
+        " background: rgb(251,214,218); color: rgb(128,23,25); }"
+        "QHeaderView::section { background: rgb(250,225,227); border: none;"
+        " border-right: 1px solid rgb(236,200,203); border-bottom: 1px solid rgb(230,190,194);"
+        " padding: 6px 6px; font-weight: bold; }"));
 }
 
 }  // namespace style

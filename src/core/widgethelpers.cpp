@@ -1,17 +1,33 @@
 #include "core/widgethelpers.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QFont>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QPointer>
 #include <QScreen>
+#include <QTimer>
 #include <QWidget>
 
 namespace {
+
 QPointer<QWidget> g_console;
-}
+
+class SelectOnFocus : public QObject {
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        if (event->type() == QEvent::FocusIn) {
+            auto *edit = static_cast<QLineEdit *>(watched);
+            QTimer::singleShot(0, edit, [edit] { selectAllText(edit); });
+        }
+        return false;
+    }
+};
+
+}  // namespace
 
 void selectCombo(QComboBox *combo, const QString &text) {
     for (int i = 0; i < combo->count(); ++i) {
@@ -25,6 +41,10 @@ void selectCombo(QComboBox *combo, const QString &text) {
 
 void selectAllText(QLineEdit *edit) {
     edit->selectAll();
+}
+
+void selectAllOnFocus(QLineEdit *edit) {
+    edit->installEventFilter(new SelectOnFocus(edit));
 }
 
 void setConsoleWindow(QWidget *console) {

@@ -12,6 +12,8 @@ class QWidget;
 void selectCombo(QComboBox *combo, const QString &text);
 // Selects the whole text, for numeric fields on focus.
 void selectAllText(QLineEdit *edit);
+// Makes a box select its whole text whenever it gains the focus, so typing replaces it.
+void selectAllOnFocus(QLineEdit *edit);
 // The console: dialogs are centred on it.
 void setConsoleWindow(QWidget *console);
 QWidget *consoleWindow();

@@ -103,26 +103,7 @@ void frmGiveUp::buildList() {
     lstUser->setColumnCount(ColumnCount);
     lstUser->setHeaderLabels({QStringLiteral("序号"), QStringLiteral("中奖名单"),
                               QStringLiteral("所中奖项"), QStringLiteral("状态")});
-    lstUser->setRootIsDecorated(false);
-    lstUser->setUniformRowHeights(true);
-    lstUser->setAlternatingRowColors(true);
-    lstUser->setAllColumnsShowFocus(true);
-    lstUser->setSelectionMode(QAbstractItemView::SingleSelection);
-    QPalette palette = lstUser->palette();
-    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
-        palette.setColor(group, QPalette::Highlight, QColor(251, 214, 218));
-        palette.setColor(group, QPalette::HighlightedText, style::kDeep);
-    }
-    lstUser->setPalette(palette);
-    lstUser->setStyleSheet(QStringLiteral(
-        "QTreeWidget { background: white; alternate-background-color: rgb(255,247,247);"
-        " border: 1px solid rgb(230,190,194); border-radius: 6px; }"
-        "QTreeWidget::item { height: 28px; border: none; }"
-        "QTreeWidget::item:selected, QTreeWidget::item:selected:!active {"
-        " background: rgb(251,214,218); color: rgb(128,23,25); }"
-        "QHeaderView::section { background: rgb(250,225,227); border: none;"
-        " border-right: 1px solid rgb(236,200,203); border-bottom: 1px solid rgb(230,190,194);"
-        " padding: 6px 6px; font-weight: bold; }"));
+    style::styleList(lstUser);
     lstUser->setColumnWidth(ColNumber, 78);
     lstUser->setColumnWidth(ColName, 170);
     lstUser->setColumnWidth(ColAwards, 200);

@@ -81,26 +81,7 @@ void frmLuckList::buildList() {
     lstUser->setHeaderLabels({QStringLiteral("序号"), QStringLiteral("奖项名称"),
                               QStringLiteral("奖品名称"), QStringLiteral("中奖名单"),
                               QStringLiteral("备注"), QStringLiteral("状态")});
-    lstUser->setRootIsDecorated(false);
-    lstUser->setUniformRowHeights(true);
-    lstUser->setAlternatingRowColors(true);
-    lstUser->setAllColumnsShowFocus(true);
-    lstUser->setSelectionMode(QAbstractItemView::SingleSelection);
-    QPalette palette = lstUser->palette();
-    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
-        palette.setColor(group, QPalette::Highlight, QColor(251, 214, 218));
-        palette.setColor(group, QPalette::HighlightedText, style::kDeep);
-    }
-    lstUser->setPalette(palette);
-    lstUser->setStyleSheet(QStringLiteral(
-        "QTreeWidget { background: white; alternate-background-color: rgb(255,247,247);"
-        " border: 1px solid rgb(230,190,194); border-radius: 6px; }"
-        "QTreeWidget::item { height: 28px; border: none; }"
-        "QTreeWidget::item:selected, QTreeWidget::item:selected:!active {"
-        " background: rgb(251,214,218); color: rgb(128,23,25); }"
-        "QHeaderView::section { background: rgb(250,225,227); border: none;"
-        " border-right: 1px solid rgb(236,200,203); border-bottom: 1px solid rgb(230,190,194);"
-        " padding: 6px 6px; font-weight: bold; }"));
+    style::styleList(lstUser);
     const int widths[] = {60, 120, 150, 130, 150};
     for (int column = 0; column < ColStatus; ++column)
         lstUser->setColumnWidth(column, widths[column]);
