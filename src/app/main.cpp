@@ -32,8 +32,8 @@ int main(int argc, char *argv[]) {
     QApplication::setApplicationName(QStringLiteral("quellio"));
     QApplication::setOrganizationName(QStringLiteral("quellio"));
     QApplication::setApplicationDisplayName(QStringLiteral("Quellio抽奖(全能版)"));
-    if (!startUp(QApplication::applicationDirPath())) return 1;
     style::apply();
+    if (!startUp(QApplication::applicationDirPath())) return 1;
     rosterscreens::installCamera();
 
     frmMain console;
