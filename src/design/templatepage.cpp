@@ -69,4 +69,12 @@ bool copyToWorkingFile(const QString &appPath, const QString &templateName) {
                        appPath + QStringLiteral("skin/sdb.tmp"));
 }
 
+RestoreResult restoreFactoryTemplate(const QString &appPath, const QString &templateFile) {
+    const QString backup = appPath + QStringLiteral("skin/bak/") + getFileName(templateFile);
+    if (!fileExists(backup)) return {false, QStringLiteral("找不到原始数据文件无法恢复...")};
+    const bool ok = replaceFile(backup, templateFile) &&
+                    replaceFile(backup, appPath + QStringLiteral("skin/sdb.tmp"));
+    return {ok, QStringLiteral("正在打开备份文件...")};
+}
+
 }  // namespace design

@@ -29,3 +29,16 @@ bool saveTemplatePage(const QString &appPath, const QString &templateName, int w
 bool copyToWorkingFile(const QString &appPath, const QString &templateName);
 
 }  // namespace design
+
+namespace design {
+
+// Putting a template back to its factory state, in the steps the restore dialog shows. The
+// designer has deleted its working copy before; restoring copies skin/bak/<file> over the
+// template and over the working copy. Without a factory copy nothing changes.
+struct RestoreResult {
+    bool restored = false;
+    QString notice;  // what the dialog says last
+};
+RestoreResult restoreFactoryTemplate(const QString &appPath, const QString &templateFile);
+
+}  // namespace design
