@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include "awards/camerahook.h"
+#include "chrome/widgets.h"
 #include "core/appstate.h"
 #include "core/helpers.h"
 #include "core/ui.h"
@@ -27,24 +28,6 @@ namespace {
 // The picture viewer's size on the editor.
 constexpr int kViewerWidth = 189;
 constexpr int kViewerHeight = 152;
-
-// The style sheet's combo has no arrow of its own; this one draws a chevron in the text colour.
-class ChevronCombo : public QComboBox {
-public:
-    using QComboBox::QComboBox;
-
-protected:
-    void paintEvent(QPaintEvent *event) override {
-        QComboBox::paintEvent(event);
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(isEnabled() ? QColor(169, 97, 100) : QColor(210, 180, 182), 1.6,
-                            Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        const QPointF centre(width() - 13.0, height() / 2.0 + 1.0);
-        painter.drawPolyline(QPolygonF{centre + QPointF(-4, -2.5), centre + QPointF(0, 1.5),
-                                       centre + QPointF(4, -2.5)});
-    }
-};
 
 QLineEdit *numberBox(QWidget *parent, int digits, int width) {
     auto *edit = new QLineEdit(QStringLiteral("0"), parent);

@@ -1,8 +1,10 @@
 #include "chrome/widgets.h"
 
+#include <QHBoxLayout>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPushButton>
 
 #include "chrome/icons.h"
 #include "chrome/style.h"
@@ -114,4 +116,15 @@ void ChevronCombo::paintEvent(QPaintEvent *event) {
     const QPointF centre(width() - 13.0, height() / 2.0 + 1.0);
     painter.drawPolyline(
         QPolygonF{centre + QPointF(-4, -2.5), centre + QPointF(0, 1.5), centre + QPointF(4, -2.5)});
+}
+
+QHBoxLayout *okEscButtons(QWidget *dialog, QPushButton **ok, QPushButton **esc) {
+    *ok = new QPushButton(QStringLiteral("确定"), dialog);
+    (*ok)->setDefault(true);
+    *esc = new QPushButton(QStringLiteral("退出"), dialog);
+    auto *row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(*ok);
+    row->addWidget(*esc);
+    return row;
 }

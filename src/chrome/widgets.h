@@ -4,6 +4,9 @@
 #include <QColor>
 #include <QComboBox>
 #include <QLabel>
+
+class QHBoxLayout;
+class QPushButton;
 #include <QString>
 
 // Small painted controls of the console and dialogs.
@@ -73,3 +76,6 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override;
 };
+
+// The right-aligned "确定" (default) and "退出" row that ends the small dialogs.
+QHBoxLayout *okEscButtons(QWidget *dialog, QPushButton **ok, QPushButton **esc);

@@ -1,4 +1,5 @@
 #include "core/frmLogin.h"
+#include "chrome/widgets.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -24,13 +25,7 @@ frmLogin::frmLogin(QWidget *parent) : QDialog(parent) {
     frameLayout->addWidget(pwd);
     frameLayout->addWidget(label1);
 
-    cmdOk = new QPushButton(QStringLiteral("确定"), this);
-    cmdOk->setDefault(true);
-    cmdEsc = new QPushButton(QStringLiteral("退出"), this);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(cmdOk);
-    buttons->addWidget(cmdEsc);
+    QHBoxLayout *buttons = okEscButtons(this, &cmdOk, &cmdEsc);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(frame);
     layout->addLayout(buttons);

@@ -1,4 +1,5 @@
 #include "core/frmPass.h"
+#include "chrome/widgets.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
@@ -27,13 +28,7 @@ frmPass::frmPass(QWidget *parent) : QDialog(parent) {
     form->addRow(QStringLiteral("确认密码∶"), pwd2);
     form->addRow(QString(), hint);
 
-    cmdOk = new QPushButton(QStringLiteral("确定"), this);
-    cmdOk->setDefault(true);
-    cmdEsc = new QPushButton(QStringLiteral("退出"), this);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(cmdOk);
-    buttons->addWidget(cmdEsc);
+    QHBoxLayout *buttons = okEscButtons(this, &cmdOk, &cmdEsc);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(chkIsPWD);
     layout->addLayout(form);
