@@ -1,93 +1,8 @@
-#include <QDir>
-#include <QKeyEvent>
-#include <QPainter>
-#include <QQuickWindow>
-#include <QtTest>
-
-#include "core/appstate.h"
-#include "core/store.h"
-#include "core/widgethelpers.h"
 #include "design/templatepage.h"
-#include "draw/frmStart.h"
+#include "livescreen.h"
 #include "stage/protocol.h"
-#include "stage/qmlstage.h"
-#include "support/fakemediabackend.h"
-#include "support/scriptedui.h"
-#include "support/tempprogramfolder.h"
 
 namespace {
-
-constexpr int kLandingMs = 15000;
-
-// The draw screen on the real draw movie, offscreen, at the size of a projector.
-struct LiveScreen {
-    TempProgramFolder folder;
-    ScriptedUi *ui = installScriptedUi();
-    FakeMedia *media = installFakeMedia();
-    bool started = false;
-    std::unique_ptr<frmStart> form;
-
-    int askEnd = 0;  // end-of-draw prompts asked for
-    LiveScreen() {
-        installFontSubstitutes();
-        started = folder.start();
-        appState().luckDelay = 0;
-        appState().isTimeProtect = 1;
-        appState().timeProtectNum = 1;
-    }
-    bool open() {
-        form = std::make_unique<frmStart>();
-        form->openAskEnd = [this](frmStart &) { ++askEnd; };
-        form->show();
-        QElapsedTimer clock;
-        clock.start();
-        while (!form->isStageReady() && clock.elapsed() < 15000)
-            QTest::qWait(20);
-        return form->isStageReady() && stage() && stage()->root();
-    }
-    QmlStage *stage() const { return qobject_cast<QmlStage *>(form->stage()); }
-    int state() const { return form->session().drawState; }
-    // A key as the operator presses it on the stage.
-    void key(int qtKey) {
-        QKeyEvent press(QEvent::KeyPress, qtKey, Qt::NoModifier);
-        QCoreApplication::sendEvent(stage()->quickWindow(), &press);
-        QTest::qWait(30);
-    }
-    int count(const QString &sql) { return store::scalar(folder.db(), sql).toInt(); }
-    bool waitState(int wanted, int timeoutMs = kLandingMs) {
-        QElapsedTimer clock;
-        clock.start();
-        while (state() != wanted && clock.elapsed() < timeoutMs)
-            QTest::qWait(20);
-        return state() == wanted;
-    }
-    // Space starts, and once the stop guard is over, space stops; true once landed and stored.
-    bool drawWithSpace() {
-        key(Qt::Key_Space);
-        if (!waitState(draw::Running, 3000)) return false;
-        QElapsedTimer clock;
-        clock.start();
-        while (form->tmDelay().isActive() && clock.elapsed() < 5000)
-            QTest::qWait(20);
-        key(Qt::Key_Space);
-        return waitState(draw::Result);
-    }
-    // The stage as the hall sees it, with the stop guard's panel when it is up.
-    void save(const QString &name) {
-        const QString dir = qEnvironmentVariable("QUELLIO_SCREENSHOT_DIR");
-        QTest::qWait(80);
-        QImage image = stage()->grab();
-        if (form->picInfo()->isVisible()) {
-            QPainter painter(&image);
-            const QPixmap panel = form->picInfo()->grab();
-            painter.drawPixmap(form->mapFromGlobal(form->picInfo()->pos()), panel);
-        }
-        QVERIFY(!image.isNull());
-        if (dir.isEmpty()) return;
-        QDir().mkpath(dir);
-        QVERIFY(image.save(dir + QLatin1Char('/') + name));
-    }
-};
 
 const QStringList &roster() {
     static const QStringList names{
@@ -115,7 +30,7 @@ void TestDrawScreenMovie::wholeDrawsOnTheRealMovie() {
     const int first = s.folder.addAward(QStringLiteral("一等奖"), 10, 1, 1, 0, 0, 0,
                                         QStringLiteral("笔记本电脑"));
     const int second = s.folder.addAward(QStringLiteral("二等奖"), 5, 1);
-    QVERIFY2(s.open(), qPrintable(s.stage() ? s.stage()->errors().join('\n') : QString()));
+    QVERIFY2(s.open(), qPrintable(s.stageErrors()));
     QCOMPARE(s.form->session().award.id, first);
     QCOMPARE(s.stage()->grab().size(), QSize(1920, 1080));
 
@@ -206,20 +121,7 @@ void TestDrawScreenMovie::paradeToItsEndTwice() {
     QCOMPARE(s.form->playIndex(), 5);
 }
 
-// The offscreen platform with one screen the size of a projector, so that full screen means
-// 1920 x 1080 as in the hall.
 int main(int argc, char *argv[]) {
-    QTemporaryDir dir;
-    const QString config = dir.filePath(QStringLiteral("screens.json"));
-    QFile file(config);
-    if (!file.open(QIODevice::WriteOnly)) return 1;
-    file.write(R"({"screens": [{"name": "hall", "x": 0, "y": 0, "width": 1920, "height": 1080,
-                   "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
-    file.close();
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + config.toLocal8Bit());
-    QApplication app(argc, argv);
-    TestDrawScreenMovie test;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&test, argc, argv);
+    return runOnProjector<TestDrawScreenMovie>(argc, argv);
 }
 #include "tst_drawscreen_movie.moc"

@@ -16,6 +16,7 @@
 #include "core/widgethelpers.h"
 #include "stage/protocol.h"
 #include "stage/qmlstage.h"
+#include "support/stageclick.h"
 
 class StageRig {
 public:
@@ -72,24 +73,9 @@ public:
     }
     QStringList callList(const char *function) { return call(function).toStringList(); }
 
-    static QQuickItem *findItem(QQuickItem *from, const QString &objectName) {
-        if (!from) return nullptr;
-        if (from->objectName() == objectName && from->isVisible()) return from;
-        for (QQuickItem *child : from->childItems())
-            if (QQuickItem *hit = findItem(child, objectName)) return hit;
-        return nullptr;
-    }
     // Clicks an on-stage item the way the operator would.
     bool click(const QString &objectName) {
-        QTest::qWait(40);  // let a bar that just changed lay out its buttons
-        QQuickItem *item = findItem(stage.root(), objectName);
-        if (!item) return false;
-        // Positioners lay out on the next frame; a loaded machine may not have drawn it yet.
-        for (QQuickItem *up = item; up; up = up->parentItem())
-            up->ensurePolished();
-        const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-        QTest::mouseClick(stage.quickWindow(), Qt::LeftButton, {}, centre.toPoint());
-        return true;
+        return clickStageItem(stage.quickWindow(), stage.root(), objectName);
     }
     void key(int qtKey, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QKeyEvent press(QEvent::KeyPress, qtKey, modifiers);

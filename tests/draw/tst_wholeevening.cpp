@@ -1,0 +1,250 @@
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSet>
+#include <QSqlQuery>
+#include <QTabWidget>
+#include <QTreeWidget>
+
+#include "chrome/style.h"
+#include "core/appstate.h"
+#include "draw/audit.h"
+#include "draw/frmAddJX.h"
+#include "draw/frmAskEnd.h"
+#include "draw/frmGiveUp.h"
+#include "livescreen.h"
+#include "stage/protocol.h"
+#include "support/overstage.h"
+
+namespace {
+
+// 200 participants with names that are all different, so that the exported list, which carries
+// names, can be traced back to the store.
+QStringList partyRoster() {
+    const QStringList surnames = {"张", "王", "李", "赵", "刘", "陈", "杨", "黄", "周", "吴",
+                                  "徐", "孙", "胡", "朱", "高", "林", "何", "郭", "马", "罗"};
+    const QStringList given = {"伟", "芳", "娜", "敏", "静", "磊", "晓明", "志强", "雪梅", "一帆"};
+    const QStringList parts = {"研发中心", "市场部", "财务部", "销售一部", "客户服务部"};
+    QStringList rows;
+    for (int i = 0; i < 200; ++i)
+        rows << surnames[i % 20] + given[i / 20] + QLatin1Char('|') + parts[i % parts.size()];
+    return rows;
+}
+
+QList<qint64> idList(const QString &joined) {
+    QList<qint64> ids;
+    for (const QString &id : joined.split(QLatin1Char(','), Qt::SkipEmptyParts))
+        ids << id.toLongLong();
+    return ids;
+}
+
+struct CsvRow {
+    QString award;
+    QString prize;
+    QString name;
+    QString part;
+};
+
+// The exported file as the operator opens it: UTF-8 with a BOM, lines ending in CR LF, no field
+// that needs quotes in this evening.
+bool readCsv(const QString &path, QList<CsvRow> *rows) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return false;
+    QByteArray bytes = file.readAll();
+    if (!bytes.startsWith("\xEF\xBB\xBF") || !bytes.endsWith("\r\n")) return false;
+    const QStringList lines = QString::fromUtf8(bytes.mid(3)).split(QStringLiteral("\r\n"));
+    if (lines.first() != QStringLiteral("序号,奖项名称,奖品成名,中奖名单,备注")) return false;
+    for (int i = 1; i < lines.size() - 1; ++i) {
+        const QStringList fields = lines[i].split(QLatin1Char(','));
+        if (fields.size() != 5 || fields[0] != QString::number(i)) return false;
+        rows->append({fields[1], fields[2], fields[3], fields[4]});
+    }
+    return true;
+}
+
+// For docs/screenshots when QUELLIO_SCREENSHOT_DIR names a folder.
+void saveOverStage(LiveScreen &s, QDialog &dialog, const QString &name) {
+    const QString dir = qEnvironmentVariable("QUELLIO_SCREENSHOT_DIR");
+    if (dir.isEmpty()) return;
+    QDir().mkpath(dir);
+    const QPixmap stage = QPixmap::fromImage(s.stage()->grab());
+    overStage(stage, dialog.grab(), dialog.windowTitle()).save(dir + QLatin1Char('/') + name);
+}
+
+}  // namespace
+
+// A whole evening on the real draw movie, pressed as the operator presses it: keys for start and
+// stop, the stage's buttons for cancel, give-up and make-up, and the real dialogs they open.
+class TestWholeEvening : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fromFirstBatchToTheExport();
+
+private:
+    void drawBatch(LiveScreen &s, int award, int expectedSize, int expectedTotal);
+    int winners(LiveScreen &s, int award) {
+        return s.count(QStringLiteral("SELECT COUNT(*) FROM UserList WHERE JxID LIKE ?"),
+                       {store::awardPattern(award)});
+    }
+};
+
+void TestWholeEvening::drawBatch(LiveScreen &s, int award, int expectedSize, int expectedTotal) {
+    QCOMPARE(s.form->session().award.id, award);
+    QCOMPARE(s.form->session().batchCount, expectedSize);
+    QVERIFY(s.drawWithSpace());
+    QCOMPARE(idList(s.form->session().lastWinnerIds).size(), expectedSize);
+    QCOMPARE(winners(s, award), expectedTotal);
+}
+
+void TestWholeEvening::fromFirstBatchToTheExport() {
+    style::apply();
+    LiveScreen s;
+    QVERIFY(s.started);
+    appState().isTimeProtect = 0;
+    s.folder.addUsers(partyRoster());
+    const int third =
+        s.folder.addAward(QStringLiteral("三等奖"), 20, 2, 1, 0, 0, 0, QStringLiteral("蓝牙耳机"));
+    const int second =
+        s.folder.addAward(QStringLiteral("二等奖"), 7, 3, 1, 0, 0, 0, QStringLiteral("平板电脑"));
+    // The first prize is open to earlier winners.
+    const int first =
+        s.folder.addAward(QStringLiteral("一等奖"), 2, 1, 0, 0, 0, 0, QStringLiteral("笔记本电脑"));
+    QVERIFY2(s.open(), qPrintable(s.stageErrors()));
+
+    // Third prize: a batch of ten, taken back with the cancel button, then both batches.
+    drawBatch(s, third, 10, 10);
+    s.ui->answers.enqueue(true);
+    QVERIFY(s.click(proto::btn::btnCancel));
+    QCOMPARE(s.ui->last().text, QStringLiteral("确定要撤消此次产生的中奖结果么?"));
+    QTRY_COMPARE(winners(s, third), 0);
+    drawBatch(s, third, 10, 10);
+    drawBatch(s, third, 10, 20);
+
+    // Second prize, 7 in 3 batches: 2, 2, then 3. Start on the full award moves on first.
+    s.key(Qt::Key_Space);
+    QCOMPARE(s.state(), int(draw::Idle));
+    drawBatch(s, second, 2, 2);
+    drawBatch(s, second, 2, 4);
+
+    // Both of the batch just drawn did not come: given up through the stage's button.
+    const QList<qint64> absent = idList(s.form->session().lastWinnerIds);
+    bool opened = false;
+    whenDialogOpens<frmGiveUp>(
+        [&](frmGiveUp &dialog) {
+            for (qint64 id : absent)
+                dialog.setTicked(id, true);
+            s.ui->answers.enqueue(true);
+            dialog.cmdDelLuck->click();
+            dialog.reject();
+        },
+        &opened);
+    QVERIFY(s.click(proto::btn::btnGiveUp));
+    QTRY_VERIFY(opened);
+    QCOMPARE(s.ui->last().text, QStringLiteral("确认要将选择的中奖名单做弃奖么?"));
+    QCOMPARE(winners(s, second), 2);
+    // Their two places are drawn again, among the others.
+    drawBatch(s, second, 2, 4);
+    for (qint64 id : idList(s.form->session().lastWinnerIds))
+        QVERIFY(!absent.contains(id));
+    drawBatch(s, second, 3, 7);
+
+    // Three more second prizes, added in the middle of the draw: the plan becomes 10 in 3
+    // batches, and the seven already drawn leave one batch of three.
+    whenDialogOpens<frmAddJX>(
+        [&](frmAddJX &dialog) {
+            QCOMPARE(dialog.ComboJX->currentData().toInt(), second);
+            dialog.txtNum->setText(QStringLiteral("3"));
+            dialog.cmdSave->click();
+        },
+        &opened);
+    QVERIFY(s.click(proto::btn::btnAdd));
+    QTRY_VERIFY(opened);
+    QTRY_COMPARE(s.form->session().batchCount, 3);
+    drawBatch(s, second, 3, 10);
+
+    // First prize, then an award nobody planned: both through the make-up dialog's second page.
+    s.key(Qt::Key_Space);
+    drawBatch(s, first, 2, 2);
+    whenDialogOpens<frmAddJX>(
+        [&](frmAddJX &dialog) {
+            dialog.sTab->setCurrentIndex(1);
+            dialog.txtJxName->setText(QStringLiteral("老板加码奖"));
+            dialog.txtJxNum->setText(QStringLiteral("3"));
+            dialog.txtJxGroup->setText(QStringLiteral("1"));
+            dialog.txtJpName->setText(QStringLiteral("现金红包"));
+            dialog.cmdSave->click();
+        },
+        &opened);
+    QVERIFY(s.click(proto::btn::btnAdd));
+    QTRY_VERIFY(opened);
+    const int bonus = s.form->session().award.id;
+    QVERIFY(bonus != first);
+    QCOMPARE(s.form->session().award.name, QStringLiteral("老板加码奖"));
+    drawBatch(s, bonus, 3, 3);
+
+    // Everything is drawn: Start brings the end-of-draw prompt, which exports the list.
+    const QString csv = s.folder.path(QStringLiteral("record/晚会中奖名单.csv"));
+    whenDialogOpens<frmAskEnd>(
+        [&](frmAskEnd &dialog) {
+            saveOverStage(s, dialog, QStringLiteral("ask-end.png"));
+            s.ui->files.enqueue(csv);
+            dialog.imgLab[frmAskEnd::Export]->click();
+            dialog.CancelButton->click();
+        },
+        &opened);
+    s.key(Qt::Key_Space);
+    QTRY_VERIFY(opened);
+    QVERIFY(s.ui->texts().contains(csv + QStringLiteral("\n导出名单完毕!!")));
+    QCOMPARE(s.ui->unanswered, 0);
+
+    // The file holds the store's winners: award by award in draw order, batch by batch.
+    QList<CsvRow> rows;
+    QVERIFY(readCsv(csv, &rows));
+    QCOMPARE(rows.size(), 20 + 10 + 2 + 3);
+    QSqlQuery query(s.folder.db());
+    QVERIFY(
+        query.prepare(QStringLiteral("SELECT UserName, UserPart, UpdateTime FROM UserList "
+                                     "WHERE JxID LIKE ? ESCAPE '\\'")));
+    int row = 0;
+    const QList<QPair<int, QString>> awards = {
+        {third, "三等奖"}, {second, "二等奖"}, {first, "一等奖"}, {bonus, "老板加码奖"}};
+    const QList<int> slotCounts = {20, 10, 2, 3};
+    for (int a = 0; a < awards.size(); ++a) {
+        query.addBindValue(store::awardPattern(awards[a].first));
+        QVERIFY(query.exec());
+        QHash<QString, QPair<QString, QString>> stored;  // name -> part, time
+        while (query.next())
+            stored.insert(query.value(0).toString(),
+                          {query.value(1).toString(), query.value(2).toString()});
+        QCOMPARE(stored.size(), slotCounts[a]);
+        QString lastTime;
+        for (int i = 0; i < slotCounts[a]; ++i, ++row) {
+            const CsvRow &line = rows[row];
+            QCOMPARE(line.award, awards[a].second);
+            QVERIFY2(stored.contains(line.name), qPrintable(line.name));
+            QCOMPARE(line.part, stored[line.name].first);
+            QVERIFY(stored[line.name].second >= lastTime);
+            lastTime = stored[line.name].second;
+        }
+    }
+    // Nobody who gave up is listed, and every press left its line in the audit trail: seven
+    // batches of the awards plus the cancelled one, the redraw and the make-up presses.
+    for (qint64 id : absent) {
+        const QString name =
+            store::scalar(s.folder.db(), QStringLiteral("SELECT UserName FROM UserList WHERE ID=?"),
+                          {id})
+                .toString();
+        for (const CsvRow &line : rows)
+            QVERIFY(line.name != name);
+    }
+    QFile audit(draw::auditLogPath(appState().appPath));
+    QVERIFY(audit.open(QIODevice::ReadOnly));
+    QCOMPARE(audit.readAll().count('\n'), 10);
+}
+
+int main(int argc, char *argv[]) {
+    return runOnProjector<TestWholeEvening>(argc, argv);
+}
+#include "tst_wholeevening.moc"
