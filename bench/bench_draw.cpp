@@ -13,6 +13,7 @@
 #include <functional>
 #include <vector>
 
+#include "benchstore.h"
 #include "core/appstate.h"
 #include "core/programfolder.h"
 #include "core/startup.h"
@@ -63,41 +64,6 @@ Timing medianOf(int runs, const std::function<void()> &work) {
 
 void printLine(const char *what, Timing t) {
     std::printf("  %-38s %9.3f ms wall %9.3f ms cpu\n", what, t.wall, t.cpu);
-}
-
-// n participants with DiffNum 0..9; one in 200 already holds a win of one of 20 awards.
-void fillStore(QSqlDatabase db, int n) {
-    db.transaction();
-    QSqlQuery award(db);
-    award.prepare(
-        QStringLiteral("INSERT INTO JPList (ID, JXName, JXNum, JXGroup, JPName, "
-                       "OrderNum, isReLuck) VALUES (?, ?, ?, ?, ?, ?, 0)"));
-    for (int a = 1; a <= 20; ++a) {
-        award.addBindValue(a);
-        award.addBindValue(QStringLiteral("奖项%1").arg(a));
-        award.addBindValue(a == 1 ? 10000 : 1000);
-        award.addBindValue(a == 1 ? 1000 : 1);
-        award.addBindValue(QStringLiteral("奖品%1").arg(a));
-        award.addBindValue(a);
-        award.exec();
-    }
-    QSqlQuery user(db);
-    user.prepare(
-        QStringLiteral("INSERT INTO UserList (ID, UserName, UserPart, UserPhoto, "
-                       "DiffNum, UserStatus, JxID, UpdateTime) "
-                       "VALUES (?, ?, '研发部', '', ?, ?, ?, ?)"));
-    const QString now = store::nowText();
-    for (int id = 1; id <= n; ++id) {
-        const bool winner = id % 200 == 0;
-        user.bindValue(0, id);
-        user.bindValue(1, QStringLiteral("员工%1").arg(id));
-        user.bindValue(2, id % 10);
-        user.bindValue(3, winner ? 3 : 0);
-        user.bindValue(4, winner ? store::awardMarker(2 + id % 19) : QVariant());
-        user.bindValue(5, winner ? QVariant(now) : QVariant());
-        user.exec();
-    }
-    db.commit();
 }
 
 void benchRoster(int n) {
