@@ -47,16 +47,6 @@ QLabel *hint(const QString &text, QWidget *parent) {
 
 }  // namespace
 
-QString dialogFilter(const QString &pairs) {
-    const QStringList parts = pairs.split(QLatin1Char('|'));
-    QStringList filters;
-    for (int i = 0; i + 1 < parts.size(); i += 2)
-        filters << parts.at(i) + QStringLiteral(" (") +
-                       QString(parts.at(i + 1)).replace(QLatin1Char(';'), QLatin1Char(' ')) +
-                       QLatin1Char(')');
-    return filters.join(QStringLiteral(";;"));
-}
-
 AwardEditor::AwardEditor(const QString &caller, const QString &filter, QWidget *parent)
     : QWidget(parent), m_caller(caller), m_filter(filter) {
     auto *layout = new QHBoxLayout(this);

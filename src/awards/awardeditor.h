@@ -69,6 +69,3 @@ private:
     bool m_viewerReady = false;
     QString m_pendingPicture;
 };
-
-// "text|patterns|text|patterns" to a file dialog's "text (patterns);;text (patterns)".
-QString dialogFilter(const QString &pairs);

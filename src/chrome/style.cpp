@@ -22,6 +22,7 @@ QLineEdit:disabled { background: rgb(248,232,233); color: rgb(190,150,152); }
 QPushButton {
   background: white; border: 1px solid rgb(210,150,155); border-radius: 5px;
   padding: 6px 16px; min-width: 64px; }
+QPushButton[role="compact"] { padding: 4px 10px; min-width: 36px; }
 QPushButton:hover { background: rgb(255,245,245); border-color: rgb(200,40,58); }
 QPushButton:pressed { background: rgb(250,220,222); }
 QPushButton:default, QPushButton[role="primary"] {

@@ -28,6 +28,7 @@
 #include "results/frmLuckList.h"
 #include "roster/rosterscreens.h"
 #include "sound/frmKeyBoard.h"
+#include "sound/frmMusic.h"
 #include "stage/stage.h"
 
 namespace {
@@ -251,8 +252,7 @@ QWidget *frmMain::buildAwardPage() {
     figures->addStretch();
     layout->addLayout(figures);
     labsetJx = new LinkLabel(QStringLiteral("▸ 管理我的奖项"), page);
-    connect(labsetJx, &LinkLabel::clicked, this,
-            [this] { comingSoon(QStringLiteral("奖项管理")); });
+    connect(labsetJx, &LinkLabel::clicked, this, &frmMain::openAwards);
     layout->addWidget(labsetJx);
     layout->addStretch();
     return page;
@@ -383,9 +383,11 @@ void frmMain::openTool(int index) {
             keys.exec();
             break;
         }
-        case 2:
-            comingSoon(QStringLiteral("音乐设置"));
+        case 2: {
+            frmMusic music(this);
+            music.exec();
             break;
+        }
         case 3: {
             appState().guideFor = QStringLiteral("guidebtn");
             frmGuide guide(this);
@@ -442,5 +444,11 @@ void frmMain::resetDraw() {
 }
 
 void frmMain::AddUserRefrash() {
-    comingSoon(QStringLiteral("名单管理"));
+    rosterscreens::openManager(this);
+}
+
+void frmMain::openAwards() {
+    frmJP awards(this);
+    awards.exec();
+    tjJX();
 }

@@ -32,6 +32,8 @@ public:
     void reFrashObj();
     void reloadTemplate();
     void AddUserRefrash();
+    // labsetJx: the award manager, then the award figures again.
+    void openAwards();
 
     // The panel: -247 hidden, 96 open, 30 pixels a tick.
     static constexpr int kPanelHidden = -247;

@@ -87,3 +87,13 @@ QColor WidgetUi::chooseColor(const QColor &initial, const QString &title) {
 bool WidgetUi::openUrl(const QUrl &url) {
     return QDesktopServices::openUrl(url);
 }
+
+QString dialogFilter(const QString &pairs) {
+    const QStringList parts = pairs.split(QLatin1Char('|'));
+    QStringList filters;
+    for (int i = 0; i + 1 < parts.size(); i += 2)
+        filters << parts.at(i) + QStringLiteral(" (") +
+                       QString(parts.at(i + 1)).replace(QLatin1Char(';'), QLatin1Char(' ')) +
+                       QLatin1Char(')');
+    return filters.join(QStringLiteral(";;"));
+}

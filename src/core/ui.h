@@ -54,6 +54,9 @@ public:
 };
 
 Ui &ui();
+// "text|patterns|text|patterns", the filters as the settings and dialogs write them, to a file
+// dialog's "text (patterns);;text (patterns)".
+QString dialogFilter(const QString &pairs);
 // Installs the service; the previous one is destroyed. Passing null restores WidgetUi.
 void setUi(std::unique_ptr<Ui> service);
 

@@ -14,42 +14,26 @@
 #include "draw/frmStart.h"
 #include "sound/builtinsounds.h"
 #include "sound/clsMusic.h"
+#include "sound/musicsettings.h"
 #include "stage/protocol.h"
 
 namespace draw {
 
-namespace {
-
-bool isOn(const QString &key) {
-    qint16 value = 0;
-    QString ignored;
-    return settings::readInt(settings::kMusic, key, &value, &ignored) && value == 1;
-}
-
-// A file chosen in the music settings, under Music/; "no" or blank means none.
-QString musicFile(const QString &appPath, const QString &key) {
-    const QString name = readIni(settings::kMusic, key, appState().iniPath).trimmed();
-    if (name.isEmpty() || name == QLatin1String("no")) return QString();
-    return appPath + QStringLiteral("Music/") + name;
-}
-
-}  // namespace
-
 MusicSettings readMusicSettings(const QString &appPath) {
-    MusicSettings music;
-    music.isBgMusic = isOn(QStringLiteral("isBgMusic"));
-    music.isStartMusic = isOn(QStringLiteral("isStartMusic"));
-    music.isLuckMusic = isOn(QStringLiteral("isLuckMusic"));
-    music.isPlayMusic = isOn(QStringLiteral("isPlayMusic"));
-    music.bgFile = musicFile(appPath, QStringLiteral("BgMusicFile"));
-    music.startFile = musicFile(appPath, QStringLiteral("StartMusicFile"));
-    music.playFile = musicFile(appPath, QStringLiteral("PlayMusicFile"));
+    const music::Settings stored = music::readSettings(appPath);
+    MusicSettings settings;
+    settings.isBgMusic = stored[music::Background].on;
+    settings.isStartMusic = stored[music::Start].on;
+    settings.isLuckMusic = stored[music::Luck].on;
+    settings.isPlayMusic = stored[music::Play].on;
+    settings.bgFile = stored[music::Background].path;
+    settings.startFile = stored[music::Start].path;
+    settings.playFile = stored[music::Play].path;
     // The operator's own win sound when one is chosen and present, else the chime that comes
     // with the program.
-    music.luckFile = musicFile(appPath, QStringLiteral("LuckMusicFile"));
-    if (music.luckFile.isEmpty() || !fileExists(music.luckFile))
-        music.luckFile = appPath + sound::kWinSound;
-    return music;
+    settings.luckFile = stored[music::Luck].path;
+    if (settings.luckFile.isEmpty()) settings.luckFile = appPath + sound::kWinSound;
+    return settings;
 }
 
 }  // namespace draw

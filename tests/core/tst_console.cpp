@@ -15,6 +15,7 @@
 #include "core/store.h"
 #include "design/templatepage.h"
 #include "stage/protocol.h"
+#include "support/dialogwatch.h"
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
@@ -37,6 +38,8 @@ private Q_SLOTS:
     void login();
     void passwordDialogKeepsTheOldPasswordOnEmptyFields();
     void passwordMismatch();
+    void everyEntryOpensItsScreen_data();
+    void everyEntryOpensItsScreen();
 
 private:
     std::unique_ptr<TempProgramFolder> m_folder;
@@ -284,6 +287,47 @@ void TestConsole::passwordMismatch() {
     QCOMPARE(m_ui->last().title, QStringLiteral("警告"));
     QVERIFY(!password::isPassWordOn());
     QCOMPARE(dialog.pwd2->selectedText(), QStringLiteral("b"));
+}
+
+void TestConsole::everyEntryOpensItsScreen_data() {
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QString>("screen");
+    QTest::newRow("winner list") << "imgTool1"
+                                 << "frmLuckList";
+    QTest::newRow("hotkeys") << "imgTool2"
+                             << "frmKeyBoard";
+    QTest::newRow("music") << "imgTool3"
+                           << "frmMusic";
+    QTest::newRow("guide") << "imgTool4"
+                           << "frmGuide";
+    QTest::newRow("password") << "imgTool5"
+                              << "frmPass";
+    QTest::newRow("roster manager") << "labMD0"
+                                    << "frmAdminUser";
+    QTest::newRow("photo import") << "labMD3"
+                                  << "frmPhotoToUser";
+    QTest::newRow("number generator") << "labMD4"
+                                      << "frmNumTools";
+    QTest::newRow("award manager") << "labsetJx"
+                                   << "frmJP";
+}
+
+// Each entry of the console opens its modal screen; none says it is still to come.
+void TestConsole::everyEntryOpensItsScreen() {
+    QFETCH(QString, entry);
+    QFETCH(QString, screen);
+    frmMain console;
+    QString opened;
+    const QPointer<QTimer> watch = closeNextDialog(&opened);
+    if (entry.startsWith("imgTool"))
+        console.imgTool[entry.right(1).toInt() - 1]->click();
+    else if (entry.startsWith("labMD"))
+        Q_EMIT console.labMD[entry.right(1).toInt()]->clicked();
+    else
+        Q_EMIT console.labsetJx->clicked();
+    delete watch.data();
+    QCOMPARE(opened, screen);
+    QVERIFY2(m_ui->records.isEmpty(), qPrintable(m_ui->texts().join('\n')));
 }
 
 QTEST_MAIN(TestConsole)

@@ -20,6 +20,7 @@
 #include "core/widgethelpers.h"
 #include "draw/frmStart.h"
 #include "stage/qmlstage.h"
+#include "support/dialogwatch.h"
 #include "support/fakemediabackend.h"
 #include "support/scriptedui.h"
 #include "support/stageclick.h"
@@ -105,28 +106,6 @@ struct LiveScreen {
         QVERIFY(image.save(dir + QLatin1Char('/') + name));
     }
 };
-
-// Acts on the dialog of type T once the draw screen has opened it with exec(). `act` must close
-// it. The watch gives up after ten seconds, so a dialog that never opens fails the test rather
-// than hanging it.
-template <class T>
-void whenDialogOpens(const std::function<void(T &)> &act, bool *opened) {
-    *opened = false;
-    auto *timer = new QTimer;
-    auto *clock = new QElapsedTimer;
-    clock->start();
-    QObject::connect(timer, &QTimer::timeout, [=] {
-        auto *dialog = qobject_cast<T *>(QApplication::activeModalWidget());
-        if (!dialog && clock->elapsed() < 10000) return;
-        timer->stop();
-        timer->deleteLater();
-        delete clock;
-        if (!dialog) return;
-        *opened = true;
-        act(*dialog);
-    });
-    timer->start(20);
-}
 
 // Runs a test object on the offscreen platform with one screen the size of a projector, so that
 // full screen means 1920 x 1080 as in the hall.
