@@ -118,10 +118,13 @@ void ChevronCombo::paintEvent(QPaintEvent *event) {
         QPolygonF{centre + QPointF(-4, -2.5), centre + QPointF(0, 1.5), centre + QPointF(4, -2.5)});
 }
 
-QHBoxLayout *okEscButtons(QWidget *dialog, QPushButton **ok, QPushButton **esc) {
-    *ok = new QPushButton(QStringLiteral("确定"), dialog);
+QHBoxLayout *okEscButtons(QWidget *dialog, QPushButton **ok, QPushButton **esc,
+                          const QString &okCaption) {
+    *ok = new QPushButton(okCaption, dialog);
     (*ok)->setDefault(true);
+    (*ok)->setAutoDefault(false);
     *esc = new QPushButton(QStringLiteral("退出"), dialog);
+    (*esc)->setAutoDefault(false);
     auto *row = new QHBoxLayout;
     row->addStretch();
     row->addWidget(*ok);

@@ -77,5 +77,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 };
 
-// The right-aligned "确定" (default) and "退出" row that ends the small dialogs.
-QHBoxLayout *okEscButtons(QWidget *dialog, QPushButton **ok, QPushButton **esc);
+// The right-aligned "确定" (default; or another caption) and "退出" row that ends the small
+// dialogs.
+QHBoxLayout *okEscButtons(QWidget *dialog, QPushButton **ok, QPushButton **esc,
+                          const QString &okCaption = QStringLiteral("确定"));

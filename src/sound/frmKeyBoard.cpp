@@ -10,6 +10,7 @@
 #include <QSlider>
 #include <QVBoxLayout>
 
+#include "chrome/widgets.h"
 #include "core/appstate.h"
 #include "core/events.h"
 #include "core/settings.h"
@@ -27,15 +28,7 @@ const char *const kCaptions[hotkeys::kRowCount] = {"开始抽奖∶", "停止抽
 
 frmKeyBoard::frmKeyBoard(QWidget *parent) : QDialog(parent) {
     setWindowTitle(QStringLiteral("快捷键设置"));
-    cmdSave = new QPushButton(QStringLiteral("保存"), this);
-    cmdSave->setDefault(true);
-    cmdSave->setAutoDefault(false);
-    cmdCancel = new QPushButton(QStringLiteral("退出"), this);
-    cmdCancel->setAutoDefault(false);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(cmdSave);
-    buttons->addWidget(cmdCancel);
+    QHBoxLayout *buttons = okEscButtons(this, &cmdSave, &cmdCancel, QStringLiteral("保存"));
     auto *hint = new QLabel(
         QStringLiteral("点击输入框后直接按下要设置的键。开始与停止可以使用同一个键。"), this);
     hint->setProperty("role", QStringLiteral("hint"));

@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "chrome/widgets.h"
 #include "core/appstate.h"
 #include "core/helpers.h"
 #include "core/ui.h"
@@ -31,15 +32,7 @@ const QString kFilter = QStringLiteral(
 
 frmMusic::frmMusic(QWidget *parent) : QDialog(parent) {
     setWindowTitle(QStringLiteral("音乐设置"));
-    cmdSave = new QPushButton(QStringLiteral("保存"), this);
-    cmdSave->setDefault(true);
-    cmdSave->setAutoDefault(false);
-    cmdCancel = new QPushButton(QStringLiteral("退出"), this);
-    cmdCancel->setAutoDefault(false);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(cmdSave);
-    buttons->addWidget(cmdCancel);
+    QHBoxLayout *buttons = okEscButtons(this, &cmdSave, &cmdCancel, QStringLiteral("保存"));
     auto *hint = new QLabel(
         QStringLiteral("保存时选择的音乐会复制到程序的 Music 文件夹,程序搬到别处也能找到。"), this);
     hint->setProperty("role", QStringLiteral("hint"));
