@@ -105,6 +105,16 @@ void benchRoster(int n) {
         forgetRoster();
         engine.pressStart();
     });
+    // The parts of a cold press.
+    draw::Roster roster;
+    const Timing rosterRead = medianOf(5, [&] { roster = draw::readRoster(store::mainConn()); });
+    std::vector<qint64> excluded;
+    const Timing exclusions =
+        medianOf(5, [&] { excluded = draw::excludedIds(store::mainConn(), session.award.rule); });
+    draw::Candidates candidates;
+    const Timing selection = medianOf(
+        5, [&] { candidates = draw::selectCandidates(roster, excluded, session.award.rule); });
+    const Timing digest = medianOf(5, [&] { draw::candidateDigest(candidates); });
     const Timing tick = medianOf(200, [&] { engine.pushScrollSample(); });
     const qint64 total = draw::awardFigures(store::mainConn()).slotSum;
     QString progress;
@@ -115,6 +125,10 @@ void benchRoster(int n) {
     printLine("award load (roster read ahead)", load);
     printLine("Start press, batch of 10", press);
     printLine("Start press, cold (roster read)", coldPress);
+    printLine("  of which: roster read", rosterRead);
+    printLine("  of which: winners to leave out", exclusions);
+    printLine("  of which: candidate pools", selection);
+    printLine("  of which: candidate digest", digest);
     printLine("recording a batch (with reload)", median(records));
     printLine("scroll-sample tick", tick);
     printLine("getLuckPos, 20 awards", luckPos);
