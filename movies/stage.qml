@@ -54,7 +54,7 @@ Item {
         "vbPushLst": function (v) { pushNames(P.fields(v)) },
         "vbLuckPlay": function (v) { startParade(P.fields(v), true) },
         "vbLuckPlay1": function (v) { startParade(P.fields(v), false) },
-        "vbStartScroll": function (v) { parade.setScrolling(v.indexOf("yes") === 0) },
+        "vbStartScroll": function (v) { startScroll(v.indexOf("yes") === 0) },
         "vbCallPlay": function (v) { callPlay(v) },
         "vbCallAsClear": function (v) { if (P.flag(v)) pressButton("btnClear") },
         "vbCallMusic": function (v) {
@@ -157,6 +157,12 @@ Item {
             if (area) area.clear()
         }
         if (v !== "luckplay" && parade.active) parade.stop()
+    }
+
+    // With no award to show, the parade asked for ends at once.
+    function startScroll(on) {
+        if (on && !parade.active && buttons === "luckplay") endParade()
+        else parade.setScrolling(on)
     }
 
     // stoplucksub goes out once per draw, whatever stops it.

@@ -6,7 +6,7 @@ import QtQuick
 Item {
     id: bar
     property string state_: "defulte"      // the last changBtn value
-    property bool landing: false            // the cells are still settling
+    property bool landing: false            // the cells are still settling, nothing stored yet
     property bool soundOn: true
     property bool fullScreen: true
     property bool awake: true
@@ -44,8 +44,8 @@ Item {
     })
 
     function visibleNames() {
-        var names = (sets[state_] || sets["defulte"]).slice()
-        if (landing) names = names.filter(function (n) { return n !== "btnStart" })
+        // While the winners land nothing is stored yet: only sound, screen and exit stay.
+        var names = landing ? [] : (sets[state_] || sets["defulte"]).slice()
         names.push(soundOn ? "btnSoundOn" : "btnSoundOff")
         names.push(fullScreen ? "btnScreenN" : "btnScreenF")
         names.push("btnExit")

@@ -222,6 +222,7 @@ DrawEngine::StartOutcome DrawEngine::pressStart() {
     send(proto::vbndluck, luckTypePrefix() + m_session.winnerList);
     m_session.lastWinnerIds = m_session.winnerIds;
     if (m_session.winnerList.isEmpty()) {
+        Q_EMIT drawEmpty();
         send(proto::changBtn, proto::buttons::defulte);
         m_session.drawState = Idle;
         warn(QStringLiteral("已无符合条件的抽奖名单可抽取!"));

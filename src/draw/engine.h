@@ -59,6 +59,9 @@ Q_SIGNALS:
     void batchRecorded();
     void recordFailed(const QString &error);
     void batchCancelled();
+    // A press found nobody to draw; emitted before the warning, so the hall hears the
+    // background music again while the operator reads it.
+    void drawEmpty();
 
 private:
     void drawWinners();

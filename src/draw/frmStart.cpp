@@ -78,6 +78,8 @@ frmStart::frmStart(QWidget *parent) : QWidget(parent, Qt::Window) {
     connect(m_engine.get(), &draw::DrawEngine::batchRecorded, this, &frmStart::onBatchRecorded);
     connect(m_engine.get(), &draw::DrawEngine::recordFailed, this, &frmStart::onRecordFailed);
     connect(m_engine.get(), &draw::DrawEngine::allAwardsFull, this, &frmStart::onAllAwardsFull);
+    connect(m_engine.get(), &draw::DrawEngine::drawEmpty, this, &frmStart::backToBackground);
+    connect(m_engine.get(), &draw::DrawEngine::batchCancelled, this, &frmStart::backToBackground);
 
     openTemplate();
     m_engine->setBlockStyle([this](int batchCount) {
@@ -300,6 +302,12 @@ void frmStart::onStageReady() {
 
 void frmStart::onBtnClick(const QString &button) {
     const int state = m_session.drawState;
+    // While the names roll or land, the batch is not stored yet: moving to another award, a
+    // parade or a dialog now would lose it.
+    static const QStringList restOnly = {proto::btn::btnPre,    proto::btn::btnNext,
+                                         proto::btn::btnAdd,    proto::btn::btnGiveUp,
+                                         proto::btn::btnLstOut, proto::btn::btnPlayLuck};
+    if (state == draw::Running && restOnly.contains(button)) return;
     if (button == proto::btn::btnExit) {
         close();
     } else if (button == proto::btn::btnScreenN) {
@@ -354,7 +362,6 @@ void frmStart::cmdStart() {
         case draw::DrawEngine::StartOutcome::Stepped:
             return;
         case draw::DrawEngine::StartOutcome::Empty:
-            if (m_musicSettings.isBgMusic) resumeBackground();
             return;
         case draw::DrawEngine::StartOutcome::Drawn:
             break;

@@ -132,6 +132,8 @@ private:
     void readMusic();
     void startBackgroundMusic();
     void resumeBackground();
+    // After a cancelled batch or an empty press: the background music, unless it is playing.
+    void backToBackground();
     void playFromStart(const QString &path);
     void stopMusic();
     void setVolumeLevel(int volume);

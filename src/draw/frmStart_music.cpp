@@ -70,6 +70,10 @@ void frmStart::resumeBackground() {
     if (!m_tmM.isActive()) m_tmM.start();
 }
 
+void frmStart::backToBackground() {
+    if (m_musicSettings.isBgMusic && m_currentFile != m_musicSettings.bgFile) resumeBackground();
+}
+
 void frmStart::stopMusic() {
     m_music->StopPlaying();
     m_tmM.stop();
@@ -117,6 +121,8 @@ void frmStart::tmM_Timer() {
 
 void frmStart::startPlayback() {
     m_session.drawState = draw::Playback;
+    // Every parade starts scrolling, whatever the last one was left at.
+    m_isScrollOn = true;
     m_playCursor = 0;
     cmdPlayLuck();
 }

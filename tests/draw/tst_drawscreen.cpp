@@ -87,6 +87,9 @@ private Q_SLOTS:
     void paradeRunsOnAndNumbersGoOn();
     void musicFollowsTheDraw();
     void buttonsByState();
+    void restButtonsWaitForTheLanding_data();
+    void restButtonsWaitForTheLanding();
+    void backgroundAfterCancelAndEmptyPress();
 };
 
 void TestDrawScreen::startUpDialogue_data() {
@@ -551,6 +554,76 @@ void TestDrawScreen::buttonsByState() {
     s.stage->reply(proto::cmd::msg, QStringLiteral("trace"));
     QCOMPARE(s.form->Text1()->toPlainText(), QStringLiteral("trace\n"));
     setPrinterFactory(nullptr);
+}
+
+void TestDrawScreen::restButtonsWaitForTheLanding_data() {
+    QTest::addColumn<QString>("button");
+    QTest::newRow("next award") << proto::btn::btnNext;
+    QTest::newRow("previous award") << proto::btn::btnPre;
+    QTest::newRow("parade") << proto::btn::btnPlayLuck;
+    QTest::newRow("give-up") << proto::btn::btnGiveUp;
+    QTest::newRow("make-up") << proto::btn::btnAdd;
+    QTest::newRow("export") << proto::btn::btnLstOut;
+}
+
+// Between Stop and the landing nothing is stored yet: a button that leaves the award or opens a
+// dialog is refused, and the landing then stores the batch as usual.
+void TestDrawScreen::restButtonsWaitForTheLanding() {
+    QFETCH(QString, button);
+    Screen s;
+    QVERIFY(s.started);
+    s.folder.addUsers({QStringLiteral("张三"), QStringLiteral("李四"), QStringLiteral("王五")});
+    const int first = s.folder.addAward(QStringLiteral("三等奖"), 2, 1);
+    s.folder.addAward(QStringLiteral("二等奖"), 1, 1);
+    appState().isTimeProtect = 0;
+    s.open();
+    s.click(proto::btn::btnStart);
+    s.stage->reply(proto::cmd::blocksetok, proto::ok);
+    s.click(proto::btn::btnStop);
+    s.click(button);
+    QCOMPARE(s.state(), int(draw::Running));
+    QCOMPARE(s.session().award.id, first);
+    QVERIFY(s.dialogs.isEmpty());
+    QVERIFY(s.ui->records.isEmpty());
+    s.stage->reply(proto::cmd::stoplucksub);
+    QCOMPARE(s.state(), int(draw::Result));
+    QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM UserList WHERE UserStatus=3")), 2);
+}
+
+void TestDrawScreen::backgroundAfterCancelAndEmptyPress() {
+    Screen s;
+    QVERIFY(s.started);
+    QDir().mkpath(s.folder.path(QStringLiteral("Music")));
+    QFile file(s.folder.path(QStringLiteral("Music/bg.mp3")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    const QString bg = file.fileName();
+    const QString win = s.folder.path(QStringLiteral("sys/win.wav"));
+    s.media->lengths = {{bg, 60000}, {win, 2000}};
+    s.folder.setConfig(QStringLiteral("music"), QStringLiteral("isBgMusic"), QStringLiteral("1"));
+    s.folder.setConfig(QStringLiteral("music"), QStringLiteral("isLuckMusic"), QStringLiteral("1"));
+    s.folder.setConfig(QStringLiteral("music"), QStringLiteral("BgMusicFile"),
+                       QStringLiteral("bg.mp3"));
+    s.folder.addUsers({QStringLiteral("张三")});
+    s.folder.addAward(QStringLiteral("一等奖"), 2, 2);
+    appState().isTimeProtect = 0;
+    s.open();
+    s.drawOnce();
+    QCOMPARE(s.form->currentMusic(), win);
+    // Cancelled: the chime gives way to the background at once.
+    s.ui->answers.enqueue(true);
+    s.click(proto::btn::btnCancel);
+    QCOMPARE(s.form->currentMusic(), bg);
+    s.drawOnce();
+    QCOMPARE(s.form->currentMusic(), win);
+    // Nobody left: the background is back before the warning.
+    QString playingAtWarning;
+    s.ui->onMessage = [&](const ScriptedUi::Record &) {
+        playingAtWarning = s.form->currentMusic();
+    };
+    s.click(proto::btn::btnStart);
+    QCOMPARE(s.ui->last().text, QStringLiteral("已无符合条件的抽奖名单可抽取!"));
+    QCOMPARE(playingAtWarning, bg);
 }
 
 QTEST_MAIN(TestDrawScreen)

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void pictureModeShowsEachParticipantsPhoto();
     void paradeOfThreeAwards();
     void paradePausesAndCanBeCancelled();
+    void paradeWithNoAwardEnds();
 
 private:
     QTemporaryDir m_photos;
@@ -51,6 +52,8 @@ void TestStageControls::everyButtonReportsItsName() {
     QVERIFY(rig.startUp());
     rig.stage.root()->setProperty("restMs", 600000);
     rig.send(proto::changBtn, state);
+    // After a stop the bar comes back only once the winners have landed.
+    if (state == proto::buttons::stop) QVERIFY(rig.waitFor(proto::cmd::stoplucksub));
     QTest::qWait(50);
     for (const QString &name : buttons) {
         const int before = rig.count(proto::cmd::btnclick);
@@ -99,11 +102,15 @@ void TestStageControls::keysStartAndStopAndAreReported() {
     rig.key(Qt::Key_Space);
     QCOMPARE(rig.args(proto::cmd::btnclick),
              (QStringList{proto::btn::btnStart, proto::btn::btnStop}));
-    // While the cells land, the start key stays quiet.
+    // While the cells land, the start key stays quiet and the bar offers nothing that would
+    // leave the batch unstored.
     rig.send(proto::changBtn, proto::buttons::stop);
     rig.key(Qt::Key_Space);
     QCOMPARE(rig.count(proto::cmd::btnclick), 2);
+    QCOMPARE(rig.callList("visibleButtons"),
+             (QStringList{proto::btn::btnSoundOn, proto::btn::btnScreenN, proto::btn::btnExit}));
     QVERIFY(rig.waitFor(proto::cmd::stoplucksub, 8000));
+    QVERIFY(rig.callList("visibleButtons").contains(proto::btn::btnCancel));
     rig.key(Qt::Key_Space);
     QCOMPARE(rig.count(proto::cmd::btnclick), 3);
     // Other keys are only reported, with the stored key numbers.
@@ -193,6 +200,15 @@ void TestStageControls::paradePausesAndCanBeCancelled() {
     rig.send(proto::vbCallPlay, proto::no);
     QCOMPARE(rig.count(proto::cmd::luckplaystop), 1);
     QCOMPARE(rig.count(proto::cmd::btnclick), 0);
+}
+
+// The host found no award to show: it only switches the bar and asks to scroll.
+void TestStageControls::paradeWithNoAwardEnds() {
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    rig.send(proto::changBtn, proto::buttons::luckplay);
+    rig.send(proto::vbStartScroll, proto::yes);
+    QVERIFY(rig.waitFor(proto::cmd::luckplaystop, 3000));
 }
 
 QTEST_MAIN(TestStageControls)

@@ -2,6 +2,7 @@
 
 void ScriptedUi::message(const QString &text, MsgStyle style, const QString &title) {
     records.append({QStringLiteral("message"), text, title, style});
+    if (onMessage) onMessage(records.last());
 }
 
 bool ScriptedUi::question(const QString &text, const QString &title) {

@@ -3,6 +3,8 @@
 #include <QList>
 #include <QQueue>
 
+#include <functional>
+
 #include "core/ui.h"
 
 // A Ui for tests: every message and question is recorded with its title, text and style, and
@@ -25,6 +27,8 @@ public:
     QQueue<QColor> colors;
     QList<QUrl> openedUrls;
     int unanswered = 0;
+    // Called as each message is shown, while the program waits for its OK.
+    std::function<void(const Record &)> onMessage;
 
     void message(const QString &text, MsgStyle style, const QString &title) override;
     bool question(const QString &text, const QString &title) override;
