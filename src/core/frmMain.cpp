@@ -20,6 +20,7 @@
 #include "core/frmLogin.h"
 #include "core/frmPass.h"
 #include "core/password.h"
+#include "core/settings.h"
 #include "core/store.h"
 #include "core/ui.h"
 #include "core/widgethelpers.h"
@@ -100,6 +101,8 @@ frmMain::frmMain(QWidget *parent) : FramelessWindow(QSize(kWidth, kHeight), pare
     connect(imgReluck, &LinkLabel::clicked, this, &frmMain::resetDraw);
     connect(&events(), &Events::awardsChanged, this, &frmMain::tjJX);
     connect(&events(), &Events::resultsChanged, this, &frmMain::getLuckPos);
+    // Deleting winners or replacing the roster takes wins away too.
+    connect(&events(), &Events::rosterChanged, this, &frmMain::getLuckPos);
     createPreviewStage();
 }
 
@@ -115,6 +118,13 @@ QWidget *frmMain::buildBanner() {
     close->move(kWidth - 42, 10);
     connect(minimise, &QAbstractButton::clicked, this, &QWidget::showMinimized);
     connect(close, &QAbstractButton::clicked, this, &QWidget::close);
+    labHelp = new LinkLabel(QStringLiteral("视频教程"), banner);
+    labHelp->setStyleSheet(QStringLiteral("color: white;"));
+    labHelp->adjustSize();
+    labHelp->move(kWidth - 96 - labHelp->width(), 16);
+    const QString tutorial = settings::tutorialUrl();
+    labHelp->setVisible(!tutorial.isEmpty());
+    connect(labHelp, &LinkLabel::clicked, this, [tutorial] { ui().openUrl(QUrl(tutorial)); });
     return banner;
 }
 

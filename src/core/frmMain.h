@@ -54,6 +54,7 @@ public:
     LinkLabel *labMD[5] = {};
     QLabel *labJxNum[3] = {};
     LinkLabel *labsetJx = nullptr;
+    LinkLabel *labHelp = nullptr;  // shown when the deployment names a tutorial page
     QComboBox *ComboMB = nullptr;
     QLineEdit *txtBTm = nullptr;
     QLineEdit *txtBTs = nullptr;

@@ -97,4 +97,8 @@ void write(const QString &key, int value) {
     write(key, QString::number(value));
 }
 
+QString tutorialUrl() {
+    return readIni(kMain, QStringLiteral("TutorialUrl"), appState().iniPath).trimmed();
+}
+
 }  // namespace settings

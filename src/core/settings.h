@@ -25,4 +25,8 @@ bool toInt16(const QString &text, qint16 *value);
 // open: false with a message naming the key when it is not a 16-bit whole number.
 bool readInt(const QString &section, const QString &key, qint16 *value, QString *error);
 
+// The address of the deployment's video tutorial (key TutorialUrl of section main), empty when
+// the deployment has none: the program itself never goes online.
+QString tutorialUrl();
+
 }  // namespace settings

@@ -56,9 +56,14 @@ QWidget *consoleWindow() {
 }
 
 void centerForm(QWidget *form) {
+    // Over the console while it is up; during the draw it is hidden, and the dialogs of the draw
+    // screen centre on that screen instead.
     QRect area;
-    if (g_console && g_console != form)
+    QWidget *owner = form->parentWidget() ? form->parentWidget()->window() : nullptr;
+    if (g_console && g_console != form && g_console->isVisible())
         area = g_console->frameGeometry();
+    else if (owner && owner->isVisible())
+        area = owner->frameGeometry();
     else if (QScreen *screen = QGuiApplication::primaryScreen())
         area = screen->availableGeometry();
     const QSize size = form->frameGeometry().size();

@@ -17,7 +17,8 @@ void selectAllOnFocus(QLineEdit *edit);
 // The console: dialogs are centred on it.
 void setConsoleWindow(QWidget *console);
 QWidget *consoleWindow();
-// Centres a dialog on the console (on the screen when there is none); never above or left of 0.
+// Centres a dialog on the console while it is shown, else on its parent window, else on the
+// screen; never above or left of 0.
 void centerForm(QWidget *form);
 // Fills combo with the installed fonts that can show Simplified Chinese and selects item 0.
 void listChineseFonts(QComboBox *combo);

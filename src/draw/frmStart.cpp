@@ -58,8 +58,11 @@ frmStart::frmStart(QWidget *parent) : QWidget(parent, Qt::Window) {
     };
     openAskEnd = [this](frmStart &screen) {
         frmAskEnd dialog(*m_engine, &screen);
-        QObject::connect(&dialog, &frmAskEnd::paradeRequested, &screen,
-                         [&screen] { screen.vbCallPlay(); });
+        // The parade starts once the prompt and the press that opened it are over, so that
+        // nothing after them sets the state back to rest under the running parade.
+        QObject::connect(
+            &dialog, &frmAskEnd::paradeRequested, &screen, [&screen] { screen.vbCallPlay(); },
+            Qt::QueuedConnection);
         dialog.exec();
     };
 

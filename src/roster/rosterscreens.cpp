@@ -17,6 +17,15 @@ void openManager(QWidget *parent) {
     frmAdminUser::showManager(parent);
 }
 
+namespace {
+
+// An import started from the console shows the roster it made once the operator confirms it.
+void runImport(ImportDialog &form, QWidget *parent, bool fromConsole) {
+    if (form.exec() == QDialog::Accepted && fromConsole) openManager(parent);
+}
+
+}  // namespace
+
 bool importExcel(QWidget *parent, bool fromConsole) {
     const QString file = ui().openFile(QStringLiteral("导入Excel文件"), QString(),
                                        QStringLiteral("Excel文件 (*.xls *.xlsx)"));
@@ -24,7 +33,7 @@ bool importExcel(QWidget *parent, bool fromConsole) {
     appState().excelFile = file;
     appState().importFromConsole = fromConsole;
     frmExcelToUser form(parent);
-    form.exec();
+    runImport(form, parent, fromConsole);
     return true;
 }
 
@@ -35,20 +44,20 @@ bool importTxt(QWidget *parent, bool fromConsole) {
     appState().txtFile = file;
     appState().importFromConsole = fromConsole;
     frmTxtToUser form(parent);
-    form.exec();
+    runImport(form, parent, fromConsole);
     return true;
 }
 
 void importPhotos(QWidget *parent, bool fromConsole) {
     appState().importFromConsole = fromConsole;
     frmPhotoToUser form(parent);
-    form.exec();
+    runImport(form, parent, fromConsole);
 }
 
 void generateNumbers(QWidget *parent, bool fromConsole) {
     appState().importFromConsole = fromConsole;
     frmNumTools form(parent);
-    form.exec();
+    runImport(form, parent, fromConsole);
 }
 
 void installCamera() {

@@ -2,9 +2,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QStringList>
-
-#include <algorithm>
 
 #include "core/appstate.h"
 #include "core/helpers.h"
@@ -66,24 +63,17 @@ Settings readSettings(const QString &appPath) {
 void saveSettings(const QString &appPath, const Settings &settings) {
     const QString folder = musicFolder(appPath);
     const Settings stored = readSettings(appPath);
-    std::array<QString, SlotCount> names;
-    for (int slot = 0; slot < SlotCount; ++slot)
-        names[size_t(slot)] = stored[size_t(slot)].storedName;
-    QStringList replaced;
     for (int slot = 0; slot < SlotCount; ++slot) {
         const QString &path = settings[size_t(slot)].path;
         if (path.isEmpty() || !fileExists(path) || path.contains(folder)) continue;
         const QString name = QFileInfo(path).fileName();
         copyOver(path, folder + name);
-        replaced << names[size_t(slot)];
-        names[size_t(slot)] = name;
+        // The previous file goes, unless the copy has just taken its name.
+        const QString &previous = stored[size_t(slot)].storedName;
+        if (!previous.isEmpty() && previous != kNone && previous != name)
+            QFile::remove(folder + previous);
         writeKey(kKeys[slot].fileKey, name);
     }
-    // A replaced file goes, unless a copy has just taken its name or another sound still uses it.
-    for (const QString &previous : replaced)
-        if (!previous.isEmpty() && previous != kNone &&
-            std::find(names.begin(), names.end(), previous) == names.end())
-            QFile::remove(folder + previous);
     for (int slot = 0; slot < SlotCount; ++slot)
         writeKey(kKeys[slot].flagKey,
                  settings[size_t(slot)].on ? QStringLiteral("1") : QStringLiteral("0"));

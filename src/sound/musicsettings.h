@@ -29,8 +29,8 @@ QString musicFolder(const QString &appPath);
 Settings readSettings(const QString &appPath);
 
 // Saves the choices: a file from outside Music/ is copied in (over a file of that name) and
-// replaces the slot's previous file, which is deleted unless a copy has just taken its name or
-// another sound still names it. The file key is written even when the copy fails, as a key
+// replaces the slot's previous file, which is deleted unless the copy has just taken its name.
+// The file key is written even when the copy fails, as a key
 // naming a missing file only means silence. Then the four flags.
 void saveSettings(const QString &appPath, const Settings &settings);
 

@@ -8,12 +8,15 @@
 
 #include "chrome/widgets.h"
 #include "core/appstate.h"
+#include "core/events.h"
 #include "core/frmLogin.h"
 #include "core/frmMain.h"
 #include "core/frmPass.h"
 #include "core/password.h"
 #include "core/store.h"
 #include "design/templatepage.h"
+#include "roster/frmAdminUser.h"
+#include "roster/frmNumTools.h"
 #include "stage/protocol.h"
 #include "support/dialogwatch.h"
 #include "support/recordingstage.h"
@@ -40,6 +43,9 @@ private Q_SLOTS:
     void passwordMismatch();
     void everyEntryOpensItsScreen_data();
     void everyEntryOpensItsScreen();
+    void consoleImportEndsInTheRosterManager();
+    void progressFollowsTheRoster();
+    void tutorialLinkOnlyWithAnAddress();
 
 private:
     std::unique_ptr<TempProgramFolder> m_folder;
@@ -328,6 +334,53 @@ void TestConsole::everyEntryOpensItsScreen() {
     delete watch.data();
     QCOMPARE(opened, screen);
     QVERIFY2(m_ui->records.isEmpty(), qPrintable(m_ui->texts().join('\n')));
+}
+
+void TestConsole::consoleImportEndsInTheRosterManager() {
+    bool generated = false;
+    whenDialogOpens<frmNumTools>(
+        [this](frmNumTools &form) {
+            form.txtEnd->setText(QStringLiteral("20"));
+            m_ui->answers.enqueue(true);
+            form.cmdStartClicked();
+            form.waitForJob();
+            form.cmdOk->click();
+        },
+        &generated);
+    bool managerShown = false;
+    whenDialogOpens<frmAdminUser>([](frmAdminUser &manager) { manager.reject(); }, &managerShown);
+    frmMain console;
+    Q_EMIT console.labMD[4]->clicked();
+    QVERIFY(generated);
+    QVERIFY(managerShown);
+}
+
+// Deleting the winners from the roster takes their share of the progress away at once.
+void TestConsole::progressFollowsTheRoster() {
+    const QList<int> ids = m_folder->addUsers({QStringLiteral("张三"), QStringLiteral("李四")});
+    const int award = m_folder->addAward(QStringLiteral("一等奖"), 4, 1);
+    store::exec(m_folder->db(),
+                QStringLiteral("UPDATE UserList SET JxID=?, UserStatus=3 WHERE ID=?"),
+                {store::awardMarker(award), ids[0]});
+    frmMain console;
+    QCOMPARE(console.labJD->text(), QStringLiteral("25%"));
+    store::exec(m_folder->db(), QStringLiteral("DELETE FROM UserList"));
+    Q_EMIT events().rosterChanged();
+    QCOMPARE(console.labJD->text(), QStringLiteral("0%"));
+}
+
+void TestConsole::tutorialLinkOnlyWithAnAddress() {
+    {
+        frmMain console;
+        QVERIFY(console.labHelp->isHidden());
+    }
+    const QString address = QStringLiteral("https://example.org/quellio/教程");
+    m_folder->setConfig(QStringLiteral("main"), QStringLiteral("TutorialUrl"), address);
+    frmMain console;
+    QVERIFY(!console.labHelp->isHidden());
+    QCOMPARE(console.labHelp->text(), QStringLiteral("视频教程"));
+    Q_EMIT console.labHelp->clicked();
+    QCOMPARE(m_ui->openedUrls, QList<QUrl>{QUrl(address)});
 }
 
 QTEST_MAIN(TestConsole)

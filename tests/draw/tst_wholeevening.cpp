@@ -199,6 +199,17 @@ void TestWholeEvening::fromFirstBatchToTheExport() {
     QVERIFY(s.ui->texts().contains(csv + QStringLiteral("\n导出名单完毕!!")));
     QCOMPARE(s.ui->unanswered, 0);
 
+    // Asked again, the prompt starts the parade of all winners, which outlives the prompt.
+    whenDialogOpens<frmAskEnd>(
+        [&](frmAskEnd &dialog) { dialog.imgLab[frmAskEnd::Parade]->click(); }, &opened);
+    s.key(Qt::Key_Space);
+    QTRY_VERIFY(opened);
+    QTRY_COMPARE(s.state(), int(draw::Playback));
+    QTest::qWait(300);
+    QCOMPARE(s.state(), int(draw::Playback));
+    s.form->vbCallPlay(proto::no);
+    QVERIFY(s.waitState(draw::Idle, 5000));
+
     // The file holds the store's winners: award by award in draw order, batch by batch.
     QList<CsvRow> rows;
     QVERIFY(readCsv(csv, &rows));

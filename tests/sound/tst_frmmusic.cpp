@@ -180,45 +180,35 @@ void TestFrmMusic::listening() {
 }
 
 void TestFrmMusic::saving_data() {
-    QTest::addColumn<QString>("stored");       // the background file before
-    QTest::addColumn<QString>("chosen");       // a file outside, or empty for no new choice
-    QTest::addColumn<QString>("startShares");  // the start sound names the same file
+    QTest::addColumn<QString>("stored");  // the background file before
+    QTest::addColumn<QString>("chosen");  // a file outside, or empty for no new choice
     QTest::addColumn<QString>("expectedKey");
     QTest::addColumn<QByteArray>("expectedBytes");  // of Music/<expectedKey>
     QTest::addColumn<bool>("oldFileKept");
     QTest::newRow("a new file replaces the old one") << "old.mp3"
                                                      << "new.mp3"
-                                                     << ""
                                                      << "new.mp3" << QByteArray("new") << false;
     QTest::newRow("unchanged row copies nothing") << "old.mp3"
-                                                  << ""
                                                   << ""
                                                   << "old.mp3" << QByteArray("old") << true;
     QTest::newRow("same name from elsewhere is copied, not deleted")
         << "old.mp3"
         << "old.mp3"
-        << ""
         << "old.mp3" << QByteArray("new") << true;
-    QTest::newRow("a file another sound uses stays") << "old.mp3"
-                                                     << "new.mp3"
-                                                     << "yes"
-                                                     << "new.mp3" << QByteArray("new") << true;
     QTest::newRow("first choice") << "no"
                                   << "new.mp3"
-                                  << ""
                                   << "new.mp3" << QByteArray("new") << false;
 }
 
 void TestFrmMusic::saving() {
     QFETCH(QString, stored);
     QFETCH(QString, chosen);
-    QFETCH(QString, startShares);
     QFETCH(QString, expectedKey);
     QFETCH(QByteArray, expectedBytes);
     QFETCH(bool, oldFileKept);
     if (stored != "no") writeFile(music(stored), "old");
     store(music::Background, stored, true);
-    store(music::Start, startShares.isEmpty() ? "no" : stored, true);
+    store(music::Start, "no", true);
     store(music::Play, "no", true);
     frmMusic form;
     if (!chosen.isEmpty()) {
