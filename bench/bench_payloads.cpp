@@ -1,5 +1,5 @@
 // Reads a template with many objects and pushes it onto a stage that only counts, for each
-// reader: the time a screen waits between opening a template and the last SetVariable.
+// reader: the time a screen waits between opening a template and the last setVariable.
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QSqlDatabase>
@@ -17,7 +17,7 @@ public:
     qint64 calls = 0;
     qint64 bytes = 0;
     bool loadMovie(const QString &) override { return true; }
-    void SetVariable(const QString &name, const QString &value) override {
+    void setVariable(const QString &name, const QString &value) override {
         ++calls;
         bytes += name.size() + value.size();
     }

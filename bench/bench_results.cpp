@@ -12,7 +12,7 @@
 #include "core/store.h"
 #include "results/exportwinners.h"
 #include "results/printout.h"
-#include "results/printwinners.h"
+#include "results/view/printwinners.h"
 
 namespace {
 

@@ -11,10 +11,10 @@
 
 #include "core/startup.h"
 #include "core/store.h"
-#include "roster/frmAdminUser.h"
 #include "roster/numbergen.h"
 #include "roster/rosterimport.h"
 #include "roster/rosterpage.h"
+#include "roster/view/rostermanagerdialog.h"
 #include "roster/workbook.h"
 
 #include "../tests/roster/xlsxwriter.h"
@@ -165,7 +165,7 @@ void benchPaging() {
 
 // The same through the manager's list, widgets included.
 void benchManager() {
-    frmAdminUser form;
+    RosterManagerDialog form;
     for (int page : {2, 500, 1000}) {
         startMeasuring();
         QElapsedTimer clock;

@@ -26,10 +26,11 @@
 #include <cstdio>
 #include <vector>
 
-#include "core/widgethelpers.h"
+#include "chrome/widgethelpers.h"
+#include "core/fonts.h"
 #include "stage/photoprovider.h"
 #include "stage/protocol.h"
-#include "stage/qmlstage.h"
+#include "stage/view/qmlstage.h"
 
 namespace {
 
@@ -104,8 +105,8 @@ void runRoll(const char *label, int luckType, const QString &photos, int roster,
     QmlStage stage(nullptr, host);
     stage.widget()->resize(1920, 1080);
     bool asked = false;
-    QObject::connect(&stage, &Stage::FSCommand, [&](const QString &command, const QString &) {
-        if (command == proto::cmd::loadok) stage.SetVariable(proto::gotoPlay2, proto::go);
+    QObject::connect(&stage, &Stage::commandReceived, [&](const QString &command, const QString &) {
+        if (command == proto::cmd::loadok) stage.setVariable(proto::gotoPlay2, proto::go);
         if (command == proto::cmd::asok) asked = true;
     });
     if (!stage.loadMovie(QStringLiteral(QUELLIO_FACTORY_DIR "/sys/stage.qml"))) {
@@ -119,17 +120,17 @@ void runRoll(const char *label, int luckType, const QString &photos, int roster,
     while (!asked && wait.elapsed() < 5000)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
 
-    if (!photos.isEmpty()) stage.SetVariable(proto::loadAllUserPics, photos);
+    if (!photos.isEmpty()) stage.setVariable(proto::loadAllUserPics, photos);
     // luckDelay 10, the factory setting: a name change every 150 ms, 180 ms with photos.
-    stage.SetVariable(proto::setAsBgColor, QStringLiteral("1920|1080|0x9E1B22|10"));
-    stage.SetVariable(proto::ClsPage, proto::yes);
-    stage.SetVariable(proto::vbAddJpBox, QStringLiteral("ssm_vornex|120|120|1680|860|7"));
-    stage.SetVariable(proto::vbndluck, sample(luckType, 60, roster));
-    stage.SetVariable(proto::vbLoadBlock,
+    stage.setVariable(proto::setAsBgColor, QStringLiteral("1920|1080|0x9E1B22|10"));
+    stage.setVariable(proto::ClsPage, proto::yes);
+    stage.setVariable(proto::vbAddJpBox, QStringLiteral("ssm_vornex|120|120|1680|860|7"));
+    stage.setVariable(proto::vbndluck, sample(luckType, 60, roster));
+    stage.setVariable(proto::vbLoadBlock,
                       QStringLiteral("欧阳秀英|160|160|%1|60|round|0xFFF4D6|92|12|12|8|黑体|"
                                      "0xB0171F|32|100|true|false|false|center|0|s|")
                           .arg(luckType));
-    stage.SetVariable(proto::changBtn, proto::buttons::start);
+    stage.setVariable(proto::changBtn, proto::buttons::start);
 
     // Each frame from the start of its scene-graph sync to the end of its rendering; the first
     // second (cells created, glyphs cached) is a warm-up and is not counted.
@@ -166,7 +167,7 @@ void runRoll(const char *label, int luckType, const QString &photos, int roster,
     while (clock.elapsed() < (seconds + 1) * 1000) {
         if (push.elapsed() >= 200) {  // the program's 5 Hz sample
             push.restart();
-            stage.SetVariable(proto::vbPushLst, sample(luckType, 60, roster));
+            stage.setVariable(proto::vbPushLst, sample(luckType, 60, roster));
         }
         QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
     }

@@ -13,11 +13,12 @@
 
 #include "benchstore.h"
 #include "chrome/style.h"
+#include "chrome/widgethelpers.h"
+#include "console/consolewindow.h"
 #include "core/appstate.h"
-#include "core/frmMain.h"
 #include "core/programfolder.h"
 #include "core/startup.h"
-#include "roster/rosterscreens.h"
+#include "roster/view/rosterscreens.h"
 #include "sound/mediabackend.h"
 
 namespace {
@@ -36,7 +37,7 @@ int runChild(int argc, char **argv, const QString &folder) {
     if (!startUp(folder)) return 1;
     rosterscreens::installCamera();
     const qint64 started = clock.elapsed();
-    frmMain console;
+    ConsoleWindow console;
     const qint64 built = clock.elapsed();
     console.show();
     console.repaint();

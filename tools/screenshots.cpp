@@ -18,19 +18,19 @@
 #include <QTabWidget>
 #include <QTextStream>
 
-#include "awards/frmGuide.h"
+#include "awards/view/drawwizarddialog.h"
 #include "chrome/style.h"
+#include "chrome/widgethelpers.h"
+#include "chrome/widgetui.h"
+#include "console/changepassworddialog.h"
+#include "console/consolewindow.h"
+#include "console/passwordpromptdialog.h"
 #include "core/appstate.h"
-#include "core/frmLogin.h"
-#include "core/frmMain.h"
-#include "core/frmPass.h"
 #include "core/startup.h"
 #include "core/store.h"
-#include "core/ui.h"
-#include "core/widgethelpers.h"
 #include "results/printout.h"
 #include "results/winnerrows.h"
-#include "sound/frmKeyBoard.h"
+#include "sound/view/hotkeysettingsdialog.h"
 
 namespace {
 
@@ -62,7 +62,7 @@ void save(QWidget *widget, const QString &file) {
 }
 
 void shootConsole(const QString &out) {
-    frmMain console;
+    ConsoleWindow console;
     setConsoleWindow(&console);
     save(&console, out + QStringLiteral("/console.png"));
     const char *pages[] = {"console-roster.png", "console-awards.png", "console-interface.png"};
@@ -77,19 +77,19 @@ void shootConsole(const QString &out) {
 
 void shootDialogs(const QString &out) {
     appState().guideFor = QStringLiteral("guidebtn");
-    frmGuide guide;
+    DrawWizardDialog guide;
     save(&guide, out + QStringLiteral("/guide-mode.png"));
     guide.sTab->setCurrentIndex(1);
     guide.chkIsHideName->setChecked(true);
     save(&guide, out + QStringLiteral("/guide-mask.png"));
-    frmLogin login;
+    PasswordPromptDialog login;
     save(&login, out + QStringLiteral("/login.png"));
-    frmPass pass;
+    ChangePasswordDialog pass;
     save(&pass, out + QStringLiteral("/password.png"));
 }
 
 void shootKeyBoard(const QString &out) {
-    frmKeyBoard keys;
+    HotkeySettingsDialog keys;
     save(&keys, out + QStringLiteral("/keyboard.png"));
 }
 

@@ -1,18 +1,16 @@
 #include "core/startup.h"
 
-#include <QApplication>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QWidget>
 
 #include <memory>
 
 #include "core/appstate.h"
+#include "core/fonts.h"
 #include "core/programfolder.h"
 #include "core/settings.h"
 #include "core/store.h"
 #include "core/ui.h"
-#include "core/widgethelpers.h"
 
 namespace {
 
@@ -88,15 +86,4 @@ void shutDown() {
     store::close();
     if (instanceLock()) instanceLock()->unlock();
     instanceLock().reset();
-}
-
-void exitProgram(bool force) {
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (auto it = windows.rbegin(); it != windows.rend(); ++it) {
-        if ((*it)->isVisible()) (*it)->close();
-    }
-    bool anyLeft = false;
-    for (QWidget *window : QApplication::topLevelWidgets())
-        anyLeft = anyLeft || window->isVisible();
-    if (!anyLeft || force) shutDown();
 }

@@ -13,9 +13,5 @@ bool startUp(const QString &executableDir);
 // The load error handler: the error's text under the title "加载错误". No browser is opened.
 void loadError(const QString &text);
 
-// Closes the loaded screens from the last to the first. When none is left, or with force, the
-// store is closed and the single-instance lock released.
-void exitProgram(bool force);
-
 // Releases what startUp took (store, lock); tests call it between cases.
 void shutDown();

@@ -1,12 +1,9 @@
 #include "core/ui.h"
 
-#include <QApplication>
-#include <QColorDialog>
 #include <QDesktopServices>
-#include <QFileDialog>
-#include <QInputDialog>
-#include <QMessageBox>
-#include <QPushButton>
+#include <QLoggingCategory>
+
+Q_LOGGING_CATEGORY(lcUi, "quellio.core.ui")
 
 namespace {
 
@@ -15,77 +12,35 @@ std::unique_ptr<Ui> &service() {
     return instance;
 }
 
-QWidget *dialogParent() {
-    return QApplication::activeWindow();
-}
-
-QMessageBox::Icon iconFor(MsgStyle style) {
-    switch (style) {
-        case MsgStyle::Exclamation:
-            return QMessageBox::Warning;
-        case MsgStyle::Critical:
-            return QMessageBox::Critical;
-        case MsgStyle::Information:
-            break;
+// What a program without windows (the factory tool, a benchmark) gets: every message goes to the
+// log, every question is answered No, every dialog is cancelled.
+class LoggingUi : public Ui {
+public:
+    void message(const QString &text, MsgStyle, const QString &title) override {
+        qCWarning(lcUi).noquote() << title << text;
     }
-    return QMessageBox::Information;
-}
+    bool question(const QString &text, const QString &title) override {
+        qCWarning(lcUi).noquote() << title << text << "-> No";
+        return false;
+    }
+    QString inputText(const QString &, const QString &, const QString &) override { return {}; }
+    QString openFile(const QString &, const QString &, const QString &) override { return {}; }
+    QStringList openFiles(const QString &, const QString &, const QString &) override { return {}; }
+    QString saveFile(const QString &, const QString &, const QString &) override { return {}; }
+    QString chooseDirectory(const QString &, const QString &) override { return {}; }
+    QColor chooseColor(const QColor &, const QString &) override { return {}; }
+    bool openUrl(const QUrl &url) override { return QDesktopServices::openUrl(url); }
+};
 
 }  // namespace
 
 Ui &ui() {
-    if (!service()) service() = std::make_unique<WidgetUi>();
+    if (!service()) service() = std::make_unique<LoggingUi>();
     return *service();
 }
 
 void setUi(std::unique_ptr<Ui> replacement) {
     service() = std::move(replacement);
-}
-
-void WidgetUi::message(const QString &text, MsgStyle style, const QString &title) {
-    QMessageBox box(iconFor(style), title, text, QMessageBox::Ok, dialogParent());
-    box.button(QMessageBox::Ok)->setText(QStringLiteral("确定"));
-    box.exec();
-}
-
-bool WidgetUi::question(const QString &text, const QString &title) {
-    QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No,
-                    dialogParent());
-    box.button(QMessageBox::Yes)->setText(QStringLiteral("是(&Y)"));
-    box.button(QMessageBox::No)->setText(QStringLiteral("否(&N)"));
-    box.setDefaultButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes;
-}
-
-QString WidgetUi::inputText(const QString &prompt, const QString &title, const QString &initial) {
-    bool ok = false;
-    const QString text =
-        QInputDialog::getText(dialogParent(), title, prompt, QLineEdit::Normal, initial, &ok);
-    return ok ? text : QString();
-}
-
-QString WidgetUi::openFile(const QString &title, const QString &dir, const QString &filter) {
-    return QFileDialog::getOpenFileName(dialogParent(), title, dir, filter);
-}
-
-QStringList WidgetUi::openFiles(const QString &title, const QString &dir, const QString &filter) {
-    return QFileDialog::getOpenFileNames(dialogParent(), title, dir, filter);
-}
-
-QString WidgetUi::saveFile(const QString &title, const QString &suggested, const QString &filter) {
-    return QFileDialog::getSaveFileName(dialogParent(), title, suggested, filter);
-}
-
-QString WidgetUi::chooseDirectory(const QString &title, const QString &dir) {
-    return QFileDialog::getExistingDirectory(dialogParent(), title, dir);
-}
-
-QColor WidgetUi::chooseColor(const QColor &initial, const QString &title) {
-    return QColorDialog::getColor(initial, dialogParent(), title);
-}
-
-bool WidgetUi::openUrl(const QUrl &url) {
-    return QDesktopServices::openUrl(url);
 }
 
 QString dialogFilter(const QString &pairs) {

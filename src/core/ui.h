@@ -7,13 +7,11 @@
 
 #include <memory>
 
-class QWidget;
-
 enum class MsgStyle { Information, Exclamation, Critical };
 
 // Every message box, question, input box, file and colour dialog of the program goes through
-// this service. The program installs WidgetUi; tests install a scripted one that records each
-// message and answers from a queue.
+// this service. The program installs WidgetUi (chrome/widgetui.h); tests install a scripted one
+// that records each message and answers from a queue.
 class Ui {
 public:
     virtual ~Ui() = default;
@@ -38,26 +36,12 @@ public:
     virtual bool openUrl(const QUrl &url) = 0;
 };
 
-// The dialogs of Qt Widgets, parented to the active window.
-class WidgetUi : public Ui {
-public:
-    void message(const QString &text, MsgStyle style, const QString &title) override;
-    bool question(const QString &text, const QString &title) override;
-    QString inputText(const QString &prompt, const QString &title, const QString &initial) override;
-    QString openFile(const QString &title, const QString &dir, const QString &filter) override;
-    QStringList openFiles(const QString &title, const QString &dir, const QString &filter) override;
-    QString saveFile(const QString &title, const QString &suggested,
-                     const QString &filter) override;
-    QString chooseDirectory(const QString &title, const QString &dir) override;
-    QColor chooseColor(const QColor &initial, const QString &title) override;
-    bool openUrl(const QUrl &url) override;
-};
-
 Ui &ui();
 // "text|patterns|text|patterns", the filters as the settings and dialogs write them, to a file
 // dialog's "text (patterns);;text (patterns)".
 QString dialogFilter(const QString &pairs);
-// Installs the service; the previous one is destroyed. Passing null restores WidgetUi.
+// Installs the service; the previous one is destroyed. With none installed, messages go to the
+// log and every question is answered No.
 void setUi(std::unique_ptr<Ui> service);
 
 // Common titles.

@@ -29,7 +29,7 @@ struct PayloadContext {
     std::function<bool(const QString &)> fileExists;
 };
 
-// One SetVariable call. An empty name means nothing is sent.
+// One setVariable call. An empty name means nothing is sent.
 struct StageCommand {
     QString name;
     QString value;

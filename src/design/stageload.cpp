@@ -13,7 +13,7 @@ namespace design {
 namespace {
 
 void send(Stage &stage, const StageCommand &command) {
-    if (!command.isEmpty()) stage.SetVariable(command.name, command.value);
+    if (!command.isEmpty()) stage.setVariable(command.name, command.value);
 }
 
 // The hotkeys in the order setAsKeys lists them.
@@ -36,15 +36,15 @@ PayloadContext contextFor(Reader reader) {
 void sendBackground(Stage &stage, const BgRow &bg, const PayloadContext &context) {
     if (!bg.found) return;
     if (context.reader == Reader::Console)
-        stage.SetVariable(proto::vbSetScale, previewScalePayload(previewFit(bg.BgW, bg.BgH)));
-    stage.SetVariable(proto::setAsBgColor, bgColorPayload(bg, context));
+        stage.setVariable(proto::vbSetScale, previewScalePayload(previewFit(bg.BgW, bg.BgH)));
+    stage.setVariable(proto::setAsBgColor, bgColorPayload(bg, context));
     if (sendsBgImg(bg, context))
-        stage.SetVariable(proto::setAsBgImg, bgImgPayload(bg, context.appPath));
+        stage.setVariable(proto::setAsBgImg, bgImgPayload(bg, context.appPath));
 }
 
 void sendObjects(Stage &stage, const QList<ObjRow> &objects, const PayloadContext &context,
                  LoadReport *report) {
-    stage.SetVariable(proto::ClsPage, proto::yes);
+    stage.setVariable(proto::ClsPage, proto::yes);
     for (const ObjRow &row : objects) {
         if (context.reader == Reader::Draw && report && isPrizePicture(row) &&
             row.ObjType == proto::vbAddImg)
@@ -56,7 +56,7 @@ void sendObjects(Stage &stage, const QList<ObjRow> &objects, const PayloadContex
         report->sentNames << row.ObjName;
         if (command.usedBlockPicture) report->blockPictures << row.ObjName;
     }
-    if (context.reader == Reader::Designer) stage.SetVariable(proto::getAsDepth, proto::trueText);
+    if (context.reader == Reader::Designer) stage.setVariable(proto::getAsDepth, proto::trueText);
 }
 
 LoadReport fullLoad(Stage &stage, const TemplateData &data, const PayloadContext &context) {

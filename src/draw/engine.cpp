@@ -101,7 +101,7 @@ void DrawEngine::setBlockStyle(std::function<QString(int)> blockStyle) {
 }
 
 void DrawEngine::send(const QString &name, const QString &value) {
-    m_stage.SetVariable(name, value);
+    m_stage.setVariable(name, value);
 }
 
 QString DrawEngine::luckTypePrefix() const {

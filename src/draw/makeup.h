@@ -5,8 +5,8 @@
 #include <QString>
 
 // The make-up of the draw screen: more slots for an award, or a whole new award, in the middle
-// of an evening. No widgets: frmAddJX holds the controls and calls this. The batch plan follows
-// by itself, since it is worked out from JXNum at every load.
+// of an evening. No widgets: MakeUpDrawDialog holds the controls and calls this. The batch plan
+// follows by itself, since it is worked out from JXNum at every load.
 namespace draw {
 
 // Slots and batches are 16-bit numbers, as everywhere in the draw.

@@ -7,7 +7,7 @@
 #include <functional>
 #include <memory>
 
-// The thin layer between clsMusic and the platform's player. clsMusic decides (units, ranges,
+// The thin layer between MusicPlayer and the platform's player. MusicPlayer decides (units, ranges,
 // rewinding); a backend only does what it is told, so tests replace it with a fake.
 class MediaBackend : public QObject {
     Q_OBJECT
@@ -51,6 +51,6 @@ void chooseMediaBackend();
 std::unique_ptr<MediaBackend> createQtMediaBackend();
 
 using MediaBackendFactory = std::function<std::unique_ptr<MediaBackend>()>;
-// The factory every new clsMusic takes its backend from; an empty one restores Qt Multimedia.
+// The factory every new MusicPlayer takes its backend from; an empty one restores Qt Multimedia.
 void setMediaBackendFactory(MediaBackendFactory factory);
 std::unique_ptr<MediaBackend> createMediaBackend();

@@ -10,15 +10,16 @@
 #include <QtTest>
 
 #include "awards/awardbook.h"
-#include "awards/awardeditor.h"
-#include "awards/camerahook.h"
-#include "awards/frmAddJP.h"
-#include "awards/frmJP.h"
+#include "awards/view/addawarddialog.h"
+#include "awards/view/awardeditor.h"
+#include "awards/view/awardmanagerdialog.h"
+#include "awards/view/camerahook.h"
 #include "chrome/style.h"
 #include "core/appstate.h"
 #include "core/events.h"
 #include "core/store.h"
 #include "stage/protocol.h"
+#include "stage/view/stagefactory.h"
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
@@ -31,10 +32,11 @@ public:
         m_label->setStyleSheet(QStringLiteral("background: transparent;"));
     }
     bool loadMovie(const QString &) override {
-        QTimer::singleShot(0, this, [this] { Q_EMIT FSCommand(proto::cmd::loadok, QString()); });
+        QTimer::singleShot(0, this,
+                           [this] { Q_EMIT commandReceived(proto::cmd::loadok, QString()); });
         return true;
     }
-    void SetVariable(const QString &name, const QString &value) override {
+    void setVariable(const QString &name, const QString &value) override {
         if (name != proto::vbAddImg) return;
         const QPixmap picture(value);
         m_label->setPixmap(picture.isNull()
@@ -126,24 +128,27 @@ RecordingStage *TestAwardScreens::viewer() const {
 
 void TestAwardScreens::listColumnsAndColours() {
     addAwards();
-    frmJP dialog;
+    AwardManagerDialog dialog;
     QTreeWidget *list = dialog.lstJX;
     QCOMPARE(list->columnCount(), 9);
-    QCOMPARE(list->headerItem()->text(frmJP::ColRange), QStringLiteral("区分编号范围"));
+    QCOMPARE(list->headerItem()->text(AwardManagerDialog::ColRange),
+             QStringLiteral("区分编号范围"));
     QCOMPARE(list->topLevelItemCount(), 3);
     const QTreeWidgetItem *second = list->topLevelItem(1);
     const QStringList texts{
         "", "2", "一等奖", "3", "1", "笔记本电脑", "", "是", "100 < (介于) < 500"};
     for (int column = 0; column < texts.size(); ++column)
         QCOMPARE(second->text(column), texts.at(column));
-    QCOMPARE(second->data(frmJP::ColCheck, Qt::UserRole).toString(), QStringLiteral("K2"));
-    QCOMPARE(second->foreground(frmJP::ColReLuck).color(), QColor(255, 0, 0));
+    QCOMPARE(second->data(AwardManagerDialog::ColCheck, Qt::UserRole).toString(),
+             QStringLiteral("K2"));
+    QCOMPARE(second->foreground(AwardManagerDialog::ColReLuck).color(), QColor(255, 0, 0));
     const QTreeWidgetItem *first = list->topLevelItem(0);
-    QCOMPARE(first->text(frmJP::ColReLuck), QStringLiteral("否"));
-    QCOMPARE(first->foreground(frmJP::ColReLuck).color(), QColor(18, 118, 0));
-    QCOMPARE(first->text(frmJP::ColRange), QStringLiteral("不限制"));
-    QCOMPARE(first->foreground(frmJP::ColRange).color(), QColor(18, 118, 0));
-    QCOMPARE(list->topLevelItem(2)->text(frmJP::ColRange), QStringLiteral("大于(>) 2000"));
+    QCOMPARE(first->text(AwardManagerDialog::ColReLuck), QStringLiteral("否"));
+    QCOMPARE(first->foreground(AwardManagerDialog::ColReLuck).color(), QColor(18, 118, 0));
+    QCOMPARE(first->text(AwardManagerDialog::ColRange), QStringLiteral("不限制"));
+    QCOMPARE(first->foreground(AwardManagerDialog::ColRange).color(), QColor(18, 118, 0));
+    QCOMPARE(list->topLevelItem(2)->text(AwardManagerDialog::ColRange),
+             QStringLiteral("大于(>) 2000"));
     // With no key the last award is selected and in the editor.
     QCOMPARE(dialog.selectedId(), 3);
     QCOMPARE(dialog.editor->txtJxName->text(), QStringLiteral("二等奖"));
@@ -168,7 +173,7 @@ void TestAwardScreens::rangeFieldsFollowTheType() {
     QFETCH(int, type);
     QFETCH(bool, first);
     QFETCH(bool, second);
-    frmAddJP dialog;
+    AddAwardDialog dialog;
     dialog.editor->ComboRange->setCurrentIndex(type);
     QCOMPARE(dialog.editor->txtRangeNum1->isVisibleTo(&dialog), first);
     QCOMPARE(dialog.editor->txtRangeNum2->isVisibleTo(&dialog), second);
@@ -177,7 +182,7 @@ void TestAwardScreens::rangeFieldsFollowTheType() {
 
 void TestAwardScreens::saveStopsAtTheFirstFault() {
     addAwards();
-    frmJP dialog;
+    AwardManagerDialog dialog;
     dialog.show();
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
     AwardEditor *editor = dialog.editor;
@@ -198,7 +203,8 @@ void TestAwardScreens::saveStopsAtTheFirstFault() {
     QCOMPARE(m_ui->texts().last(), QStringLiteral("奖项数据更新成功！"));
     QCOMPARE(AwardBook().find(3)->JXNum, 5);
     QCOMPARE(dialog.selectedId(), 3);
-    QCOMPARE(dialog.lstJX->currentItem()->text(frmJP::ColPrize), QStringLiteral("手机"));
+    QCOMPARE(dialog.lstJX->currentItem()->text(AwardManagerDialog::ColPrize),
+             QStringLiteral("手机"));
 }
 
 void TestAwardScreens::editWithWinnersAsks_data() {
@@ -212,7 +218,7 @@ void TestAwardScreens::editWithWinnersAsks() {
     addAwards();
     const int user = m_folder->addUsers({QStringLiteral("张三")}).first();
     store::exec(m_folder->db(), QStringLiteral("UPDATE UserList SET JxID='|1||3|', UserStatus=3"));
-    frmJP dialog;
+    AwardManagerDialog dialog;
     dialog.selectAward(1);
     dialog.editor->txtJpName->setText(QStringLiteral("电动车"));
     m_ui->answers.enqueue(answer);
@@ -234,7 +240,7 @@ void TestAwardScreens::editWithWinnersAsks() {
 
 void TestAwardScreens::deleteTicked() {
     addAwards();
-    frmJP dialog;
+    AwardManagerDialog dialog;
     QSignalSpy changed(&events(), &Events::awardsChanged);
     dialog.cmdDelJx->click();
     QCOMPARE(m_ui->last().text, QStringLiteral("请选择需要删除的奖项!"));
@@ -249,26 +255,30 @@ void TestAwardScreens::deleteTicked() {
     m_ui->answers.enqueue(true);
     dialog.cmdDelJx->click();
     QCOMPARE(dialog.lstJX->topLevelItemCount(), 1);
-    QCOMPARE(dialog.lstJX->topLevelItem(0)->text(frmJP::ColOrder), QStringLiteral("1"));
+    QCOMPARE(dialog.lstJX->topLevelItem(0)->text(AwardManagerDialog::ColOrder),
+             QStringLiteral("1"));
     QCOMPARE(dialog.selectedId(), 3);
     QCOMPARE(changed.count(), 1);
 }
 
 void TestAwardScreens::moveKeepsSelection() {
     addAwards();
-    frmJP dialog;
+    AwardManagerDialog dialog;
     dialog.selectAward(1);
     dialog.cmdUp->click();
     QCOMPARE(dialog.selectedId(), 1);
-    QCOMPARE(dialog.lstJX->topLevelItem(0)->text(frmJP::ColName), QStringLiteral("特等奖"));
+    QCOMPARE(dialog.lstJX->topLevelItem(0)->text(AwardManagerDialog::ColName),
+             QStringLiteral("特等奖"));
     dialog.cmdDown->click();
     QCOMPARE(dialog.selectedId(), 1);
-    QCOMPARE(dialog.lstJX->topLevelItem(1)->text(frmJP::ColName), QStringLiteral("特等奖"));
-    QCOMPARE(dialog.lstJX->topLevelItem(1)->text(frmJP::ColOrder), QStringLiteral("2"));
+    QCOMPARE(dialog.lstJX->topLevelItem(1)->text(AwardManagerDialog::ColName),
+             QStringLiteral("特等奖"));
+    QCOMPARE(dialog.lstJX->topLevelItem(1)->text(AwardManagerDialog::ColOrder),
+             QStringLiteral("2"));
 }
 
 void TestAwardScreens::emptyListDisablesEditor() {
-    frmJP dialog;
+    AwardManagerDialog dialog;
     QCOMPARE(dialog.lstJX->topLevelItemCount(), 0);
     QVERIFY(!dialog.editor->isEnabled());
     QVERIFY(!dialog.cmdDelJx->isEnabled());
@@ -282,7 +292,7 @@ void TestAwardScreens::emptyListDisablesEditor() {
 void TestAwardScreens::viewerShowsPictureAfterLoadok() {
     m_folder->addAward(QStringLiteral("奖"), 1, 1);
     store::exec(m_folder->db(), QStringLiteral("UPDATE JPList SET JPPhoto='Photos\\JP1.png'"));
-    frmJP dialog;
+    AwardManagerDialog dialog;
     RecordingStage *stage = viewer();
     QVERIFY(stage);
     QCOMPARE(stage->movie, m_folder->path(QStringLiteral("sys/viewer.qml")));
@@ -298,7 +308,7 @@ void TestAwardScreens::viewerShowsPictureAfterLoadok() {
 
 void TestAwardScreens::chooseAndRemovePicture() {
     addAwards();
-    frmJP dialog;
+    AwardManagerDialog dialog;
     RecordingStage *stage = viewer();
     stage->reply(proto::cmd::loadok);
     stage->clear();
@@ -325,10 +335,10 @@ void TestAwardScreens::cameraPhoto() {
         return file.open(QIODevice::WriteOnly) ? file.fileName() : QString();
     });
     const auto unregister = qScopeGuard([] { awardcamera::setShot(nullptr); });
-    frmAddJP dialog;
+    AddAwardDialog dialog;
     QVERIFY(dialog.editor->cmdCamera->isVisibleTo(&dialog));
     dialog.editor->cmdCamera->click();
-    QCOMPARE(caller, QStringLiteral("frmAddJP"));
+    QCOMPARE(caller, QStringLiteral("AddAwardDialog"));
     QCOMPARE(dialog.editor->txtPhoto->text(), QStringLiteral("camre"));
     dialog.editor->txtJxName->setText(QStringLiteral("奖"));
     dialog.editor->txtJxNum->setText(QStringLiteral("1"));
@@ -340,7 +350,7 @@ void TestAwardScreens::cameraPhoto() {
 
 void TestAwardScreens::addDialog() {
     addAwards();
-    frmAddJP dialog;
+    AddAwardDialog dialog;
     QVERIFY(dialog.editor->chkIsReLuck->isChecked());
     QCOMPARE(dialog.editor->ComboRange->currentIndex(), 0);
     QCOMPARE(dialog.editor->txtPhoto->text(), QStringLiteral("no"));
@@ -360,7 +370,7 @@ void TestAwardScreens::addDialog() {
 }
 
 void TestAwardScreens::addDialogValidates() {
-    frmAddJP dialog;
+    AddAwardDialog dialog;
     dialog.show();
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
     dialog.cmdAdd->click();
@@ -400,14 +410,14 @@ void TestAwardScreens::screenshot() {
     m_folder->addAward(QStringLiteral("幸运奖"), 100, 5, 0, 3, 50, 0, QStringLiteral("购物卡"));
     m_folder->addAward(QStringLiteral("阳光普照奖"), 200, 4, 1, 0, 0, 0,
                        QStringLiteral("定制礼盒"));
-    frmJP dialog;
+    AwardManagerDialog dialog;
     dialog.selectAward(2);
     dialog.setTicked(5, true);
     dialog.show();
     QTest::qWait(50);
     QDir().mkpath(out);
     QVERIFY(dialog.grab().save(out + QStringLiteral("/award-manager.png")));
-    frmAddJP add;
+    AddAwardDialog add;
     add.show();
     QTest::qWait(50);
     QVERIFY(add.grab().save(out + QStringLiteral("/award-add.png")));

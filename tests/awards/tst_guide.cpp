@@ -6,7 +6,7 @@
 #include <QSlider>
 #include <QtTest>
 
-#include "awards/frmGuide.h"
+#include "awards/view/drawwizarddialog.h"
 #include "core/appstate.h"
 #include "core/helpers.h"
 #include "core/profile.h"
@@ -69,7 +69,7 @@ void TestGuide::masking() {
 }
 
 void TestGuide::demoFollowsTheBoxes() {
-    frmGuide guide;
+    DrawWizardDialog guide;
     QCOMPARE(guide.labDemo->text(), guide.labSS->text());
     QVERIFY(!guide.txtLeft->isEnabled());
     guide.chkIsHideName->setChecked(true);
@@ -84,7 +84,7 @@ void TestGuide::demoFollowsTheBoxes() {
 
 void TestGuide::storesEveryKey() {
     appState().guideFor = QStringLiteral("guidebtn");
-    frmGuide guide;
+    DrawWizardDialog guide;
     QCOMPARE(guide.sldSpeed->value(), 20 - appState().luckDelay);
     guide.Opt2->setChecked(true);
     guide.chkMsg->setChecked(true);
@@ -124,7 +124,7 @@ void TestGuide::purposes() {
     QFETCH(QString, message);
     QFETCH(bool, accepted);
     appState().guideFor = purpose;
-    frmGuide guide;
+    DrawWizardDialog guide;
     guide.cmdOk->click();
     QCOMPARE(m_ui->texts(), message.isEmpty() ? QStringList() : QStringList{message});
     QCOMPARE(guide.result() == QDialog::Accepted, accepted);

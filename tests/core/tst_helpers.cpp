@@ -5,8 +5,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include "chrome/widgethelpers.h"
 #include "core/helpers.h"
-#include "core/widgethelpers.h"
 
 class TestHelpers : public QObject {
     Q_OBJECT

@@ -15,11 +15,12 @@
 #include <functional>
 #include <memory>
 
+#include "chrome/widgethelpers.h"
 #include "core/appstate.h"
+#include "core/fonts.h"
 #include "core/store.h"
-#include "core/widgethelpers.h"
-#include "draw/frmStart.h"
-#include "stage/qmlstage.h"
+#include "draw/view/drawwindow.h"
+#include "stage/view/qmlstage.h"
 #include "support/dialogwatch.h"
 #include "support/fakemediabackend.h"
 #include "support/scriptedui.h"
@@ -33,7 +34,7 @@ struct LiveScreen {
     ScriptedUi *ui = installScriptedUi();
     FakeMedia *media = installFakeMedia();
     bool started = false;
-    std::unique_ptr<frmStart> form;
+    std::unique_ptr<DrawWindow> form;
 
     LiveScreen() {
         installFontSubstitutes();
@@ -44,8 +45,8 @@ struct LiveScreen {
     }
     // Opens the screen and waits for the movie's start-up dialogue; `prepare` may replace the
     // screen's dialog hooks first.
-    bool open(const std::function<void(frmStart &)> &prepare = {}) {
-        form = std::make_unique<frmStart>();
+    bool open(const std::function<void(DrawWindow &)> &prepare = {}) {
+        form = std::make_unique<DrawWindow>();
         if (prepare) prepare(*form);
         form->show();
         QElapsedTimer clock;

@@ -7,9 +7,9 @@
 #include "core/appstate.h"
 #include "core/store.h"
 #include "design/payloads.h"
-#include "draw/frmStart.h"
-#include "results/printwinners.h"
-#include "sound/clsMusic.h"
+#include "draw/view/drawwindow.h"
+#include "results/view/printwinners.h"
+#include "sound/musicplayer.h"
 #include "stage/protocol.h"
 #include "support/fakemediabackend.h"
 #include "support/recordingstage.h"
@@ -25,17 +25,17 @@ struct Screen {
     ScriptedUi *ui = installScriptedUi();
     FakeMedia *media = installFakeMedia();
     bool started = false;
-    std::unique_ptr<frmStart> form;
+    std::unique_ptr<DrawWindow> form;
     RecordingStage *stage = nullptr;
     QStringList dialogs;  // the dialogs the screen asked for, instead of opening them
 
     Screen() { started = folder.start(); }
 
     void create() {
-        form = std::make_unique<frmStart>();
-        form->openGiveUp = [this](frmStart &) { dialogs << QStringLiteral("giveup"); };
-        form->openAddAward = [this](frmStart &) { dialogs << QStringLiteral("addaward"); };
-        form->openAskEnd = [this](frmStart &) { dialogs << QStringLiteral("askend"); };
+        form = std::make_unique<DrawWindow>();
+        form->openGiveUp = [this](DrawWindow &) { dialogs << QStringLiteral("giveup"); };
+        form->openAddAward = [this](DrawWindow &) { dialogs << QStringLiteral("addaward"); };
+        form->openAskEnd = [this](DrawWindow &) { dialogs << QStringLiteral("askend"); };
     }
     void open() {
         create();
@@ -280,7 +280,7 @@ void TestDrawScreen::exitQuestion() {
     s.folder.addAward(QStringLiteral("一等奖"), 1, 1);
     s.open();
     s.form->show();
-    QSignalSpy closed(s.form.get(), &frmStart::closed);
+    QSignalSpy closed(s.form.get(), &DrawWindow::closed);
     s.click(proto::btn::btnStart);
     s.form->SubKey(27);
     QVERIFY(s.ui->records.isEmpty());  // Esc is refused while the names roll
@@ -499,7 +499,7 @@ void TestDrawScreen::musicFollowsTheDraw() {
 
     // The stage's sound buttons: On mutes, Off restores.
     s.click(proto::btn::btnSoundOn);
-    QCOMPARE(s.form->volume(), clsMusic::kSilence);
+    QCOMPARE(s.form->volume(), MusicPlayer::kSilence);
     QCOMPARE(player->volume, 0.0f);
     s.stage->clear();
     s.form->SubKey(s.form->keyCodes().value(7));

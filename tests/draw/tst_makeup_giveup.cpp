@@ -21,12 +21,12 @@
 #include "core/store.h"
 #include "draw/batchplan.h"
 #include "draw/engine.h"
-#include "draw/frmAddJX.h"
-#include "draw/frmAskEnd.h"
-#include "draw/frmGiveUp.h"
 #include "draw/giveup.h"
 #include "draw/makeup.h"
-#include "results/printwinners.h"
+#include "draw/view/endofdrawdialog.h"
+#include "draw/view/giveupdialog.h"
+#include "draw/view/makeupdrawdialog.h"
+#include "results/view/printwinners.h"
 #include "stage/protocol.h"
 #include "support/recordingstage.h"
 #include "support/sampleevening.h"
@@ -74,7 +74,7 @@ QImage sideBySide(const QPixmap &left, const QPixmap &right) {
     return image;
 }
 
-QTreeWidgetItem *row(frmGiveUp &dialog, int index) {
+QTreeWidgetItem *row(GiveUpDialog &dialog, int index) {
     return dialog.lstUser->topLevelItem(index);
 }
 
@@ -145,9 +145,9 @@ void TestMakeupGiveUp::makeupShiftsTheBatchPlan() {
     QVERIFY(rig.engine.loadJx(award, true));
     QCOMPARE(rig.session.batchCount, before);
 
-    frmAddJX dialog(award);
+    MakeUpDrawDialog dialog(award);
     QCOMPARE(draw::choiceId(dialog.ComboJX->currentText()), award);
-    QSignalSpy load(&dialog, &frmAddJX::loadAward);
+    QSignalSpy load(&dialog, &MakeUpDrawDialog::loadAward);
     dialog.txtNum->setText(QString::number(added));
     dialog.cmdSave->click();
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
@@ -186,7 +186,7 @@ void TestMakeupGiveUp::makeupSlotChecks() {
     Rig rig;
     QVERIFY(rig.started);
     const int award = rig.folder.addAward(QStringLiteral("一等奖"), 10, 2);
-    frmAddJX dialog(award);
+    MakeUpDrawDialog dialog(award);
     dialog.show();
     dialog.txtNum->setText(typed);
     dialog.cmdSave->click();
@@ -206,9 +206,9 @@ void TestMakeupGiveUp::makeupSlotChecks() {
 void TestMakeupGiveUp::makeupWithoutAwardsDoesNothing() {
     Rig rig;
     QVERIFY(rig.started);
-    frmAddJX dialog;
+    MakeUpDrawDialog dialog;
     QCOMPARE(dialog.ComboJX->currentText(), QStringLiteral("无任何奖项"));
-    QSignalSpy load(&dialog, &frmAddJX::loadAward);
+    QSignalSpy load(&dialog, &MakeUpDrawDialog::loadAward);
     dialog.txtNum->setText(QStringLiteral("3"));
     dialog.cmdSave->click();
     QVERIFY(m_ui->records.isEmpty());
@@ -238,7 +238,7 @@ void TestMakeupGiveUp::newAwardChecksInOrder() {
     QFETCH(int, focus);
     Rig rig;
     QVERIFY(rig.started);
-    frmAddJX dialog;
+    MakeUpDrawDialog dialog;
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     dialog.sTab->setCurrentIndex(1);
@@ -257,8 +257,8 @@ void TestMakeupGiveUp::newAwardGoesLastAndLoads() {
     QVERIFY(rig.started);
     rig.folder.addAward(QStringLiteral("一等奖"), 1, 1);
     rig.folder.addAward(QStringLiteral("二等奖"), 2, 1);
-    frmAddJX dialog(1);
-    QSignalSpy load(&dialog, &frmAddJX::loadAward);
+    MakeUpDrawDialog dialog(1);
+    QSignalSpy load(&dialog, &MakeUpDrawDialog::loadAward);
     dialog.sTab->setCurrentIndex(1);
     dialog.txtJxName->setText(QStringLiteral("加码奖 ' |$"));
     dialog.txtJxNum->setText(QStringLiteral("3"));
@@ -291,7 +291,7 @@ void TestMakeupGiveUp::newAwardGoesLastAndLoads() {
 
     // No 16-bit ID left: a message, nothing stored, the dialog stays.
     store::exec(rig.folder.db(), QStringLiteral("UPDATE JPList SET ID=32767 WHERE ID=3"));
-    frmAddJX full;
+    MakeUpDrawDialog full;
     full.sTab->setCurrentIndex(1);
     full.txtJxName->setText(QStringLiteral("再加一个"));
     full.txtJxNum->setText(QStringLiteral("1"));
@@ -318,9 +318,9 @@ void TestMakeupGiveUp::giveUpFreesEveryAwardOfTheHolder() {
     QVERIFY(rig.engine.loadJx(first, false));
     QCOMPARE(rig.session.batchCount, 0);
 
-    frmGiveUp dialog;
-    QSignalSpy given(&dialog, &frmGiveUp::givenUp);
-    QCOMPARE(row(dialog, 1)->text(frmGiveUp::ColName), QStringLiteral("张三"));
+    GiveUpDialog dialog;
+    QSignalSpy given(&dialog, &GiveUpDialog::givenUp);
+    QCOMPARE(row(dialog, 1)->text(GiveUpDialog::ColName), QStringLiteral("张三"));
     dialog.setTicked(ids[0], true);
     m_ui->answers.enqueue(true);
     dialog.cmdDelLuck->click();
@@ -336,9 +336,9 @@ void TestMakeupGiveUp::giveUpFreesEveryAwardOfTheHolder() {
     // Still listed, as given up, with nothing in the awards column.
     QCOMPARE(dialog.lstUser->topLevelItemCount(), 3);
     QTreeWidgetItem *gaveUp = row(dialog, 1);
-    QCOMPARE(gaveUp->text(frmGiveUp::ColName), QStringLiteral("张三"));
-    QCOMPARE(gaveUp->text(frmGiveUp::ColAwards), QString());
-    QCOMPARE(gaveUp->text(frmGiveUp::ColStatus), QStringLiteral("已弃奖"));
+    QCOMPARE(gaveUp->text(GiveUpDialog::ColName), QStringLiteral("张三"));
+    QCOMPARE(gaveUp->text(GiveUpDialog::ColAwards), QString());
+    QCOMPARE(gaveUp->text(GiveUpDialog::ColStatus), QStringLiteral("已弃奖"));
 
     // What the draw screen does on givenUp: one more draw of one on the first award.
     rig.engine.reFrashJx(true, true);
@@ -353,8 +353,8 @@ void TestMakeupGiveUp::giveUpAsksFirst() {
     rig.folder.addAward(QStringLiteral("一等奖"), 2, 1);
     const QList<int> ids = rig.folder.addUsers({"张三"});
     rig.setWins(ids[0], "|1|", 3);
-    frmGiveUp dialog;
-    QSignalSpy given(&dialog, &frmGiveUp::givenUp);
+    GiveUpDialog dialog;
+    QSignalSpy given(&dialog, &GiveUpDialog::givenUp);
     dialog.cmdDelLuck->click();
     QCOMPARE(m_ui->texts(), QStringList({"请勾选需要做弃奖的的名单!"}));
     QCOMPARE(m_ui->last().title, QStringLiteral("提示"));
@@ -387,29 +387,29 @@ void TestMakeupGiveUp::giveUpListPagesAndSearches() {
     const QString free = QStringLiteral("无人");
     rig.folder.addUsers({free});  // no win: never listed
 
-    frmGiveUp dialog;
+    GiveUpDialog dialog;
     QCOMPARE(dialog.labInfo->text(), QStringLiteral("总计∶1234 人, 当前第1页/共25页"));
     QCOMPARE(dialog.lstUser->topLevelItemCount(), 50);
-    QCOMPARE(row(dialog, 0)->text(frmGiveUp::ColName), QStringLiteral("嘉宾1231"));
-    QCOMPARE(row(dialog, 4)->text(frmGiveUp::ColName), QStringLiteral("嘉宾1221"));
-    QCOMPARE(row(dialog, 49)->text(frmGiveUp::ColNumber), QStringLiteral("50"));
+    QCOMPARE(row(dialog, 0)->text(GiveUpDialog::ColName), QStringLiteral("嘉宾1231"));
+    QCOMPARE(row(dialog, 4)->text(GiveUpDialog::ColName), QStringLiteral("嘉宾1221"));
+    QCOMPARE(row(dialog, 49)->text(GiveUpDialog::ColNumber), QStringLiteral("50"));
     QCOMPARE(dialog.lstUser->currentItem(), row(dialog, 0));
     QVERIFY(!dialog.cmdPre->isEnabled());
     QVERIFY(dialog.cmdNext->isEnabled());
 
     // Ticks on one page are not carried to the next.
-    row(dialog, 0)->setCheckState(frmGiveUp::ColNumber, Qt::Checked);
+    row(dialog, 0)->setCheckState(GiveUpDialog::ColNumber, Qt::Checked);
     dialog.cmdNext->click();
     QCOMPARE(dialog.pageNo, 2);
-    QCOMPARE(row(dialog, 0)->text(frmGiveUp::ColNumber), QStringLiteral("1"));
-    QCOMPARE(row(dialog, 0)->text(frmGiveUp::ColName), QStringLiteral("嘉宾1187"));
+    QCOMPARE(row(dialog, 0)->text(GiveUpDialog::ColNumber), QStringLiteral("1"));
+    QCOMPARE(row(dialog, 0)->text(GiveUpDialog::ColName), QStringLiteral("嘉宾1187"));
     QVERIFY(dialog.cmdPre->isEnabled());
     dialog.cmdDelLuck->click();
     QCOMPARE(m_ui->texts(), QStringList({"请勾选需要做弃奖的的名单!"}));
 
     dialog.showList(QString(), 25);
     QCOMPARE(dialog.lstUser->topLevelItemCount(), 34);
-    QCOMPARE(row(dialog, 33)->text(frmGiveUp::ColName), QStringLiteral("嘉宾0010"));
+    QCOMPARE(row(dialog, 33)->text(GiveUpDialog::ColName), QStringLiteral("嘉宾0010"));
     QVERIFY(!dialog.cmdNext->isEnabled());
     dialog.showList(QString(), 99);  // beyond the end: the last page
     QCOMPARE(dialog.pageNo, 25);
@@ -419,14 +419,14 @@ void TestMakeupGiveUp::giveUpListPagesAndSearches() {
     dialog.txtKey->setText(QStringLiteral(" 李雷 "));
     dialog.cmdSearch->click();
     QCOMPARE(dialog.labInfo->text(), QStringLiteral("总计∶2 人, 当前第1页/共1页"));
-    QCOMPARE(row(dialog, 0)->text(frmGiveUp::ColName), QStringLiteral("李雷雷"));
+    QCOMPARE(row(dialog, 0)->text(GiveUpDialog::ColName), QStringLiteral("李雷雷"));
     QVERIFY(!dialog.cmdPre->isEnabled() && !dialog.cmdNext->isEnabled());
     QVERIFY(dialog.cmdDelLuck->isEnabled());
     // The user's _ is a character, not a wildcard.
     dialog.txtKey->setText(QStringLiteral("_"));
     dialog.cmdSearch->click();
     QCOMPARE(dialog.lstUser->topLevelItemCount(), 1);
-    QCOMPARE(row(dialog, 0)->text(frmGiveUp::ColName), QStringLiteral("王_五"));
+    QCOMPARE(row(dialog, 0)->text(GiveUpDialog::ColName), QStringLiteral("王_五"));
     dialog.txtKey->setText(QStringLiteral("%"));
     dialog.cmdSearch->click();
     QCOMPARE(dialog.lstUser->topLevelItemCount(), 0);
@@ -450,19 +450,19 @@ void TestMakeupGiveUp::giveUpListColumns() {
     rig.setWins(ids[1], "无", 1, "2026-11-05 20:00:03");
     rig.setWins(ids[2], "|3|", 2, "2026-11-05 20:00:02");
     rig.setWins(ids[3], "|1||99|", 7, "2026-11-05 20:00:01");
-    frmGiveUp dialog;
+    GiveUpDialog dialog;
     const QStringList awards = {"三等奖 奖13", "", "奖3", "三等奖"};
     const QStringList statuses = {"已中奖", "已弃奖", "已领奖", ""};
     const QList<QColor> colours = {QColor(18, 118, 0), QColor(255, 0, 0), QColor(0, 0, 255),
                                    QColor()};
     for (int i = 0; i < 4; ++i) {
         QTreeWidgetItem *item = row(dialog, i);
-        QCOMPARE(item->data(frmGiveUp::ColNumber, Qt::UserRole).toString(),
+        QCOMPARE(item->data(GiveUpDialog::ColNumber, Qt::UserRole).toString(),
                  QStringLiteral("K%1").arg(ids[i]));
-        QCOMPARE(item->text(frmGiveUp::ColAwards), awards[i]);
-        QCOMPARE(item->text(frmGiveUp::ColStatus), statuses[i]);
+        QCOMPARE(item->text(GiveUpDialog::ColAwards), awards[i]);
+        QCOMPARE(item->text(GiveUpDialog::ColStatus), statuses[i]);
         if (colours[i].isValid())
-            QCOMPARE(item->foreground(frmGiveUp::ColStatus).color(), colours[i]);
+            QCOMPARE(item->foreground(GiveUpDialog::ColStatus).color(), colours[i]);
     }
 }
 
@@ -478,10 +478,10 @@ void TestMakeupGiveUp::restartAsksSnapshotsAndClears() {
     settings::write(QStringLiteral("selJxid"), second);
     QVERIFY(rig.engine.loadJx(second, false));
 
-    frmAskEnd prompt(rig.engine);
-    QSignalSpy restarted(&prompt, &frmAskEnd::restartDone);
+    EndOfDrawDialog prompt(rig.engine);
+    QSignalSpy restarted(&prompt, &EndOfDrawDialog::restartDone);
     m_ui->answers.enqueue(false);
-    prompt.imgLab[frmAskEnd::Restart]->click();
+    prompt.imgLab[EndOfDrawDialog::Restart]->click();
     QCOMPARE(m_ui->texts(), QStringList({"您确定要删除所有中奖信息,重新开始抽奖么?"}));
     QCOMPARE(m_ui->last().title, QStringLiteral("重要提示"));
     QCOMPARE(restarted.count(), 0);
@@ -490,7 +490,7 @@ void TestMakeupGiveUp::restartAsksSnapshotsAndClears() {
 
     m_ui->clear();
     m_ui->answers.enqueue(true);
-    prompt.imgLab[frmAskEnd::Restart]->click();
+    prompt.imgLab[EndOfDrawDialog::Restart]->click();
     QCOMPARE(m_ui->texts(), QStringList({"您确定要删除所有中奖信息,重新开始抽奖么?"}));
     QCOMPARE(restarted.count(), 1);
     QCOMPARE(prompt.result(), int(QDialog::Accepted));
@@ -518,29 +518,29 @@ void TestMakeupGiveUp::askEndExportPrintParade() {
     rig.folder.addAward(QStringLiteral("一等奖"), 1, 1);
     const QList<int> ids = rig.folder.addUsers({"张三"});
     rig.setWins(ids[0], "|1|", 3);
-    frmAskEnd prompt(rig.engine);
+    EndOfDrawDialog prompt(rig.engine);
     QCOMPARE(prompt.size(), QSize(430, 248));
     QCOMPARE(prompt.windowTitle(), QStringLiteral("系统提示"));
     QCOMPARE(prompt.Label1->text(), QStringLiteral("所有的奖项均已经抽取完毕!"));
 
-    prompt.imgLab[frmAskEnd::Export]->click();  // cancelled dialog: nothing
+    prompt.imgLab[EndOfDrawDialog::Export]->click();  // cancelled dialog: nothing
     QCOMPARE(m_ui->last().kind, QStringLiteral("file"));
     QCOMPARE(m_ui->last().title, QStringLiteral("导出文件"));
     QVERIFY(m_ui->texts().isEmpty());
     const QString csv = rig.folder.path("out.csv");
     m_ui->files.enqueue(csv);
-    prompt.imgLab[frmAskEnd::Export]->click();
+    prompt.imgLab[EndOfDrawDialog::Export]->click();
     QVERIFY(QFile::exists(csv));
     QCOMPARE(m_ui->texts(), QStringList({csv + "\n导出名单完毕!!"}));
 
     m_ui->clear();
     setPrinterFactory([] { return std::unique_ptr<QPagedPaintDevice>(); });
-    prompt.imgLab[frmAskEnd::Print]->click();
+    prompt.imgLab[EndOfDrawDialog::Print]->click();
     QCOMPARE(m_ui->texts(), QStringList({"找不到打印机"}));
     QVERIFY(prompt.result() != QDialog::Accepted);
 
-    QSignalSpy parade(&prompt, &frmAskEnd::paradeRequested);
-    prompt.imgLab[frmAskEnd::Parade]->click();
+    QSignalSpy parade(&prompt, &EndOfDrawDialog::paradeRequested);
+    prompt.imgLab[EndOfDrawDialog::Parade]->click();
     QCOMPARE(parade.count(), 1);
     QCOMPARE(prompt.result(), int(QDialog::Accepted));
     QCOMPARE(rig.cell(ids[0], "JxID").toString(), QStringLiteral("|1|"));
@@ -556,13 +556,13 @@ void TestMakeupGiveUp::screenshot() {
     QVERIFY(rig.started);
     fillSampleEvening(rig.folder);
 
-    frmGiveUp giveUp;
-    row(giveUp, 3)->setCheckState(frmGiveUp::ColNumber, Qt::Checked);
-    row(giveUp, 5)->setCheckState(frmGiveUp::ColNumber, Qt::Checked);
+    GiveUpDialog giveUp;
+    row(giveUp, 3)->setCheckState(GiveUpDialog::ColNumber, Qt::Checked);
+    row(giveUp, 5)->setCheckState(GiveUpDialog::ColNumber, Qt::Checked);
     giveUp.lstUser->setCurrentItem(row(giveUp, 5));
     QVERIFY(grabShown(giveUp).save(out + QStringLiteral("/give-up.png")));
 
-    frmAddJX addJx(4);
+    MakeUpDrawDialog addJx(4);
     addJx.txtNum->setText(QStringLiteral("5"));
     const QPixmap quick = grabShown(addJx);
     addJx.sTab->setCurrentIndex(1);

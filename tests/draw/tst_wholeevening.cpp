@@ -10,9 +10,9 @@
 #include "chrome/style.h"
 #include "core/appstate.h"
 #include "draw/audit.h"
-#include "draw/frmAddJX.h"
-#include "draw/frmAskEnd.h"
-#include "draw/frmGiveUp.h"
+#include "draw/view/endofdrawdialog.h"
+#include "draw/view/giveupdialog.h"
+#include "draw/view/makeupdrawdialog.h"
 #include "livescreen.h"
 #include "stage/protocol.h"
 #include "support/overstage.h"
@@ -131,8 +131,8 @@ void TestWholeEvening::fromFirstBatchToTheExport() {
     // Both of the batch just drawn did not come: given up through the stage's button.
     const QList<qint64> absent = idList(s.form->session().lastWinnerIds);
     bool opened = false;
-    whenDialogOpens<frmGiveUp>(
-        [&](frmGiveUp &dialog) {
+    whenDialogOpens<GiveUpDialog>(
+        [&](GiveUpDialog &dialog) {
             for (qint64 id : absent)
                 dialog.setTicked(id, true);
             s.ui->answers.enqueue(true);
@@ -152,8 +152,8 @@ void TestWholeEvening::fromFirstBatchToTheExport() {
 
     // Three more second prizes, added in the middle of the draw: the plan becomes 10 in 3
     // batches, and the seven already drawn leave one batch of three.
-    whenDialogOpens<frmAddJX>(
-        [&](frmAddJX &dialog) {
+    whenDialogOpens<MakeUpDrawDialog>(
+        [&](MakeUpDrawDialog &dialog) {
             QCOMPARE(dialog.ComboJX->currentData().toInt(), second);
             dialog.txtNum->setText(QStringLiteral("3"));
             dialog.cmdSave->click();
@@ -167,8 +167,8 @@ void TestWholeEvening::fromFirstBatchToTheExport() {
     // First prize, then an award nobody planned: both through the make-up dialog's second page.
     s.key(Qt::Key_Space);
     drawBatch(s, first, 2, 2);
-    whenDialogOpens<frmAddJX>(
-        [&](frmAddJX &dialog) {
+    whenDialogOpens<MakeUpDrawDialog>(
+        [&](MakeUpDrawDialog &dialog) {
             dialog.sTab->setCurrentIndex(1);
             dialog.txtJxName->setText(QStringLiteral("老板加码奖"));
             dialog.txtJxNum->setText(QStringLiteral("3"));
@@ -186,11 +186,11 @@ void TestWholeEvening::fromFirstBatchToTheExport() {
 
     // Everything is drawn: Start brings the end-of-draw prompt, which exports the list.
     const QString csv = s.folder.path(QStringLiteral("record/晚会中奖名单.csv"));
-    whenDialogOpens<frmAskEnd>(
-        [&](frmAskEnd &dialog) {
+    whenDialogOpens<EndOfDrawDialog>(
+        [&](EndOfDrawDialog &dialog) {
             saveOverStage(s, dialog, QStringLiteral("ask-end.png"));
             s.ui->files.enqueue(csv);
-            dialog.imgLab[frmAskEnd::Export]->click();
+            dialog.imgLab[EndOfDrawDialog::Export]->click();
             dialog.CancelButton->click();
         },
         &opened);
@@ -200,8 +200,8 @@ void TestWholeEvening::fromFirstBatchToTheExport() {
     QCOMPARE(s.ui->unanswered, 0);
 
     // Asked again, the prompt starts the parade of all winners, which outlives the prompt.
-    whenDialogOpens<frmAskEnd>(
-        [&](frmAskEnd &dialog) { dialog.imgLab[frmAskEnd::Parade]->click(); }, &opened);
+    whenDialogOpens<EndOfDrawDialog>(
+        [&](EndOfDrawDialog &dialog) { dialog.imgLab[EndOfDrawDialog::Parade]->click(); }, &opened);
     s.key(Qt::Key_Space);
     QTRY_VERIFY(opened);
     QTRY_COMPARE(s.state(), int(draw::Playback));

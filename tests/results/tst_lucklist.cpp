@@ -8,9 +8,9 @@
 
 #include "chrome/style.h"
 #include "core/store.h"
-#include "results/frmLuckList.h"
 #include "results/lucklist.h"
-#include "results/printwinners.h"
+#include "results/view/printwinners.h"
+#include "results/view/winnerlistdialog.h"
 #include "support/sampleevening.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
@@ -72,7 +72,7 @@ void TestLuckList::noAwardsGiveAnEmptyList() {
     QVERIFY(list.rows.isEmpty());
     QCOMPARE(results::winnerCountText(list), QStringLiteral("中奖人数：0"));
     QCOMPARE(results::prizeTotalText(list), QStringLiteral("奖品总数：0"));
-    frmLuckList dialog;
+    WinnerListDialog dialog;
     QCOMPARE(dialog.lstUser->topLevelItemCount(), 0);
     QCOMPARE(dialog.labmsg->text(), QStringLiteral("中奖人数：0"));
     QCOMPARE(dialog.Label1->text(), QStringLiteral("奖品总数：0"));
@@ -132,16 +132,17 @@ void TestLuckList::statusTexts() {
 
 void TestLuckList::listShowsRowsAndTotals() {
     fillEvening();
-    frmLuckList dialog;
+    WinnerListDialog dialog;
     QCOMPARE(dialog.windowTitle(), QStringLiteral("查看中奖"));
     QCOMPARE(dialog.lstUser->topLevelItemCount(), 5);
     QCOMPARE(dialog.labmsg->text(), QStringLiteral("中奖人数：5"));
     QCOMPARE(dialog.Label1->text(), QStringLiteral("奖品总数：15"));
     QTreeWidgetItem *first = dialog.lstUser->topLevelItem(0);
-    QCOMPARE(first->data(frmLuckList::ColNumber, Qt::UserRole).toString(), QStringLiteral("K1"));
-    QCOMPARE(first->text(frmLuckList::ColUserName), QStringLiteral("李四"));
+    QCOMPARE(first->data(WinnerListDialog::ColNumber, Qt::UserRole).toString(),
+             QStringLiteral("K1"));
+    QCOMPARE(first->text(WinnerListDialog::ColUserName), QStringLiteral("李四"));
     QTreeWidgetItem *gaveUp = dialog.lstUser->topLevelItem(4);
-    for (int column = 0; column < frmLuckList::ColumnCount; ++column)
+    for (int column = 0; column < WinnerListDialog::ColumnCount; ++column)
         QCOMPARE(gaveUp->foreground(column).color(), QColor(98, 98, 98));
     dialog.resize(200, 300);
     QCOMPARE(dialog.width(), 420);
@@ -149,7 +150,7 @@ void TestLuckList::listShowsRowsAndTotals() {
 
 void TestLuckList::exportAndPrintButtons() {
     fillEvening();
-    frmLuckList dialog;
+    WinnerListDialog dialog;
     dialog.cmdOut->click();
     QCOMPARE(m_ui->last().kind, QStringLiteral("file"));
     QCOMPARE(m_ui->last().title, QStringLiteral("导出文件"));
@@ -178,7 +179,7 @@ void TestLuckList::screenshot() {
     QDir().mkpath(out);
     style::apply();
     fillSampleEvening(*m_folder);
-    frmLuckList dialog;
+    WinnerListDialog dialog;
     dialog.lstUser->setCurrentItem(dialog.lstUser->topLevelItem(3));
     dialog.show();
     QTest::qWait(60);

@@ -5,7 +5,7 @@
 
 #include "core/store.h"
 #include "results/printout.h"
-#include "results/printwinners.h"
+#include "results/view/printwinners.h"
 #include "results/winnerrows.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"

@@ -16,11 +16,11 @@
 
 #include "core/appstate.h"
 #include "core/store.h"
-#include "roster/frmExcelToUser.h"
-#include "roster/frmNumTools.h"
-#include "roster/frmPhotoToUser.h"
-#include "roster/frmTxtToUser.h"
-#include "roster/rosterscreens.h"
+#include "roster/view/excelimportdialog.h"
+#include "roster/view/numbergeneratordialog.h"
+#include "roster/view/photoimportdialog.h"
+#include "roster/view/rosterscreens.h"
+#include "roster/view/textimportdialog.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
@@ -82,7 +82,7 @@ void TestImportDialogs::excelPreviewAndImport() {
     folder.addUsers({"旧人"});
     ScriptedUi *scripted = installScriptedUi();
     appState().excelFile = fixture(file);
-    frmExcelToUser form;
+    ExcelImportDialog form;
     QCOMPARE(form.lstTable->count(), 2);
     QCOMPARE(form.lstTable->item(1)->text(), QStringLiteral("Sheet 2"));
     QCOMPARE(form.lstTitle->topLevelItemCount(), 7);
@@ -119,7 +119,7 @@ void TestImportDialogs::excelWarnsAboutWideSheets() {
     QVERIFY(folder.start());
     ScriptedUi *scripted = installScriptedUi();
     appState().excelFile = fixture(QStringLiteral("wide.xlsx"));
-    frmExcelToUser form;
+    ExcelImportDialog form;
     QCOMPARE(scripted->last().text,
              QStringLiteral("Excel中存在过多的列，这样会导致导入速度十分缓慢\n"
                             "建议您修改Excel文件删除无用列再进行导入！"));
@@ -145,12 +145,12 @@ void TestImportDialogs::unreadableFilesEndInError() {
     ScriptedUi *scripted = installScriptedUi();
     if (excel) {
         appState().excelFile = fixture(file);
-        frmExcelToUser form;
+        ExcelImportDialog form;
         QVERIFY(!form.lstTable->isEnabled());
         QVERIFY(!form.cmdStart->isEnabled());
     } else {
         appState().txtFile = fixture(file);
-        frmTxtToUser form;
+        TextImportDialog form;
         form.cmdStartClicked();
         QVERIFY(!form.isImporting());
         QVERIFY(form.cmdStart->isEnabled());
@@ -167,7 +167,7 @@ void TestImportDialogs::excelTemplateOpensDemo() {
     QVERIFY(folder.start());
     ScriptedUi *scripted = installScriptedUi();
     appState().excelFile = folder.path("demo.xlsx");
-    frmExcelToUser form;
+    ExcelImportDialog form;
     QCOMPARE(form.lstTable->item(0)->text(), QStringLiteral("抽奖名单"));
     form.cmdMB->click();
     QCOMPARE(scripted->openedUrls.size(), 1);
@@ -180,7 +180,7 @@ void TestImportDialogs::txtImportShowsResult() {
     folder.addUsers({"旧人"});
     installScriptedUi();
     appState().txtFile = fixture(QStringLiteral("utf16le-crlf.txt"));
-    frmTxtToUser form;
+    TextImportDialog form;
     QCOMPARE(form.txtJG->text(), QStringLiteral(","));
     QVERIFY(form.opt2->isChecked());
     form.opt1->setChecked(true);
@@ -205,7 +205,7 @@ void TestImportDialogs::closeDuringImportAsks() {
     folder.addUsers({"甲|一部|3"});
     const QStringList before = roster(folder.db());
     ScriptedUi *scripted = installScriptedUi();
-    frmNumTools form;
+    NumberGeneratorDialog form;
     form.txtEnd->setText(QStringLiteral("99999"));
     scripted->answers.enqueue(true);
     form.cmdStartClicked();
@@ -236,7 +236,7 @@ void TestImportDialogs::photoDialogFlow() {
                             dir.filePath(QStringLiteral("李四.jpg"))};
     for (const QString &file : files)
         QVERIFY(image.save(file));
-    frmPhotoToUser form;
+    PhotoImportDialog form;
     QCOMPARE(form.labmsg->text(), QStringLiteral("请选择照片"));
     form.sld->setValue(5);
     QCOMPARE(form.labFW->text(), QStringLiteral("像素范围(500x500)内"));
@@ -255,7 +255,7 @@ void TestImportDialogs::numberToolsPreviewAndQuestion() {
     QVERIFY(folder.start());
     folder.addUsers({"甲"});
     ScriptedUi *scripted = installScriptedUi();
-    frmNumTools form;
+    NumberGeneratorDialog form;
     QCOMPARE(form.labYS->text(), QStringLiteral("ST0001E - ST1000E"));
     form.txtStart->setText(QStringLiteral("99999"));
     QVERIFY(!form.showPreview());
@@ -301,7 +301,7 @@ void TestImportDialogs::dialogDestroyedMidwayRollsBack() {
     folder.addUsers({"甲|一部|3"});
     const QStringList before = roster(folder.db());
     ScriptedUi *scripted = installScriptedUi();
-    auto form = std::make_unique<frmNumTools>();
+    auto form = std::make_unique<NumberGeneratorDialog>();
     form->txtEnd->setText(QStringLiteral("99999"));
     scripted->answers.enqueue(true);
     form->cmdStartClicked();

@@ -9,15 +9,16 @@
 #include <QTreeWidget>
 #include <QtTest>
 
-#include "awards/camerahook.h"
+#include "awards/view/camerahook.h"
 #include "core/appstate.h"
 #include "core/store.h"
-#include "roster/frmAddUser.h"
-#include "roster/frmAdminUser.h"
-#include "roster/frmCamre.h"
 #include "roster/rosterpage.h"
-#include "roster/rosterscreens.h"
+#include "roster/view/addparticipantdialog.h"
+#include "roster/view/cameracapturedialog.h"
+#include "roster/view/rostermanagerdialog.h"
+#include "roster/view/rosterscreens.h"
 #include "stage/protocol.h"
+#include "stage/view/stagefactory.h"
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
@@ -42,9 +43,9 @@ void fillRoster(QSqlDatabase db, int count) {
 }
 
 // The manager after its viewer has reported "loadok".
-std::unique_ptr<frmAdminUser> openManager() {
+std::unique_ptr<RosterManagerDialog> openManager() {
     auto &stages = installRecordingStages();
-    auto form = std::make_unique<frmAdminUser>();
+    auto form = std::make_unique<RosterManagerDialog>();
     stages.last()->reply(proto::cmd::loadok, QStringLiteral("yes"));
     return form;
 }
@@ -80,7 +81,7 @@ void TestRosterManager::firstFillWaitsForViewer() {
     QVERIFY(folder.start());
     folder.addUsers({"甲|一部", "乙|二部"});
     auto &stages = installRecordingStages();
-    frmAdminUser form;
+    RosterManagerDialog form;
     QCOMPARE(stages.last()->movie, folder.path("sys/viewer.qml"));
     QCOMPARE(form.lstUser->topLevelItemCount(), 0);
     stages.last()->reply(QStringLiteral("other"), QStringLiteral("yes"));
@@ -97,7 +98,7 @@ void TestRosterManager::fillsAtOnceWithoutViewer() {
     QVERIFY(folder.start());
     folder.addUsers({"甲|一部"});
     setStageFactory([](QWidget *parent) { return std::make_unique<SilentStage>(parent); });
-    frmAdminUser form;
+    RosterManagerDialog form;
     QCOMPARE(form.lstUser->topLevelItemCount(), 1);
 }
 
@@ -106,7 +107,7 @@ void TestRosterManager::fillsWhenRealViewerReports() {
     QVERIFY(folder.start());
     folder.addUsers({"甲|一部"});
     setStageFactory({});
-    frmAdminUser form;
+    RosterManagerDialog form;
     QTRY_COMPARE(form.lstUser->topLevelItemCount(), 1);
     QCOMPARE(form.txtUserName->text(), QStringLiteral("甲"));
 }
@@ -352,7 +353,7 @@ void TestRosterManager::addUserRules() {
     folder.addUsers({"甲|一部"});
     ScriptedUi *scripted = installScriptedUi();
     installRecordingStages();
-    frmAddUser form;
+    AddParticipantDialog form;
     QCOMPARE(form.txtDiffNum->text(), QStringLiteral("0"));
     QVERIFY(!form.cmdOkClicked());
     QCOMPARE(scripted->last().text, QStringLiteral("请输入抽奖名单!"));
@@ -377,7 +378,7 @@ void TestRosterManager::addUserRules() {
 void TestRosterManager::cameraMissing() {
     TempProgramFolder folder;
     QVERIFY(folder.start());
-    frmCamre camera;
+    CameraCaptureDialog camera;
     QCOMPARE(camera.windowTitle(), QStringLiteral("拍照"));
     QCOMPARE(camera.labInfo->text(), QStringLiteral("正在开启摄像头..."));
     QVERIFY(!camera.cmdOk->isEnabled());
@@ -395,14 +396,15 @@ void TestRosterManager::cameraMissing() {
 void TestRosterManager::cameraSaveHandsOver() {
     TempProgramFolder folder;
     QVERIFY(folder.start());
-    frmCamre camera;
+    CameraCaptureDialog camera;
     QImage frame(640, 480, QImage::Format_RGB32);
     frame.fill(Qt::red);
     camera.freeze(frame);
     QCOMPARE(camera.cmdOk->text(), QStringLiteral("保存"));
     QCOMPARE(camera.cmdEsc->text(), QStringLiteral("重拍"));
     QString handed;
-    connect(&camera, &frmCamre::saved, this, [&handed](const QString &path) { handed = path; });
+    connect(&camera, &CameraCaptureDialog::saved, this,
+            [&handed](const QString &path) { handed = path; });
     camera.cmdOk->click();
     QCOMPARE(handed, folder.path("Photos/camertemp.jpg"));
     QCOMPARE(QImage(handed).size(), QSize(640, 480));

@@ -11,15 +11,17 @@
 #include <QTreeWidget>
 #include <QtTest>
 
+#include "chrome/widgethelpers.h"
 #include "core/appstate.h"
-#include "core/widgethelpers.h"
-#include "roster/frmAddUser.h"
-#include "roster/frmAdminUser.h"
-#include "roster/frmCamre.h"
-#include "roster/frmExcelToUser.h"
-#include "roster/frmNumTools.h"
-#include "roster/frmPhotoToUser.h"
-#include "roster/frmTxtToUser.h"
+#include "core/fonts.h"
+#include "roster/view/addparticipantdialog.h"
+#include "roster/view/cameracapturedialog.h"
+#include "roster/view/excelimportdialog.h"
+#include "roster/view/numbergeneratordialog.h"
+#include "roster/view/photoimportdialog.h"
+#include "roster/view/rostermanagerdialog.h"
+#include "roster/view/textimportdialog.h"
+#include "stage/view/stagefactory.h"
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
@@ -120,7 +122,7 @@ void TestRosterScreens::rosterManager() {
         photo.save(folder.path(QStringLiteral("Photos/U%1.jpg").arg(id)));
     }
     setStageFactory({});  // the real picture viewer
-    frmAdminUser form;
+    RosterManagerDialog form;
     form.show();  // laid out first: the viewer decodes at the size it is shown
     QTRY_COMPARE(form.lstUser->topLevelItemCount(), 26);
     form.lstUser->setCurrentItem(form.lstUser->topLevelItem(24));
@@ -135,11 +137,11 @@ void TestRosterScreens::editorsAndCamera() {
     QVERIFY(folder.start());
     setStageFactory({});
     Shots shots;
-    frmAddUser add;
+    AddParticipantDialog add;
     add.show();
     QTest::qWait(300);
     shots.take(add, QStringLiteral("roster-add-user"));
-    frmCamre camera;
+    CameraCaptureDialog camera;
     camera.openCamera();
     shots.take(camera, QStringLiteral("roster-camera-missing"));
 }
@@ -151,7 +153,7 @@ void TestRosterScreens::excelImport() {
     Shots shots;
     QTemporaryDir dir;
     appState().excelFile = fixture(QStringLiteral("libreoffice.xlsx"));
-    frmExcelToUser form;
+    ExcelImportDialog form;
     form.lstTitle->topLevelItem(1)->setCheckState(0, Qt::Checked);
     form.chkIsTitleLine->setChecked(true);
     shots.take(form, QStringLiteral("import-excel-preview"));
@@ -164,7 +166,7 @@ void TestRosterScreens::excelImport() {
         rows << QStringList{QStringLiteral("员工%1").arg(i), QStringLiteral("部门%1").arg(i % 9)};
     appState().excelFile = dir.filePath(QStringLiteral("big.xlsx"));
     QVERIFY(testxlsx::write(appState().excelFile, QStringLiteral("全体员工"), rows));
-    frmExcelToUser big;
+    ExcelImportDialog big;
     big.lstTitle->topLevelItem(0)->setCheckState(0, Qt::Checked);
     big.chkIsTitleLine->setChecked(true);
     big.cmdStartClicked();
@@ -187,7 +189,7 @@ void TestRosterScreens::textImport() {
     file.write(bytes);
     file.close();
     appState().txtFile = path;
-    frmTxtToUser form;
+    TextImportDialog form;
     form.cmdStartClicked();
     grabMidway(form, shots, QStringLiteral("import-txt-midway"));
     form.waitForJob();
@@ -208,7 +210,7 @@ void TestRosterScreens::photoImport() {
         image.save(files.last());
     }
     files << dir.filePath(QStringLiteral("员工1,宣传部.jpg"));
-    frmPhotoToUser form;
+    PhotoImportDialog form;
     form.setFiles(files);
     shots.take(form, QStringLiteral("import-photos-chosen"));
     form.cmdStartClicked();
@@ -222,7 +224,7 @@ void TestRosterScreens::numberGenerator() {
     QVERIFY(folder.start());
     ScriptedUi *scripted = installScriptedUi();
     Shots shots;
-    frmNumTools form;
+    NumberGeneratorDialog form;
     form.txtEnd->setText(QStringLiteral("99999"));
     form.txtMsk->setText(QStringLiteral("4,13"));
     form.showPreview();

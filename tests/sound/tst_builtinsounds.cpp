@@ -3,7 +3,7 @@
 #include <QtTest>
 
 #include "sound/builtinsounds.h"
-#include "sound/clsMusic.h"
+#include "sound/musicplayer.h"
 
 namespace {
 
@@ -92,9 +92,9 @@ void TestBuiltInSounds::samplesAreClippedNotWrapped() {
 
 void TestBuiltInSounds::realPlayerReadsTheChime() {
     // Qt Multimedia opens the file and knows its length also without an audio device.
-    clsMusic music;
+    MusicPlayer music;
     music.setFileName(QStringLiteral(QUELLIO_FACTORY_DIR "/") + sound::kWinSound);
-    music.setVolume(clsMusic::kSilence);
+    music.setVolume(MusicPlayer::kSilence);
     QTRY_VERIFY_WITH_TIMEOUT(music.Duration() > 2.0, 5000);
     QVERIFY(music.Duration() < 2.5);
     music.setPosition(99);

@@ -13,9 +13,10 @@
 #include <QWidget>
 #include <QtTest>
 
-#include "core/widgethelpers.h"
+#include "chrome/widgethelpers.h"
+#include "core/fonts.h"
 #include "stage/protocol.h"
-#include "stage/qmlstage.h"
+#include "stage/view/qmlstage.h"
 #include "support/stageclick.h"
 
 class StageRig {
@@ -24,10 +25,11 @@ public:
                       QSize size = QSize(1920, 1080))
         : stage(nullptr, host) {
         installFontSubstitutes();
-        QObject::connect(&stage, &Stage::FSCommand, [this](const QString &c, const QString &a) {
-            commands << qMakePair(c, a);
-            if (onCommand) onCommand(c, a);
-        });
+        QObject::connect(&stage, &Stage::commandReceived,
+                         [this](const QString &c, const QString &a) {
+                             commands << qMakePair(c, a);
+                             if (onCommand) onCommand(c, a);
+                         });
         stage.widget()->resize(size);
         loaded = stage.loadMovie(appPath() + QStringLiteral("sys/") + movie);
         stage.widget()->show();
@@ -40,7 +42,7 @@ public:
     QList<QPair<QString, QString>> commands;
     std::function<void(const QString &, const QString &)> onCommand;
 
-    void send(const QString &name, const QString &value) { stage.SetVariable(name, value); }
+    void send(const QString &name, const QString &value) { stage.setVariable(name, value); }
 
     int count(const QString &command) const {
         int n = 0;
@@ -123,7 +125,7 @@ public:
             .join(proto::kSep);
     }
 
-    // The reply to asok: background, keys, objects, award, as frmStart sends them.
+    // The reply to asok: background, keys, objects, award, as DrawWindow sends them.
     void pushTemplate(const QString &photos = QString(), int luckDelay = 0) {
         if (!photos.isEmpty()) send(proto::loadAllUserPics, photos);
         send(proto::setAsBgColor, QStringLiteral("1920|1080|0x9E1B22|%1").arg(luckDelay));

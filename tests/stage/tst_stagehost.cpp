@@ -5,7 +5,8 @@
 
 #include "stage/keycodes.h"
 #include "stage/photoprovider.h"
-#include "stage/qmlstage.h"
+#include "stage/view/qmlstage.h"
+#include "stage/view/stagefactory.h"
 
 // The host side of the stage: key numbering, photo decoding and the QmlStage plumbing.
 class TestStageHost : public QObject {
@@ -123,7 +124,7 @@ void TestStageHost::missingOrBrokenMovieFailsCleanly() {
     QmlStage stage;
     QVERIFY(!stage.loadMovie(QStringLiteral("/nowhere/stage.qml")));
     QVERIFY(!stage.errors().isEmpty());
-    stage.SetVariable(QStringLiteral("ClsPage"), QStringLiteral("yes"));  // no crash
+    stage.setVariable(QStringLiteral("ClsPage"), QStringLiteral("yes"));  // no crash
     QTemporaryDir dir;
     const QString broken = dir.path() + QStringLiteral("/viewer.qml");
     QFile file(broken);
@@ -147,9 +148,9 @@ void TestStageHost::commandsArriveAsFsCommand() {
     QmlStage stage(nullptr, QmlStage::Host::Widget);
     QVERIFY2(stage.loadMovie(movie), qPrintable(stage.errors().join('\n')));
     QCOMPARE(stage.widget()->contextMenuPolicy(), Qt::NoContextMenu);
-    QSignalSpy spy(&stage, &Stage::FSCommand);
-    // Delivered synchronously: the answer is there when SetVariable returns.
-    stage.SetVariable(QStringLiteral("vbLoadJx"), QStringLiteral("一等奖|3|1|3|电脑|"));
+    QSignalSpy spy(&stage, &Stage::commandReceived);
+    // Delivered synchronously: the answer is there when setVariable returns.
+    stage.setVariable(QStringLiteral("vbLoadJx"), QStringLiteral("一等奖|3|1|3|电脑|"));
     QCOMPARE(spy.count(), 1);
     QCOMPARE(spy.at(0).at(0).toString(), QStringLiteral("vbLoadJx"));
     QCOMPARE(spy.at(0).at(1).toString(), QStringLiteral("一等奖|3|1|3|电脑|"));

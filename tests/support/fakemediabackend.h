@@ -48,12 +48,12 @@ private:
     QHash<QString, qint64> m_lengths;
 };
 
-// The fakes handed out to every new clsMusic, and the files they can open.
+// The fakes handed out to every new MusicPlayer, and the files they can open.
 struct FakeMedia {
     QHash<QString, qint64> lengths;  // path -> length in ms
     QList<QPointer<FakeMediaBackend>> players;
     FakeMediaBackend *last() const { return players.isEmpty() ? nullptr : players.last().data(); }
 };
 
-// Makes every new clsMusic use a fake; the returned registry lives until the next install.
+// Makes every new MusicPlayer use a fake; the returned registry lives until the next install.
 FakeMedia *installFakeMedia();

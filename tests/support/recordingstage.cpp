@@ -1,4 +1,5 @@
 #include "support/recordingstage.h"
+#include "stage/view/stagefactory.h"
 
 #include <QWidget>
 
@@ -7,13 +8,13 @@ bool RecordingStage::loadMovie(const QString &path) {
     return true;
 }
 
-void RecordingStage::SetVariable(const QString &name, const QString &value) {
+void RecordingStage::setVariable(const QString &name, const QString &value) {
     calls.append({name, value});
     if (onVariable) onVariable(*this, name, value);
 }
 
 void RecordingStage::reply(const QString &command, const QString &args) {
-    Q_EMIT FSCommand(command, args);
+    Q_EMIT commandReceived(command, args);
 }
 
 QStringList RecordingStage::values(const QString &name) const {

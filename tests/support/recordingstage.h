@@ -5,7 +5,7 @@
 #include <QPointer>
 #include <functional>
 
-#include "stage/stage.h"
+#include "stage/view/stagefactory.h"
 
 // A stage that writes down every variable it is sent, so a test can compare the protocol as text,
 // and that answers with commands when the test says so (or through `onVariable`).
@@ -20,7 +20,7 @@ public:
     std::function<void(RecordingStage &, const QString &, const QString &)> onVariable;
 
     bool loadMovie(const QString &path) override;
-    void SetVariable(const QString &name, const QString &value) override;
+    void setVariable(const QString &name, const QString &value) override;
 
     // Raises a command as the movie would.
     void reply(const QString &command, const QString &args = QString());

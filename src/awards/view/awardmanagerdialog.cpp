@@ -1,0 +1,272 @@
+#include "awards/view/awardmanagerdialog.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "awards/view/addawarddialog.h"
+#include "awards/view/awardeditor.h"
+#include "chrome/widgethelpers.h"
+#include "core/events.h"
+#include "core/ui.h"
+
+namespace {
+
+const QString kFilter = QStringLiteral(
+    "图片文件(*.png,*.jpg,*.gif,*.bmp)|*.png;*.jpg;*.jpej;*.gif;*.bmp|PNG Files(*.png)|*.png|"
+    "JPG Files(*.jpg)|*.jpg;jpeg|GIF Files(*.gif)|*.gif|BMP Files(*.bmp)|*.bmp");
+
+QString keyOf(int id) {
+    return QStringLiteral("K") + QString::number(id);
+}
+
+int idOf(const QTreeWidgetItem *item) {
+    return item ? item->data(AwardManagerDialog::ColCheck, Qt::UserRole).toString().mid(1).toInt()
+                : 0;
+}
+
+QPushButton *toolButton(const QString &caption, QWidget *parent) {
+    auto *button = new QPushButton(caption, parent);
+    button->setCursor(Qt::PointingHandCursor);
+    return button;
+}
+
+}  // namespace
+
+AwardManagerDialog::AwardManagerDialog(QWidget *parent) : QDialog(parent) {
+    setWindowTitle(QStringLiteral("奖项设置"));
+    buildList();
+    frm2 = new QGroupBox(QStringLiteral("奖项编辑"), this);
+    editor = new AwardEditor(QStringLiteral("AwardManagerDialog"), kFilter, frm2);
+    cmdEdt = new QPushButton(QStringLiteral("保存编辑"), frm2);
+    cmdEdt->setProperty("role", "primary");
+    cmdEdt->setAutoDefault(false);
+    auto *save = new QHBoxLayout;
+    save->addStretch();
+    save->addWidget(cmdEdt);
+    auto *frame = new QVBoxLayout(frm2);
+    frame->setContentsMargins(14, 14, 14, 12);
+    frame->addWidget(editor);
+    frame->addLayout(save);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 14, 16, 16);
+    layout->setSpacing(10);
+    layout->addWidget(buildToolbar());
+    layout->addWidget(lstJX, 1);
+    layout->addWidget(frm2);
+
+    connect(cmdAddJx, &QPushButton::clicked, this, &AwardManagerDialog::addAward);
+    connect(cmdDelJx, &QPushButton::clicked, this, &AwardManagerDialog::deleteTicked);
+    connect(cmdDown, &QPushButton::clicked, this, [this] { moveSelected(1); });
+    connect(cmdUp, &QPushButton::clicked, this, [this] { moveSelected(-1); });
+    connect(cmdEdt, &QPushButton::clicked, this, &AwardManagerDialog::saveEdit);
+    connect(lstJX, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *item) {
+        if (!m_filling) loadEditor(item);
+    });
+
+    resize(940, 680);
+    rdJXLst(QString());
+    centerForm(this);
+}
+
+QWidget *AwardManagerDialog::buildToolbar() {
+    toolJX = new QWidget(this);
+    cmdAddJx = toolButton(QStringLiteral("＋ 增加奖项"), toolJX);
+    cmdAddJx->setProperty("role", "primary");
+    cmdDelJx = toolButton(QStringLiteral("✕ 删除奖项"), toolJX);
+    cmdDown = toolButton(QStringLiteral("↓ 向下移动"), toolJX);
+    cmdUp = toolButton(QStringLiteral("↑ 向上移动"), toolJX);
+    for (QPushButton *button : {cmdAddJx, cmdDelJx, cmdDown, cmdUp})
+        button->setAutoDefault(false);
+    auto *hint = new QLabel(QStringLiteral("勾选奖项后点“删除奖项”；抽奖按列表顺序进行"), toolJX);
+    hint->setProperty("role", "hint");
+    auto *layout = new QHBoxLayout(toolJX);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(cmdAddJx);
+    layout->addWidget(cmdDelJx);
+    layout->addSpacing(14);
+    layout->addWidget(cmdDown);
+    layout->addWidget(cmdUp);
+    layout->addStretch();
+    layout->addWidget(hint);
+    return toolJX;
+}
+
+void AwardManagerDialog::buildList() {
+    lstJX = new QTreeWidget(this);
+    lstJX->setColumnCount(ColumnCount);
+    lstJX->setHeaderLabels({QString(), QStringLiteral("排序"), QStringLiteral("奖项名称"),
+                            QStringLiteral("名额"), QStringLiteral("批次"),
+                            QStringLiteral("奖品名称"), QStringLiteral("奖品图片"),
+                            QStringLiteral("重复中奖"), QStringLiteral("区分编号范围")});
+    lstJX->headerItem()->setToolTip(ColCheck, QStringLiteral("选择"));
+    lstJX->setRootIsDecorated(false);
+    lstJX->setUniformRowHeights(true);
+    lstJX->setAlternatingRowColors(true);
+    lstJX->setAllColumnsShowFocus(true);
+    lstJX->setSelectionMode(QAbstractItemView::SingleSelection);
+    lstJX->setStyleSheet(QStringLiteral(
+        "QTreeWidget { background: white; alternate-background-color: rgb(255,247,247);"
+        " border: 1px solid rgb(230,190,194); border-radius: 6px; }"
+        "QTreeWidget::item { height: 30px; border: none; }"
+        "QTreeWidget::item:selected { background: rgb(251,214,218); color: rgb(128,23,25); }"
+        "QHeaderView::section { background: rgb(250,225,227); border: none;"
+        " border-right: 1px solid rgb(236,200,203); border-bottom: 1px solid rgb(230,190,194);"
+        " padding: 6px 6px; font-weight: bold; }"));
+    const int widths[] = {40, 52, 150, 64, 64, 160, 150, 78, 0};
+    for (int column = 0; column < ColRange; ++column)
+        lstJX->setColumnWidth(column, widths[column]);
+    lstJX->header()->setStretchLastSection(true);
+    lstJX->header()->setSectionsMovable(false);
+}
+
+QTreeWidgetItem *AwardManagerDialog::addRow(const AwardRow &row) {
+    auto *item = new QTreeWidgetItem(lstJX);
+    item->setData(ColCheck, Qt::UserRole, keyOf(row.ID));
+    item->setCheckState(ColCheck, Qt::Unchecked);
+    item->setText(ColOrder, QString::number(row.OrderNum));
+    item->setText(ColName, row.JXName);
+    item->setText(ColNum, QString::number(row.JXNum));
+    item->setText(ColGroup, QString::number(row.JXGroup));
+    item->setText(ColPrize, row.JPName);
+    item->setText(ColPhoto, row.JPPhoto);
+    item->setText(ColReLuck, awardtext::reLuck(row.isReLuck));
+    item->setForeground(ColReLuck, awardtext::reLuckColor(row.isReLuck));
+    item->setText(ColRange, awardtext::range(row.RangeType, row.RangeNum1, row.RangeNum2));
+    if (const QColor color = awardtext::rangeColor(row.RangeType); color.isValid())
+        item->setForeground(ColRange, color);
+    for (int column : {ColOrder, ColNum, ColGroup, ColReLuck})
+        item->setTextAlignment(column, Qt::AlignCenter);
+    return item;
+}
+
+void AwardManagerDialog::rdJXLst(const QString &key) {
+    m_filling = true;
+    lstJX->clear();
+    QString error;
+    const QList<AwardRow> rows = m_book.list(&error);
+    if (!error.isEmpty()) ui().message(error, MsgStyle::Critical, titles::error);
+    QTreeWidgetItem *chosen = nullptr;
+    for (const AwardRow &row : rows) {
+        QTreeWidgetItem *item = addRow(row);
+        if (!key.isEmpty() && keyOf(row.ID) == key) chosen = item;
+    }
+    if (rows.isEmpty()) {
+        m_filling = false;
+        editor->clear();
+        setEditable(false);
+        return;
+    }
+    if (!chosen) chosen = lstJX->topLevelItem(lstJX->topLevelItemCount() - 1);
+    setEditable(true);
+    lstJX->setCurrentItem(chosen);
+    lstJX->scrollToItem(chosen);
+    m_filling = false;
+    loadEditor(chosen);
+}
+
+void AwardManagerDialog::setEditable(bool editable) {
+    editor->setEnabled(editable);
+    editor->setPictureToolsEnabled(editable);
+    cmdEdt->setEnabled(editable);
+    for (QPushButton *button : {cmdDelJx, cmdDown, cmdUp})
+        button->setEnabled(editable);
+}
+
+void AwardManagerDialog::loadEditor(QTreeWidgetItem *item) {
+    if (!item) return;
+    const std::optional<AwardRow> row = m_book.find(idOf(item));
+    if (!row) {
+        ui().message(QStringLiteral("找不到对应的名单"), MsgStyle::Critical, titles::error);
+        return;
+    }
+    editor->fill(*row);
+}
+
+int AwardManagerDialog::selectedId() const {
+    return idOf(lstJX->currentItem());
+}
+
+QTreeWidgetItem *AwardManagerDialog::itemOf(int id) const {
+    for (int i = 0; i < lstJX->topLevelItemCount(); ++i)
+        if (idOf(lstJX->topLevelItem(i)) == id) return lstJX->topLevelItem(i);
+    return nullptr;
+}
+
+void AwardManagerDialog::selectAward(int id) {
+    if (QTreeWidgetItem *item = itemOf(id)) lstJX->setCurrentItem(item);
+}
+
+void AwardManagerDialog::setTicked(int id, bool ticked) {
+    if (QTreeWidgetItem *item = itemOf(id))
+        item->setCheckState(ColCheck, ticked ? Qt::Checked : Qt::Unchecked);
+}
+
+void AwardManagerDialog::saveEdit() {
+    const int id = selectedId();
+    if (id <= 0) return;
+    const AwardInput input = editor->input();
+    const AwardFault fault = AwardBook::validate(input);
+    if (fault.failed()) {
+        ui().message(fault.message, MsgStyle::Information, titles::notice);
+        editor->focusField(fault.field);
+        return;
+    }
+    if (m_book.hasWinners(id) &&
+        !ui().question(QStringLiteral("注意：当前编辑奖项已经存在中奖记录\n"
+                                      "本操作将清除所有与之对应的中奖记录!\n确认要编辑么?"),
+                       titles::warning))
+        return;
+    QString error;
+    if (!m_book.save(id, input, &error)) {
+        ui().message(error, MsgStyle::Critical, titles::error);
+        return;
+    }
+    rdJXLst(keyOf(id));
+    Q_EMIT events().awardsChanged();
+    ui().message(QStringLiteral("奖项数据更新成功！"), MsgStyle::Information, titles::notice);
+}
+
+void AwardManagerDialog::deleteTicked() {
+    QList<int> ids;
+    for (int i = 0; i < lstJX->topLevelItemCount(); ++i)
+        if (lstJX->topLevelItem(i)->checkState(ColCheck) == Qt::Checked)
+            ids << idOf(lstJX->topLevelItem(i));
+    if (ids.isEmpty()) {
+        ui().message(QStringLiteral("请选择需要删除的奖项!"), MsgStyle::Critical,
+                     QStringLiteral("删除失败"));
+        return;
+    }
+    if (!ui().question(QStringLiteral("“删除奖项”将清除与之对应的中奖记录\n确认要删除么?"),
+                       titles::warning))
+        return;
+    QString error;
+    if (!m_book.remove(ids, &error)) ui().message(error, MsgStyle::Critical, titles::error);
+    rdJXLst(QString());
+    Q_EMIT events().awardsChanged();
+}
+
+void AwardManagerDialog::moveSelected(int step) {
+    const int id = selectedId();
+    if (id <= 0) return;
+    if (m_book.move(id, step)) Q_EMIT events().awardsChanged();
+    rdJXLst(keyOf(id));
+}
+
+void AwardManagerDialog::addAward() {
+    AddAwardDialog dialog(this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    rdJXLst(QString());
+    Q_EMIT events().awardsChanged();
+}
+
+void AwardManagerDialog::done(int result) {
+    // The console's award totals follow whatever happened here.
+    Q_EMIT events().awardsChanged();
+    QDialog::done(result);
+}

@@ -1,0 +1,262 @@
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSlider>
+#include <QtTest>
+
+#include "core/appstate.h"
+#include "core/profile.h"
+#include "core/store.h"
+#include "sound/hotkeys.h"
+#include "sound/view/hotkeysettingsdialog.h"
+#include "support/scriptedui.h"
+#include "support/tempprogramfolder.h"
+
+namespace {
+
+int storedKey(TempProgramFolder &folder, int id) {
+    return store::scalar(folder.db(), QStringLiteral("SELECT KeyAsc FROM KeyBoard WHERE ID=?"),
+                         {id})
+        .toInt();
+}
+
+void setStoredKey(TempProgramFolder &folder, int id, int code) {
+    store::exec(folder.db(), QStringLiteral("UPDATE KeyBoard SET KeyAsc=? WHERE ID=?"), {code, id});
+}
+
+bool isRed(QLineEdit *edit) {
+    return edit->styleSheet().contains(QStringLiteral("220,0,0"));
+}
+
+}  // namespace
+
+class TestFrmKeyBoard : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keyNames_data();
+    void keyNames();
+    void qtKeys_data();
+    void qtKeys();
+    void loadsTheStoredKeys();
+    void clashes_data();
+    void clashes();
+    void rowsWithoutKeyBothClash();
+    void rowHoldingZeroIsSkipped();
+    void focusClearsPlaceholders();
+    void guardSettingsAreWritten();
+};
+
+void TestFrmKeyBoard::keyNames_data() {
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("A") << 65 << "A键";
+    QTest::newRow("Z") << 90 << "Z键";
+    QTest::newRow("0") << 48 << "数字0";
+    QTest::newRow("9") << 57 << "数字9";
+    QTest::newRow("keypad 0") << 96 << "小键盘数字0";
+    QTest::newRow("keypad 9") << 105 << "小键盘数字9";
+    QTest::newRow("backspace") << 8 << "BackSpace键";
+    QTest::newRow("enter") << 13 << "回车键(Enter)";
+    QTest::newRow("space") << 32 << "空格键(Space)";
+    QTest::newRow("page up") << 33 << "PageUp键";
+    QTest::newRow("page down") << 34 << "PageDown键";
+    QTest::newRow("up") << 38 << "↑键";
+    QTest::newRow("down") << 40 << "↓键";
+    QTest::newRow("delete") << 46 << "Delete键";
+    QTest::newRow("left is refused") << 37 << "不支持该键";
+    QTest::newRow("right is refused") << 39 << "不支持该键";
+    QTest::newRow("F1 is refused") << 112 << "不支持该键";
+    QTest::newRow("no key") << -1 << "不支持该键";
+    QTest::newRow("a lower-case code") << 97 << "小键盘数字1";
+    QTest::newRow("below the letters") << 64 << "不支持该键";
+}
+
+void TestFrmKeyBoard::keyNames() {
+    QFETCH(int, code);
+    QFETCH(QString, name);
+    QCOMPARE(hotkeys::keyName(code), name);
+}
+
+void TestFrmKeyBoard::qtKeys_data() {
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<int>("code");
+    QTest::newRow("letter") << int(Qt::Key_Q) << 0 << 81;
+    QTest::newRow("shifted letter") << int(Qt::Key_Q) << int(Qt::ShiftModifier) << 81;
+    QTest::newRow("digit") << int(Qt::Key_5) << 0 << 53;
+    QTest::newRow("keypad digit") << int(Qt::Key_5) << int(Qt::KeypadModifier) << 101;
+    QTest::newRow("return") << int(Qt::Key_Return) << 0 << 13;
+    QTest::newRow("keypad enter") << int(Qt::Key_Enter) << int(Qt::KeypadModifier) << 13;
+    QTest::newRow("left") << int(Qt::Key_Left) << 0 << 37;
+    QTest::newRow("up") << int(Qt::Key_Up) << 0 << 38;
+    QTest::newRow("escape") << int(Qt::Key_Escape) << 0 << 27;
+    QTest::newRow("F5") << int(Qt::Key_F5) << 0 << 116;
+    QTest::newRow("media key") << int(Qt::Key_VolumeUp) << 0 << -1;
+}
+
+void TestFrmKeyBoard::qtKeys() {
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    QFETCH(int, code);
+    QCOMPARE(hotkeys::keyCodeFromQt(key, Qt::KeyboardModifiers(modifiers)), code);
+}
+
+void TestFrmKeyBoard::loadsTheStoredKeys() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    installScriptedUi();
+    setStoredKey(folder, 3, 37);
+    HotkeySettingsDialog form;
+    QCOMPARE(form.windowTitle(), QStringLiteral("快捷键设置"));
+    QCOMPARE(form.labT.at(2)->text(), QStringLiteral("取消滚动∶"));
+    QCOMPARE(form.txtKey.at(0)->text(), QStringLiteral("空格键(Space)"));
+    QVERIFY(!isRed(form.txtKey.at(0)));
+    QCOMPARE(form.txtKey.at(2)->text(), QStringLiteral("不支持该键"));
+    QVERIFY(isRed(form.txtKey.at(2)));
+    QCOMPARE(form.labCode.at(2)->text(), QStringLiteral("37"));
+    QCOMPARE(form.txtKey.at(4)->text(), QStringLiteral("E键"));
+}
+
+void TestFrmKeyBoard::clashes_data() {
+    // Keys pressed per row (row index -> Qt key), then the KeyAsc of each of the nine rows and
+    // the rows that show the clash text. The factory keys: space, space, backspace, delete, E,
+    // P, L, M, F.
+    QTest::addColumn<QList<int>>("rows");
+    QTest::addColumn<QList<int>>("keys");
+    QTest::addColumn<QList<int>>("stored");
+    QTest::addColumn<QList<int>>("clashRows");
+    QTest::newRow("start and stop share a key")
+        << QList<int>{0, 1} << QList<int>{Qt::Key_Return, Qt::Key_Return}
+        << QList<int>{13, 13, 8, 46, 69, 80, 76, 77, 70} << QList<int>{};
+    QTest::newRow("start and clear: the later row loses")
+        << QList<int>{0, 2} << QList<int>{Qt::Key_Q, Qt::Key_Q}
+        << QList<int>{81, 32, -1, 46, 69, 80, 76, 77, 70} << QList<int>{2};
+    QTest::newRow("start takes a stored key: start loses")
+        << QList<int>{0} << QList<int>{Qt::Key_E} << QList<int>{-1, 32, 8, 46, 69, 80, 76, 77, 70}
+        << QList<int>{0};
+    QTest::newRow("two of the seven on one key")
+        << QList<int>{3, 7} << QList<int>{Qt::Key_K, Qt::Key_K}
+        << QList<int>{32, 32, 8, 75, 69, 80, 76, -1, 70} << QList<int>{7};
+    QTest::newRow("stop may not share with the seven")
+        << QList<int>{1} << QList<int>{Qt::Key_F} << QList<int>{32, -1, 8, 46, 69, 80, 76, 77, 70}
+        << QList<int>{1};
+    QTest::newRow("a row takes a key another row gives up")
+        << QList<int>{4, 5} << QList<int>{Qt::Key_P, Qt::Key_E}
+        << QList<int>{32, 32, 8, 46, -1, 69, 76, 77, 70} << QList<int>{4};
+    QTest::newRow("unsupported key is stored as its code")
+        << QList<int>{6} << QList<int>{Qt::Key_Left}
+        << QList<int>{32, 32, 8, 46, 69, 80, 37, 77, 70} << QList<int>{};
+}
+
+void TestFrmKeyBoard::clashes() {
+    QFETCH(QList<int>, rows);
+    QFETCH(QList<int>, keys);
+    QFETCH(QList<int>, stored);
+    QFETCH(QList<int>, clashRows);
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    ScriptedUi *scripted = installScriptedUi();
+    HotkeySettingsDialog form;
+    for (int i = 0; i < rows.size(); ++i)
+        QTest::keyClick(form.txtKey.at(rows.at(i)), Qt::Key(keys.at(i)));
+    form.cmdSave->click();
+    for (int id = 1; id <= 9; ++id)
+        QCOMPARE(storedKey(folder, id), stored.at(id - 1));
+    for (int row = 0; row < 9; ++row) {
+        const bool clash = clashRows.contains(row);
+        QCOMPARE(form.txtKey.at(row)->text() == QStringLiteral("重复,保存失效"), clash);
+        QCOMPARE(form.labS.at(row)->isVisibleTo(&form), !clash);
+        if (clash) QVERIFY(isRed(form.txtKey.at(row)));
+    }
+    // The dialog stays open and says nothing.
+    QVERIFY(scripted->records.isEmpty());
+}
+
+void TestFrmKeyBoard::rowsWithoutKeyBothClash() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    installScriptedUi();
+    setStoredKey(folder, 4, -1);
+    setStoredKey(folder, 5, -1);
+    HotkeySettingsDialog form;
+    QCOMPARE(form.txtKey.at(3)->text(), QStringLiteral("不支持该键"));
+    QVERIFY(isRed(form.txtKey.at(4)));
+    form.cmdSave->click();
+    QCOMPARE(storedKey(folder, 4), -1);
+    QCOMPARE(storedKey(folder, 5), -1);
+    QCOMPARE(form.txtKey.at(3)->text(), QStringLiteral("重复,保存失效"));
+    QCOMPARE(form.txtKey.at(4)->text(), QStringLiteral("重复,保存失效"));
+    QCOMPARE(storedKey(folder, 1), 32);
+}
+
+void TestFrmKeyBoard::rowHoldingZeroIsSkipped() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    installScriptedUi();
+    setStoredKey(folder, 6, 0);
+    HotkeySettingsDialog form;
+    QCOMPARE(form.labCode.at(5)->text(), QStringLiteral("0"));
+    form.cmdSave->click();
+    QCOMPARE(storedKey(folder, 6), 0);
+    QVERIFY(!form.labS.at(5)->isVisibleTo(&form));
+    QVERIFY(form.labS.at(4)->isVisibleTo(&form));
+}
+
+void TestFrmKeyBoard::focusClearsPlaceholders() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    installScriptedUi();
+    setStoredKey(folder, 3, 1);
+    setStoredKey(folder, 4, 1);
+    HotkeySettingsDialog form;
+    QLineEdit *edit = form.txtKey.at(2);
+    form.cmdSave->click();  // rows 2 and 3 share a stored key: the first one tested is refused
+    QCOMPARE(edit->text(), QStringLiteral("重复,保存失效"));
+    QFocusEvent in(QEvent::FocusIn);
+    QApplication::sendEvent(edit, &in);
+    QVERIFY(edit->text().isEmpty());
+    QFocusEvent out(QEvent::FocusOut);
+    QApplication::sendEvent(edit, &out);
+    QCOMPARE(edit->text(), QStringLiteral("无"));
+    QApplication::sendEvent(edit, &in);
+    QVERIFY(edit->text().isEmpty());
+    QTest::keyClick(edit, Qt::Key_7, Qt::KeypadModifier);
+    QCOMPARE(edit->text(), QStringLiteral("小键盘数字7"));
+    QCOMPARE(form.labCode.at(2)->text(), QStringLiteral("103"));
+    QApplication::sendEvent(edit, &out);
+    QCOMPARE(edit->text(), QStringLiteral("小键盘数字7"));
+
+    // A row whose tick shows loses it when entered again.
+    QVERIFY(form.labS.at(0)->isVisibleTo(&form));
+    QApplication::sendEvent(form.txtKey.at(0), &in);
+    QVERIFY(!form.labS.at(0)->isVisibleTo(&form));
+    QCOMPARE(form.txtKey.at(0)->text(), QStringLiteral("空格键(Space)"));
+}
+
+void TestFrmKeyBoard::guardSettingsAreWritten() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    installScriptedUi();
+    HotkeySettingsDialog form;
+    QVERIFY(form.chkDelay->isChecked());  // factory: on, 3 seconds
+    QCOMPARE(form.sldDelay->value(), 3);
+    QCOMPARE(form.sldDelay->minimum(), 1);
+    QCOMPARE(form.sldDelay->maximum(), 100);
+    QCOMPARE(form.sldDelay->pageStep(), 5);
+    form.sldDelay->setValue(7);
+    form.chkDelay->setChecked(false);
+    QVERIFY(!form.sldDelay->isEnabled());
+    form.cmdSave->click();
+    QCOMPARE(appState().isTimeProtect, qint16(0));
+    QCOMPARE(appState().timeProtectNum, qint16(7));
+    const QString ini = folder.path(QStringLiteral("config.ini"));
+    QCOMPARE(readIni(QStringLiteral("main"), QStringLiteral("isTimeProtect"), ini),
+             QStringLiteral("0"));
+    QCOMPARE(readIni(QStringLiteral("main"), QStringLiteral("timeProtectNum"), ini),
+             QStringLiteral("7"));
+}
+
+QTEST_MAIN(TestFrmKeyBoard)
+#include "tst_hotkeysettings.moc"
