@@ -1,9 +1,8 @@
 #include "core/ui.h"
 
 #include <QDesktopServices>
-#include <QLoggingCategory>
 
-Q_LOGGING_CATEGORY(lcUi, "quellio.core.ui")
+#include "core/logging.h"
 
 namespace {
 
@@ -17,10 +16,10 @@ std::unique_ptr<Ui> &service() {
 class LoggingUi : public Ui {
 public:
     void message(const QString &text, MsgStyle, const QString &title) override {
-        qCWarning(lcUi).noquote() << title << text;
+        qCWarning(lcCore).noquote() << title << text;
     }
     bool question(const QString &text, const QString &title) override {
-        qCWarning(lcUi).noquote() << title << text << "-> No";
+        qCWarning(lcCore).noquote() << title << text << "-> No";
         return false;
     }
     QString inputText(const QString &, const QString &, const QString &) override { return {}; }

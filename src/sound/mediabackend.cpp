@@ -40,13 +40,7 @@ public:
     qint64 positionMs() const override { return m_player.position(); }
     void setPositionMs(qint64 position) override { m_player.setPosition(position); }
     qint64 durationMs() const override { return m_player.duration(); }
-    void setRate(double rate) override { m_player.setPlaybackRate(rate); }
     void setVolume(float volume) override { m_output.setVolume(volume); }
-    bool hasAudio() const override { return m_player.hasAudio(); }
-    bool hasVideo() const override { return m_player.hasVideo(); }
-    QSize videoSize() const override {
-        return m_player.metaData().value(QMediaMetaData::Resolution).toSize();
-    }
 
 private:
     QMediaPlayer m_player;

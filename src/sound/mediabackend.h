@@ -28,12 +28,8 @@ public:
     virtual void setPositionMs(qint64 position) = 0;
     // 0 while unknown or when the file could not be opened.
     virtual qint64 durationMs() const = 0;
-    virtual void setRate(double rate) = 0;
     // Linear, 0 (silence) to 1 (full).
     virtual void setVolume(float volume) = 0;
-    virtual bool hasAudio() const = 0;
-    virtual bool hasVideo() const = 0;
-    virtual QSize videoSize() const = 0;
 
 Q_SIGNALS:
     void stateChanged();

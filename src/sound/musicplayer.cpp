@@ -9,7 +9,7 @@ MusicPlayer::MusicPlayer(QObject *parent) : MusicPlayer(createMediaBackend(), pa
 MusicPlayer::MusicPlayer(std::unique_ptr<MediaBackend> backend, QObject *parent)
     : QObject(parent), m_backend(std::move(backend)) {
     connect(m_backend.get(), &MediaBackend::stateChanged, this,
-            [this] { Q_EMIT stateChanged(State()); });
+            [this] { Q_EMIT stateChanged(state()); });
     connect(m_backend.get(), &MediaBackend::ended, this, &MusicPlayer::ended);
     connect(m_backend.get(), &MediaBackend::durationChanged, this,
             &MusicPlayer::applyPendingPosition);
@@ -24,13 +24,10 @@ void MusicPlayer::setFileName(const QString &path) {
     m_pendingPositionMs = -1;
     m_backend->load(path);
     m_volume = kFullVolume;
-    m_balance = 0;
-    m_speed = 1.0;
     m_backend->setVolume(1.0f);
-    m_backend->setRate(1.0);
 }
 
-void MusicPlayer::Play() {
+void MusicPlayer::play() {
     if (m_fileName.isEmpty()) return;
     const qint64 duration = m_backend->durationMs();
     if (m_backend->atEnd() || (duration > 0 && m_backend->positionMs() >= duration))
@@ -38,15 +35,15 @@ void MusicPlayer::Play() {
     m_backend->play();
 }
 
-void MusicPlayer::Pause() {
+void MusicPlayer::pause() {
     m_backend->pause();
 }
 
-void MusicPlayer::StopPlaying() {
+void MusicPlayer::stop() {
     m_backend->stop();
 }
 
-int MusicPlayer::State() const {
+int MusicPlayer::state() const {
     switch (m_backend->state()) {
         case MediaBackend::State::Playing:
             return 1;
@@ -59,11 +56,11 @@ int MusicPlayer::State() const {
 
 bool MusicPlayer::hasEnded() const {
     const qint64 duration = m_backend->durationMs();
-    return State() == 0 || m_backend->atEnd() ||
+    return state() == 0 || m_backend->atEnd() ||
            (duration > 0 && m_backend->positionMs() >= duration);
 }
 
-double MusicPlayer::Position() const {
+double MusicPlayer::position() const {
     const qint64 ms = m_pendingPositionMs >= 0 ? m_pendingPositionMs : m_backend->positionMs();
     return ms / 1000.0;
 }
@@ -86,38 +83,13 @@ void MusicPlayer::applyPendingPosition() {
     m_backend->setPositionMs(position);
 }
 
-double MusicPlayer::Duration() const {
+double MusicPlayer::duration() const {
     return m_backend->durationMs() / 1000.0;
-}
-
-void MusicPlayer::setSpeed(double speed) {
-    m_speed = std::max(speed, kMinSpeed);
-    m_backend->setRate(m_speed);
 }
 
 void MusicPlayer::setVolume(int hundredthsOfDb) {
     m_volume = std::clamp(hundredthsOfDb, kSilence, kFullVolume);
     m_backend->setVolume(linearVolume(m_volume));
-}
-
-void MusicPlayer::setBalance(int balance) {
-    m_balance = std::clamp(balance, -10000, 10000);
-}
-
-bool MusicPlayer::HasAudio() const {
-    return m_backend->hasAudio();
-}
-
-bool MusicPlayer::HasVideo() const {
-    return m_backend->hasVideo();
-}
-
-int MusicPlayer::Width() const {
-    return HasVideo() ? m_backend->videoSize().width() : 0;
-}
-
-int MusicPlayer::Height() const {
-    return HasVideo() ? m_backend->videoSize().height() : 0;
 }
 
 float MusicPlayer::linearVolume(int hundredthsOfDb) {

@@ -95,10 +95,10 @@ void TestBuiltInSounds::realPlayerReadsTheChime() {
     MusicPlayer music;
     music.setFileName(QStringLiteral(QUELLIO_FACTORY_DIR "/") + sound::kWinSound);
     music.setVolume(MusicPlayer::kSilence);
-    QTRY_VERIFY_WITH_TIMEOUT(music.Duration() > 2.0, 5000);
-    QVERIFY(music.Duration() < 2.5);
+    QTRY_VERIFY_WITH_TIMEOUT(music.duration() > 2.0, 5000);
+    QVERIFY(music.duration() < 2.5);
     music.setPosition(99);
-    QTRY_COMPARE(music.Position(), music.Duration());
+    QTRY_COMPARE(music.position(), music.duration());
 }
 
 QTEST_MAIN(TestBuiltInSounds)

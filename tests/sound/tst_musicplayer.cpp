@@ -11,14 +11,14 @@ const QString kChime = QStringLiteral("/sys/win.wav");
 
 }  // namespace
 
-class TestClsMusic : public QObject {
+class TestMusicPlayer : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
     void volume_data();
     void volume();
-    void balanceAndSpeedAreClamped();
+    void aNewFileStartsAtFullVolume();
     void stateNumbering();
     void playWithoutFileDoesNothing();
     void playAfterTheEndRewinds();
@@ -34,13 +34,13 @@ private:
     FakeMedia *m_media = nullptr;
 };
 
-void TestClsMusic::init() {
+void TestMusicPlayer::init() {
     m_media = installFakeMedia();
     m_media->lengths.insert(kSong, 180000);
     m_media->lengths.insert(kChime, 2500);
 }
 
-void TestClsMusic::volume_data() {
+void TestMusicPlayer::volume_data() {
     QTest::addColumn<int>("set");
     QTest::addColumn<int>("stored");
     QTest::addColumn<float>("linear");
@@ -52,54 +52,41 @@ void TestClsMusic::volume_data() {
     QTest::newRow("below silence") << -20000 << -10000 << 0.0f;
 }
 
-void TestClsMusic::volume() {
+void TestMusicPlayer::volume() {
     QFETCH(int, set);
     QFETCH(int, stored);
     QFETCH(float, linear);
     MusicPlayer music;
     music.setFileName(kSong);
     music.setVolume(set);
-    QCOMPARE(music.Volume(), stored);
+    QCOMPARE(music.volume(), stored);
     QVERIFY(qAbs(m_media->last()->volume - linear) < 1e-5f);
 }
 
-void TestClsMusic::balanceAndSpeedAreClamped() {
+void TestMusicPlayer::aNewFileStartsAtFullVolume() {
     MusicPlayer music;
     music.setFileName(kSong);
-    music.setBalance(20000);
-    QCOMPARE(music.Balance(), 10000);
-    music.setBalance(-20000);
-    QCOMPARE(music.Balance(), -10000);
-    music.setSpeed(0);
-    QCOMPARE(music.Speed(), 0.1);
-    QCOMPARE(m_media->last()->rate, 0.1);
-    music.setSpeed(1.5);
-    QCOMPARE(music.Speed(), 1.5);
-
-    // A new file starts at full volume, centred, at normal speed.
     music.setVolume(-10000);
     music.setFileName(kChime);
-    QCOMPARE(music.Volume(), 0);
-    QCOMPARE(music.Balance(), 0);
-    QCOMPARE(music.Speed(), 1.0);
+    QCOMPARE(music.volume(), 0);
     QCOMPARE(m_media->last()->volume, 1.0f);
 }
 
-void TestClsMusic::stateNumbering() {
+void TestMusicPlayer::stateNumbering() {
     MusicPlayer music;
     QSignalSpy states(&music, &MusicPlayer::stateChanged);
     QSignalSpy ends(&music, &MusicPlayer::ended);
     music.setFileName(kSong);
-    QCOMPARE(music.State(), 0);
+    QCOMPARE(music.state(), 0);
     QVERIFY(music.hasEnded());
-    music.Play();
-    QCOMPARE(music.State(), 1);
+    music.play();
+    QCOMPARE(music.state(), 1);
     QVERIFY(!music.hasEnded());
-    music.Pause();
-    QCOMPARE(music.State(), 2);
-    music.Play();
-    music.StopPlaying();
-    QCOMPARE(music.State(), 0);
+    music.pause();
+    QCOMPARE(music.state(), 2);
+    music.play();
+    music.stop();
+    QCOMPARE(music.state(), 0);
     QCOMPARE(states.size(), 4);
     const QList<int> seen = {states.at(0).at(0).toInt(), states.at(1).at(0).toInt(),
                              states.at(2).at(0).toInt(), states.at(3).at(0).toInt()};
@@ -107,37 +94,37 @@ void TestClsMusic::stateNumbering() {
     QCOMPARE(ends.size(), 0);
 }
 
-void TestClsMusic::playWithoutFileDoesNothing() {
+void TestMusicPlayer::playWithoutFileDoesNothing() {
     MusicPlayer music;
-    music.Play();
-    QCOMPARE(music.State(), 0);
+    music.play();
+    QCOMPARE(music.state(), 0);
     QVERIFY(!m_media->last()->calls.contains(QStringLiteral("play")));
 }
 
-void TestClsMusic::playAfterTheEndRewinds() {
+void TestMusicPlayer::playAfterTheEndRewinds() {
     MusicPlayer music;
     QSignalSpy ends(&music, &MusicPlayer::ended);
     music.setFileName(kChime);
-    music.Play();
+    music.play();
     FakeMediaBackend *player = m_media->last();
     player->finish();
     QCOMPARE(ends.size(), 1);
     QVERIFY(music.hasEnded());
-    QCOMPARE(music.Position(), music.Duration());
+    QCOMPARE(music.position(), music.duration());
     player->calls.clear();
-    music.Play();
+    music.play();
     QCOMPARE(player->calls, (QStringList{"seek 0", "play"}));
-    QCOMPARE(music.State(), 1);
+    QCOMPARE(music.state(), 1);
 
     // Resuming in the middle does not rewind.
-    music.Pause();
+    music.pause();
     music.setPosition(1.0);
     player->calls.clear();
-    music.Play();
+    music.play();
     QCOMPARE(player->calls, QStringList{"play"});
 }
 
-void TestClsMusic::positionIsClamped_data() {
+void TestMusicPlayer::positionIsClamped_data() {
     QTest::addColumn<double>("set");
     QTest::addColumn<double>("position");
     QTest::newRow("inside") << 1.25 << 1.25;
@@ -145,57 +132,54 @@ void TestClsMusic::positionIsClamped_data() {
     QTest::newRow("past the end") << 99.0 << 2.5;
 }
 
-void TestClsMusic::positionIsClamped() {
+void TestMusicPlayer::positionIsClamped() {
     QFETCH(double, set);
     QFETCH(double, position);
     MusicPlayer music;
     music.setFileName(kChime);
-    QCOMPARE(music.Duration(), 2.5);
+    QCOMPARE(music.duration(), 2.5);
     music.setPosition(set);
-    QCOMPARE(music.Position(), position);
+    QCOMPARE(music.position(), position);
 }
 
-void TestClsMusic::positionBeforeTheLengthIsKnown() {
+void TestMusicPlayer::positionBeforeTheLengthIsKnown() {
     // The background music resumes where it was left, right after opening the file again.
     MusicPlayer music;
     m_media->last()->deferLength = true;
     music.setFileName(kSong);
     music.setPosition(42.5);
-    music.Play();
-    QCOMPARE(music.Position(), 42.5);
+    music.play();
+    QCOMPARE(music.position(), 42.5);
     m_media->last()->reportLength();
     QCOMPARE(m_media->last()->position, 42500);
-    QCOMPARE(music.Position(), 42.5);
+    QCOMPARE(music.position(), 42.5);
 }
 
-void TestClsMusic::secondFileStopsTheFirst() {
+void TestMusicPlayer::secondFileStopsTheFirst() {
     MusicPlayer music;
     music.setFileName(kSong);
-    music.Play();
+    music.play();
     FakeMediaBackend *player = m_media->last();
     player->calls.clear();
     music.setFileName(kChime);
     QCOMPARE(player->calls.first(), QStringLiteral("load ") + kChime);
-    QCOMPARE(music.State(), 0);
+    QCOMPARE(music.state(), 0);
     QCOMPARE(music.fileName(), kChime);
 }
 
-void TestClsMusic::unreadableFileIsSilent() {
+void TestMusicPlayer::unreadableFileIsSilent() {
     MusicPlayer music;
     music.setFileName(QStringLiteral("/nowhere/missing.mp3"));
-    QVERIFY(!music.HasAudio());
-    QCOMPARE(music.Duration(), 0.0);
-    music.Play();
-    QCOMPARE(music.State(), 0);
+    QCOMPARE(music.duration(), 0.0);
+    music.play();
+    QCOMPARE(music.state(), 0);
     QVERIFY(music.hasEnded());
-    QCOMPARE(music.Width(), 0);
-    QCOMPARE(music.Height(), 0);
 }
 
-void TestClsMusic::releasingStopsTheSound() {
+void TestMusicPlayer::releasingStopsTheSound() {
     auto *music = new MusicPlayer;
     music->setFileName(kSong);
-    music->Play();
+    music->play();
     QPointer<FakeMediaBackend> player = m_media->last();
     QCOMPARE(player->current, MediaBackend::State::Playing);
     player->calls.clear();
@@ -203,19 +187,18 @@ void TestClsMusic::releasingStopsTheSound() {
     QVERIFY(player.isNull());
 }
 
-void TestClsMusic::qtBackendWithoutSoundCard() {
+void TestMusicPlayer::qtBackendWithoutSoundCard() {
     // The real player must neither fail nor block on a machine without an audio device.
     setMediaBackendFactory({});
     MusicPlayer music;
     music.setFileName(QStringLiteral("/nowhere/missing.wav"));
     music.setVolume(-10000);
-    music.Play();
+    music.play();
     QTest::qWait(200);
-    QVERIFY(!music.HasAudio());
-    QCOMPARE(music.Duration(), 0.0);
-    music.StopPlaying();
-    QCOMPARE(music.State(), 0);
+    QCOMPARE(music.duration(), 0.0);
+    music.stop();
+    QCOMPARE(music.state(), 0);
 }
 
-QTEST_MAIN(TestClsMusic)
+QTEST_MAIN(TestMusicPlayer)
 #include "tst_musicplayer.moc"

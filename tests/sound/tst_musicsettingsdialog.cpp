@@ -151,7 +151,7 @@ void TestFrmMusic::listening() {
 
     rows[0].cmdTest->click();
     QCOMPARE(form.testRow(), 1);
-    QCOMPARE(form.player()->State(), 1);
+    QCOMPARE(form.player()->state(), 1);
     QVERIFY(form.tmM.isActive());
     QVERIFY(rows[0].cmdStop->isEnabled() && !rows[0].cmdTest->isEnabled());
     // Trying another row stops the first and gives it back its test button.
@@ -172,7 +172,7 @@ void TestFrmMusic::listening() {
     // Stop: the sound ends at once, the timer tidies up.
     rows[0].cmdTest->click();
     rows[0].cmdStop->click();
-    QCOMPARE(form.player()->State(), 0);
+    QCOMPARE(form.player()->state(), 0);
     QVERIFY(!rows[0].cmdStop->isEnabled());
     form.tmM_Timer();
     QVERIFY(rows[0].cmdTest->isEnabled());

@@ -38,11 +38,6 @@ void FakeMediaBackend::setPositionMs(qint64 value) {
     finished = false;
 }
 
-void FakeMediaBackend::setRate(double value) {
-    calls << QStringLiteral("rate %1").arg(value);
-    rate = value;
-}
-
 void FakeMediaBackend::setVolume(float value) {
     calls << QStringLiteral("volume %1").arg(value);
     volume = value;

@@ -13,13 +13,12 @@ class FakeMediaBackend : public MediaBackend {
 public:
     explicit FakeMediaBackend(const QHash<QString, qint64> &lengths) : m_lengths(lengths) {}
 
-    QStringList calls;  // "load path", "play", "pause", "stop", "seek ms", "rate r", "volume v"
+    QStringList calls;  // "load path", "play", "pause", "stop", "seek ms", "volume v"
     QString source;
     State current = State::Stopped;
     bool finished = false;
     qint64 position = 0;
     qint64 duration = 0;
-    double rate = 1.0;
     float volume = 1.0f;
     // When set, a load leaves the length unknown until reportLength(), as a real player does.
     bool deferLength = false;
@@ -33,11 +32,7 @@ public:
     qint64 positionMs() const override { return position; }
     void setPositionMs(qint64 value) override;
     qint64 durationMs() const override { return duration; }
-    void setRate(double value) override;
     void setVolume(float value) override;
-    bool hasAudio() const override { return duration > 0; }
-    bool hasVideo() const override { return false; }
-    QSize videoSize() const override { return {}; }
 
     // The file plays to its end: the position reaches the length and the player stops.
     void finish();

@@ -233,7 +233,7 @@ void DrawWindow::closeEvent(QCloseEvent *event) {
     m_tmDelay.stop();
     m_tmM.stop();
     m_picInfo->hide();
-    if (m_music) m_music->StopPlaying();
+    if (m_music) m_music->stop();
     m_session.drawState = draw::Idle;
     event->accept();
     Q_EMIT closed();

@@ -54,7 +54,7 @@ void DrawWindow::playFromStart(const QString &path) {
     m_music->setFileName(path);
     m_music->setVolume(m_volume);
     m_music->setPosition(0);
-    m_music->Play();
+    m_music->play();
     m_currentFile = path;
     if (!m_tmM.isActive()) m_tmM.start();
 }
@@ -65,7 +65,7 @@ void DrawWindow::resumeBackground() {
     m_music->setFileName(bg);
     m_music->setVolume(m_volume);
     m_music->setPosition(m_bgPosition);
-    m_music->Play();
+    m_music->play();
     m_currentFile = bg;
     if (!m_tmM.isActive()) m_tmM.start();
 }
@@ -75,7 +75,7 @@ void DrawWindow::backToBackground() {
 }
 
 void DrawWindow::stopMusic() {
-    m_music->StopPlaying();
+    m_music->stop();
     m_tmM.stop();
 }
 
@@ -86,10 +86,10 @@ void DrawWindow::setVolumeLevel(int volume) {
 
 void DrawWindow::pauseForMinimise(bool minimised) {
     if (minimised) {
-        m_music->Pause();
+        m_music->pause();
         m_tmM.stop();
     } else if (!m_currentFile.isEmpty()) {
-        m_music->Play();
+        m_music->play();
         m_tmM.start();
     }
 }
@@ -98,11 +98,11 @@ void DrawWindow::tmM_Timer() {
     if (!m_music) return;
     const draw::MusicSettings &music = m_musicSettings;
     if (!m_currentFile.isEmpty() && m_currentFile == music.bgFile)
-        m_bgPosition = std::floor(m_music->Position());
+        m_bgPosition = std::floor(m_music->position());
     const bool ended = m_music->hasEnded() ||
-                       (m_music->Duration() > 0 && m_music->Position() >= m_music->Duration());
+                       (m_music->duration() > 0 && m_music->position() >= m_music->duration());
     if (!ended || m_currentFile.isEmpty()) return;
-    m_music->StopPlaying();
+    m_music->stop();
     if (m_currentFile == music.bgFile || m_currentFile == music.startFile ||
         m_currentFile == music.playFile) {
         // The background, start and parade music loop.

@@ -137,7 +137,7 @@ void MusicSettingsDialog::chooseFile(int row) {
 
 void MusicSettingsDialog::startTest(int row) {
     if (m_testRow > 0) {
-        if (m_player) m_player->StopPlaying();
+        if (m_player) m_player->stop();
         applyTestRule(m_testRow - 1);
         rows[size_t(m_testRow - 1)].cmdStop->setEnabled(false);
     }
@@ -145,7 +145,7 @@ void MusicSettingsDialog::startTest(int row) {
     m_player = std::make_unique<MusicPlayer>();
     if (fileExists(r.txt->text())) {
         m_player->setFileName(r.txt->text());
-        m_player->Play();
+        m_player->play();
     } else {
         m_player.reset();
     }
@@ -156,14 +156,14 @@ void MusicSettingsDialog::startTest(int row) {
 }
 
 void MusicSettingsDialog::stopTest(int row) {
-    if (m_player) m_player->StopPlaying();
+    if (m_player) m_player->stop();
     rows[size_t(row)].cmdStop->setEnabled(false);
 }
 
 void MusicSettingsDialog::tmM_Timer() {
     // Without a player there is nothing to wait for either.
-    if (m_player && m_player->State() != 0 && m_player->Position() != m_player->Duration()) return;
-    if (m_player) m_player->StopPlaying();
+    if (m_player && m_player->state() != 0 && m_player->position() != m_player->duration()) return;
+    if (m_player) m_player->stop();
     if (m_testRow > 0) {
         rows[size_t(m_testRow - 1)].cmdStop->setEnabled(false);
         applyTestRule(m_testRow - 1);
