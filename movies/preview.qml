@@ -1,6 +1,5 @@
 import QtQuick
 import "components"
-import "components/proto.js" as P
 
 // The console's small live copy of the draw stage. It announces itself with "asload", waits
 // for getIsOk, asks for the template with "startskin", then draws what the console pushes:
@@ -38,7 +37,7 @@ Item {
         }
     }
 
-    Component.onCompleted: Qt.callLater(function () { send("asload") })
+    Component.onCompleted: Qt.callLater(function () { send("asload") }) // qmllint disable type
 
     function objectNames() { return Object.keys(page.objects) }
     function objectText(name) {

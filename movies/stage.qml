@@ -1,6 +1,5 @@
 import QtQuick
 import "components"
-import "components/proto.js" as P
 
 // The draw screen's movie. It answers the host's start-up dialogue, draws the template's page,
 // rolls and lands the draw, plays the winner parade and carries the on-stage buttons. The host
@@ -67,7 +66,7 @@ Item {
 
     // --- start-up -------------------------------------------------------------------------
 
-    Component.onCompleted: Qt.callLater(function () { send("loadok") })
+    Component.onCompleted: Qt.callLater(function () { send("loadok") }) // qmllint disable type
 
     function enterDraw() {
         if (scene === "draw") return
@@ -129,10 +128,13 @@ Item {
     function loadBlock(f) {
         // A template without its draw area still draws, in the middle of the page: the host
         // waits for blocksetok and must get it.
-        if (!page.drawArea)
+        if (!page.drawArea) {
+            // qmllint disable type
             page.add("vbAddJpBox", ["ssm_vornex", Math.round(page.width * 0.1),
                                     Math.round(page.height * 0.22), Math.round(page.width * 0.8),
                                     Math.round(page.height * 0.62), 500].join("|"))
+            // qmllint enable type
+        }
         var area = page.drawArea
         area.winners = winners
         area.loadBlock(f)

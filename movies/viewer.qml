@@ -1,5 +1,5 @@
 import QtQuick
-import "components/proto.js" as P
+import "components"
 
 // The picture viewer of the roster and award dialogs: vbAddImg shows a picture fitted to the
 // box, decoded at the size shown; the empty text clears it.
@@ -19,7 +19,9 @@ Item {
 
     function shownPath() { return picture.status === Image.Ready ? path : "" }
 
-    Component.onCompleted: Qt.callLater(function () { fsCommand("loadok", "yes") })
+    Component.onCompleted: {
+        Qt.callLater(function () { fsCommand("loadok", "yes") }) // qmllint disable type
+    }
 
     Rectangle {
         anchors.fill: parent

@@ -6,8 +6,9 @@ set -euo pipefail
 packages=(
   build-essential cmake ninja-build clang-format pkg-config
   qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite qt6-qpa-plugins
-  qt6-declarative-dev qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-controls
-  qml6-module-qtquick-layouts qml6-module-qtquick-templates qml6-module-qtqml-workerscript
+  qt6-declarative-dev qt6-declarative-dev-tools qml6-module-qtqml qml6-module-qtquick
+  qml6-module-qtquick-window qml6-module-qtquick-controls qml6-module-qtquick-layouts
+  qml6-module-qtquick-templates qml6-module-qtqml-workerscript
   qml6-module-qtquick-shapes qml6-module-qt5compat-graphicaleffects qml6-module-qtquick-particles
   qt6-multimedia-dev qml6-module-qtmultimedia libqt6multimediawidgets6
   qt6-svg-dev qt6-image-formats-plugins
@@ -15,11 +16,14 @@ packages=(
   fonts-noto-cjk xvfb xauth sqlite3
 )
 
+# One query for all of them: starting dpkg-query once per package is most of the time taken.
+declare -A installed=()
+while read -r status name; do
+  [ "$status" = "ii" ] && installed[$name]=1
+done < <(dpkg-query -W -f='${db:Status-Abbrev} ${Package}\n' "${packages[@]}" 2>/dev/null || true)
 missing=()
 for p in "${packages[@]}"; do
-  if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed"; then
-    missing+=("$p")
-  fi
+  [ -n "${installed[$p]:-}" ] || missing+=("$p")
 done
 [ ${#missing[@]} -eq 0 ] && exit 0
 

@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 
 // The burst on a winner: a flash, two gold rings, rays and confetti flying out of the cell.
@@ -25,7 +26,7 @@ Item {
         running.restart()
     }
 
-    property real t: 0      // 0 to 1 over the burst
+    property real t         // 0 to 1 over the burst, driven by the animation below
     NumberAnimation on t {
         id: running
         running: false
@@ -47,6 +48,7 @@ Item {
     Repeater {      // rings
         model: 2
         Rectangle {
+            required property int index
             readonly property real grow: Math.max(0, burst.t - index * 0.12)
             width: burst.size * (0.5 + grow * 1.6)
             height: width
@@ -62,6 +64,8 @@ Item {
     Repeater {      // rays
         model: 16
         Rectangle {
+            id: ray
+            required property int index
             width: burst.size * (0.15 + burst.t * 0.55)
             height: Math.max(2, burst.size * 0.022)
             radius: height / 2
@@ -71,7 +75,7 @@ Item {
             opacity: (1 - burst.t) * 0.9
             transform: [
                 Translate { x: burst.size * (0.28 + burst.t * 0.5) },
-                Rotation { angle: index * 22.5 + burst.t * 25 }
+                Rotation { angle: ray.index * 22.5 + burst.t * 25 }
             ]
         }
     }
@@ -79,6 +83,7 @@ Item {
         id: confetti
         model: 22
         Rectangle {
+            required property int index
             property real dx: 0
             property real dy: 0
             property real spin: 0

@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 
 // The on-stage button bar. Which buttons show follows the draw state (changBtn); the sound and
@@ -82,6 +83,7 @@ Item {
         Repeater {
             model: bar.visibleNames()
             StageButton {
+                required property string modelData
                 name: modelData
                 glyph: bar.info[modelData][0]
                 caption: bar.info[modelData][1]

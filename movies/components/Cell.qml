@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import "proto.js" as P
 
@@ -93,6 +94,7 @@ Item {
     Repeater {
         model: 3
         Rectangle {
+            required property int index
             anchors.centerIn: parent
             width: cell.width + (index + 1) * cell.pad * 1.6
             height: cell.height + (index + 1) * cell.pad * 1.6

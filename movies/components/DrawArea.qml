@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import "proto.js" as P
 
@@ -113,12 +114,13 @@ Item {
         count = 0           // rebuild the cells with the new sizes
         count = n
         if (mode > 0) warmPhotos()
-        for (var i = 0; i < cells.count; ++i) cells.itemAt(i).reset()
+        for (var i = 0; i < cells.count; ++i) cellAt(i).reset()
     }
 
     // Winners first, then the rest of the roster, decoded ahead at the cells' photo size.
     function warmPhotos() {
-        if (typeof photoCache === "undefined" || !photoCache) return
+        // photoCache is the host's context property, missing when a movie runs on its own.
+        if (typeof photoCache === "undefined" || !photoCache) return // qmllint disable unqualified
         var paths = [], seen = {}
         for (var i = 0; i < winners.length; ++i) {
             var own = photos[winners[i].id]
@@ -143,7 +145,7 @@ Item {
         phase = "rolling"
         landedCount = 0
         for (var i = 0; i < cells.count; ++i) {
-            var cell = cells.itemAt(i)
+            var cell = cellAt(i)
             cell.reset()
             cell.rolling = true
             cell.showItem(cell.pick())
@@ -170,7 +172,7 @@ Item {
         var stagger = n <= 1 ? 0 : Math.min(220 + Math.max(0, luckDelay) * 28, 4200 / (n - 1))
         for (var i = 0; i < n; ++i) {
             var target = i < winners.length ? winners[i] : { name: "", id: "" }
-            cells.itemAt(i).land(target, i * stagger + 1, slow, rollInterval)
+            cellAt(i).land(target, i * stagger + 1, slow, rollInterval)
         }
         if (n === 0) finish.restart()
     }
@@ -180,21 +182,24 @@ Item {
         finish.stop()
         phase = "idle"
         cellsShown = false
-        for (var i = 0; i < cells.count; ++i) cells.itemAt(i).reset()
+        for (var i = 0; i < cells.count; ++i) cellAt(i).reset()
     }
+
+    function cellAt(i) { return cells.itemAt(i) as Cell }
 
     function shown() { return cellsShown && count > 0 }
 
+    // The linter of Qt 6.4 takes a JS array literal for a Qt list that has no push().
     function cellPhotos() {
         var out = []
         for (var i = 0; i < cells.count; ++i)
-            if (cells.itemAt(i).photoShown) out.push(cells.itemAt(i).photoShown)
+            if (cellAt(i).photoShown) out.push(cellAt(i).photoShown) // qmllint disable type
         return out
     }
 
     function cellNames() {
         var out = []
-        for (var i = 0; i < cells.count; ++i) out.push(cells.itemAt(i).name)
+        for (var i = 0; i < cells.count; ++i) out.push(cellAt(i).name) // qmllint disable type
         return out
     }
 
@@ -205,7 +210,7 @@ Item {
         onTriggered: {
             var still = false
             for (var i = 0; i < cells.count; ++i) {
-                var cell = cells.itemAt(i)
+                var cell = area.cellAt(i)
                 if (cell.rolling) { cell.showItem(cell.pick()); still = true }
             }
             if (!still) stop()
@@ -299,6 +304,7 @@ Item {
             id: cells
             model: area.count
             Cell {
+                required property int index
                 readonly property int row: Math.floor(index / area.cols)
                 readonly property int col: index % area.cols
                 // The last row is centred when it is not full.

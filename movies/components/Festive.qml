@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 
 // The festive dressing of a page without a background picture: warm spotlights from above,
@@ -51,6 +52,8 @@ Item {
     Repeater {      // sparks
         model: 26
         Rectangle {
+            id: spark
+            required property int index
             readonly property real seed: (index * 7919 % 997) / 997
             x: dress.width * ((index * 0.381966) % 1)
             y: dress.height * (0.04 + 0.86 * seed)
@@ -58,12 +61,14 @@ Item {
             height: width
             radius: width / 2
             color: index % 3 ? "#FFE08A" : "#FFFFFF"
-            opacity: 0.2
             SequentialAnimation on opacity {
-                loops: Animation.Infinite
-                PauseAnimation { duration: 300 + (index * 413) % 2600 }
-                NumberAnimation { to: 0.85; duration: 900; easing.type: Easing.InOutSine }
-                NumberAnimation { to: 0.15; duration: 1300; easing.type: Easing.InOutSine }
+                PropertyAction { value: 0.2 }
+                SequentialAnimation {
+                    loops: Animation.Infinite
+                    PauseAnimation { duration: 300 + (spark.index * 413) % 2600 }
+                    NumberAnimation { to: 0.85; duration: 900; easing.type: Easing.InOutSine }
+                    NumberAnimation { to: 0.15; duration: 1300; easing.type: Easing.InOutSine }
+                }
             }
         }
     }

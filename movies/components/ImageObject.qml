@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import "proto.js" as P
 
@@ -54,6 +55,7 @@ Item {
         Repeater {
             model: reflection.bands
             Item {
+                required property int index
                 y: index * reflection.height / reflection.bands
                 width: reflection.width
                 height: Math.ceil(reflection.height / reflection.bands)

@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import "proto.js" as P
 
@@ -14,8 +15,8 @@ Item {
     property color bgColor: "#9E1B22"
     property string bgSource
     property var objects: ({})
-    readonly property Item drawArea: objects["ssm_vornex"] || null
-    signal drawAreaReady(Item area)
+    readonly property DrawArea drawArea: objects["ssm_vornex"] || null
+    signal drawAreaReady(DrawArea area)
 
     width: 1024
     height: 768

@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import "proto.js" as P
 
@@ -203,6 +204,9 @@ Item {
                 Repeater {
                     model: parade.names.length
                     Rectangle {
+                        id: nameCard
+                        required property int index
+                        readonly property string photo: parade.photos[parade.ids[index]] || ""
                         width: list.cellW
                         height: entry.height + 2 * parade.namePad
                         radius: Math.min(height / 2, parade.namePad * 1.5)
@@ -218,18 +222,16 @@ Item {
                                 anchors.horizontalCenter: parent.horizontalCenter
                                 width: Math.min(parade.photoW, entry.width)
                                 height: visible ? parade.photoH * width / parade.photoW : 0
-                                readonly property string path: parade.photos[parade.ids[index]]
-                                                               || ""
-                                source: visible ? P.photoUrl(path) : ""
+                                source: visible ? P.photoUrl(nameCard.photo) : ""
                                 sourceSize.width: Math.ceil(width)
                                 sourceSize.height: Math.ceil(height)
                                 asynchronous: true
                                 fillMode: Image.PreserveAspectCrop
                             }
                             ShadowText {
-                                visible: parade.mode !== 1 || !parade.photos[parade.ids[index]]
+                                visible: parade.mode !== 1 || !nameCard.photo
                                 width: entry.width
-                                text: parade.names[index]
+                                text: parade.names[nameCard.index]
                                 horizontalAlignment: parade.nameStyle.align
                                 elide: Text.ElideRight
                                 color: parade.nameStyle.color

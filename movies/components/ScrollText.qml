@@ -71,8 +71,8 @@ Item {
         run.start()
     }
 
-    onShownChanged: Qt.callLater(restart)
-    onWidthChanged: Qt.callLater(restart)
+    onShownChanged: Qt.callLater(restart) // qmllint disable type
+    onWidthChanged: Qt.callLater(restart) // qmllint disable type
 
     Rectangle { id: panel; anchors.fill: parent }
     ShadowText {

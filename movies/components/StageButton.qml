@@ -10,7 +10,7 @@ AbstractButton {
     property bool accent: false
     objectName: name
     property string name
-    implicitWidth: Math.max(62, captionText.implicitWidth + 16)
+    implicitWidth: Math.max(62, implicitBackgroundWidth + 16)
     implicitHeight: 72
     hoverEnabled: true
     focusPolicy: Qt.NoFocus
@@ -19,11 +19,11 @@ AbstractButton {
     ToolTip.delay: 400
 
     contentItem: Item {}
-    background: Item {
+    background: Column {
+        topPadding: 2
+        spacing: 4
         Rectangle {
-            id: disc
             anchors.horizontalCenter: parent.horizontalCenter
-            y: 2
             width: 44
             height: 44
             radius: 22
@@ -45,10 +45,7 @@ AbstractButton {
             }
         }
         Text {
-            id: captionText
             anchors.horizontalCenter: parent.horizontalCenter
-            anchors.top: disc.bottom
-            anchors.topMargin: 4
             text: button.caption
             color: "#FFF4D6"
             font.pixelSize: 14
