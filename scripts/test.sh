@@ -21,3 +21,4 @@ fi
 cmake --build "$build" --parallel "$(nproc)"
 export QT_QPA_PLATFORM=offscreen
 (cd "$build" && ctest --output-on-failure --parallel "$(nproc)" "$@")
+bash scripts/test-ratio.sh
