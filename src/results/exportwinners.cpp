@@ -32,8 +32,8 @@ QByteArray winnersCsv() {
     for (const results::Award &award : results::awardsInOrder(db)) {
         const auto winners = results::winnersOf(db, award.id, results::WinnerOrder::EarliestFirst);
         for (const results::Winner &winner : winners)
-            out += csvLine({QString::number(number++), award.jxName, award.jpName, winner.userName,
-                            winner.userPart}) +
+            out += csvLine({QString::number(number++), award.name, award.prize, winner.name,
+                            winner.remark}) +
                    kLineEnd;
     }
     return out;

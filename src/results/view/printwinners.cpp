@@ -51,7 +51,7 @@ void noAward() {
 }
 
 printout::Row row(int number, const results::Award &award, const results::Winner &winner) {
-    return {QString::number(number), award.jxName, award.jpName, winner.userName};
+    return {QString::number(number), award.name, award.prize, winner.name};
 }
 
 }  // namespace
