@@ -9,7 +9,7 @@
 
 #include "core/store.h"
 #include "draw/giveup.h"
-#include "results/lucklist.h"
+#include "results/winnerlist.h"
 
 namespace {
 
@@ -77,8 +77,8 @@ int main(int argc, char *argv[]) {
         ids << row.id;
     out << "give-up of one page (" << ids.size()
         << " rows): " << timed([&] { draw::giveUp(db, ids, nullptr); }, 1) << " ms\n";
-    results::LuckList list;
-    out << "winner list: " << timed([&] { list = results::luckList(db); }, 3) << " ms, "
+    results::WinnerList list;
+    out << "winner list: " << timed([&] { list = results::readWinnerList(db); }, 3) << " ms, "
         << list.rows.size() << " rows\n";
     db = QSqlDatabase();
     store::close();

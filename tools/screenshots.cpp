@@ -88,7 +88,7 @@ void shootDialogs(const QString &out) {
     save(&pass, out + QStringLiteral("/password.png"));
 }
 
-void shootKeyBoard(const QString &out) {
+void shootHotkeySettings(const QString &out) {
     HotkeySettingsDialog keys;
     save(&keys, out + QStringLiteral("/keyboard.png"));
 }
@@ -103,7 +103,7 @@ void shootPrintout(const QString &out) {
     for (int i = 0; query.next() && !awards.isEmpty(); ++i) {
         const results::Award &award = awards.at(i * awards.size() / 60);
         document.rows.append(
-            {QString::number(i + 1), award.jxName, award.jpName, query.value(0).toString()});
+            {QString::number(i + 1), award.name, award.prize, query.value(0).toString()});
     }
     const double dpi = 150;
     QImage page(qRound(210 / 25.4 * dpi), qRound(297 / 25.4 * dpi), QImage::Format_RGB32);
@@ -135,7 +135,7 @@ int main(int argc, char *argv[]) {
     QDir().mkpath(out);
     shootConsole(out);
     shootDialogs(out);
-    shootKeyBoard(out);
+    shootHotkeySettings(out);
     shootPrintout(out);
     shutDown();
     return 0;

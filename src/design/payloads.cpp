@@ -70,7 +70,7 @@ Fields placed(const ObjRow &row) {
     return fields;
 }
 
-QString variableOf(const QString &kind) {
+QString variableForKind(const QString &kind) {
     if (kind == QLatin1String("txt")) return proto::vbAddTxt;
     if (kind == QLatin1String("scr")) return proto::vbAddStxt;
     if (kind == QLatin1String("img")) return proto::vbAddImg;
@@ -81,7 +81,7 @@ QString variableOf(const QString &kind) {
 
 QString kindOfVariable(const QString &objType) {
     for (const char *kind : {"txt", "scr", "img", "swf", "ssm"}) {
-        if (variableOf(QLatin1String(kind)) == objType) return QLatin1String(kind);
+        if (variableForKind(QLatin1String(kind)) == objType) return QLatin1String(kind);
     }
     return QString();
 }
@@ -107,18 +107,18 @@ QString numberText(double value) {
 
 // --- Page -----------------------------------------------------------------------------------
 
-QString bgColorPayload(const BgRow &bg, const PayloadContext &context) {
+QString backgroundColorPayload(const BgRow &bg, const PayloadContext &context) {
     Fields fields;
     fields << int(bg.BgW) << int(bg.BgH) << bg.BgColor;
     if (context.reader == Reader::Draw) fields << context.luckDelay;
     return fields.text();
 }
 
-QString bgImgPayload(const BgRow &bg, const QString &appPath) {
+QString backgroundImagePayload(const BgRow &bg, const QString &appPath) {
     return (Fields() << appPath + normalizeSlashes(bg.BgImg) << int(bg.BgW) << int(bg.BgH)).text();
 }
 
-bool sendsBgImg(const BgRow &bg, const PayloadContext &context) {
+bool sendsBackgroundImage(const BgRow &bg, const PayloadContext &context) {
     if (context.reader != Reader::Console) return true;
     return !bg.BgImg.isEmpty() && exists(context, context.appPath + normalizeSlashes(bg.BgImg));
 }
@@ -153,7 +153,7 @@ QString stageScalePayload(int hostW, int hostH, bool fullScreen, int bgW, int bg
 
 // --- Objects --------------------------------------------------------------------------------
 
-QString txtPayload(const ObjRow &row, const PayloadContext &context) {
+QString textPayload(const ObjRow &row, const PayloadContext &context) {
     Fields fields = placed(row);
     fields << row.ObjAlpha << row.bgColor << row.bgAlpha << row.borderNum << row.borderType
            << textOf(row, context) << row.fFont << row.fColor << row.fSize << row.fBold
@@ -163,7 +163,7 @@ QString txtPayload(const ObjRow &row, const PayloadContext &context) {
     return fields.text();
 }
 
-QString stxtPayload(const ObjRow &row, const PayloadContext &context) {
+QString scrollTextPayload(const ObjRow &row, const PayloadContext &context) {
     Fields fields;
     fields << proto::falseText << row.ObjName << int(row.ObjDepth) << row.ObjDirection << row.ObjX
            << row.ObjY << row.ObjW << row.ObjH << row.bgColor << row.bgAlpha << row.borderType
@@ -173,7 +173,7 @@ QString stxtPayload(const ObjRow &row, const PayloadContext &context) {
     return fields.text();
 }
 
-QString jpBoxPayload(const ObjRow &row, bool longForm) {
+QString drawAreaPayload(const ObjRow &row, bool longForm) {
     Fields fields;
     fields << row.ObjName << row.ObjX << row.ObjY << row.ObjW << row.ObjH << int(row.ObjDepth);
     if (longForm)
@@ -182,7 +182,7 @@ QString jpBoxPayload(const ObjRow &row, bool longForm) {
     return fields.text();
 }
 
-QString imgPayload(const ObjRow &row, const PayloadContext &context, bool *usedBlock) {
+QString imagePayload(const ObjRow &row, const PayloadContext &context, bool *usedBlock) {
     const Picture picture = pictureOf(row, context);
     if (usedBlock) *usedBlock = picture.block;
     Fields fields = placed(row);
@@ -190,7 +190,7 @@ QString imgPayload(const ObjRow &row, const PayloadContext &context, bool *usedB
     return fields.text();
 }
 
-QString swfPayload(const ObjRow &row, const PayloadContext &context, bool *usedBlock) {
+QString animationPayload(const ObjRow &row, const PayloadContext &context, bool *usedBlock) {
     const Picture picture = pictureOf(row, context);
     if (usedBlock) *usedBlock = picture.block;
     Fields fields = placed(row);
@@ -216,24 +216,24 @@ StageCommand objectCommand(const ObjRow &row, const PayloadContext &context, Obj
     StageCommand command;
     command.name = row.ObjType;
     if (kind == QLatin1String("txt")) {
-        command.value = txtPayload(row, context);
+        command.value = textPayload(row, context);
     } else if (kind == QLatin1String("scr")) {
-        command.value = stxtPayload(row, context);
+        command.value = scrollTextPayload(row, context);
     } else if (kind == QLatin1String("img") &&
                !(context.reader == Reader::Draw && isPrizePicture(row))) {
-        command.value = imgPayload(row, context, &command.usedBlockPicture);
+        command.value = imagePayload(row, context, &command.usedBlockPicture);
     } else if (kind == QLatin1String("swf") && context.reader != Reader::Console) {
-        command.value = swfPayload(row, context, &command.usedBlockPicture);
+        command.value = animationPayload(row, context, &command.usedBlockPicture);
     } else if (kind == QLatin1String("ssm")) {
         const bool longForm = context.reader == Reader::Console || form == ObjectForm::Refresh;
-        command.value = jpBoxPayload(row, longForm);
+        command.value = drawAreaPayload(row, longForm);
     } else {
         return {};
     }
     return command;
 }
 
-QString addTxtPayload(const QString &name, int depth, int x, int y) {
+QString addTextPayload(const QString &name, int depth, int x, int y) {
     Fields fields;
     fields << proto::falseText << name << depth << x << y << 100 << QStringLiteral("0xFFFFFF") << 50
            << 5 << QStringLiteral("round") << QStringLiteral("新增普通文字，双击文字可以进行编辑")
@@ -242,7 +242,7 @@ QString addTxtPayload(const QString &name, int depth, int x, int y) {
     return fields.text();
 }
 
-QString addStxtPayload(const QString &name, int depth, int x, int y) {
+QString addScrollTextPayload(const QString &name, int depth, int x, int y) {
     Fields fields;
     fields << proto::trueText << name << depth << 0 << x << y << 280 << 20
            << QStringLiteral("0xFFFFFF") << 50 << QStringLiteral("round") << 5
@@ -252,25 +252,26 @@ QString addStxtPayload(const QString &name, int depth, int x, int y) {
     return fields.text();
 }
 
-QString addImgPayload(const QString &name, int depth, int x, int y, const QString &absolutePath) {
+QString addImagePayload(const QString &name, int depth, int x, int y, const QString &absolutePath) {
     Fields fields;
     fields << proto::falseText << name << depth << x << y << 0 << 0 << 100 << proto::falseText
            << normalizeSlashes(absolutePath);
     return fields.text();
 }
 
-QString addSwfPayload(const QString &name, int depth, int x, int y, const QString &absolutePath) {
+QString addAnimationPayload(const QString &name, int depth, int x, int y,
+                            const QString &absolutePath) {
     Fields fields;
     fields << proto::falseText << name << depth << x << y << 0 << 0
            << normalizeSlashes(absolutePath);
     return fields.text();
 }
 
-QString selMcByNamePayload(const QString &name) {
+QString selectObjectPayload(const QString &name) {
     return (Fields() << name << proto::trueText).text();
 }
 
-QString resetAsDepthPayload(const QString &moved, const QString &neighbour) {
+QString swapDepthPayload(const QString &moved, const QString &neighbour) {
     return (Fields() << moved << neighbour).text();
 }
 
@@ -303,7 +304,7 @@ QString loadBlockPayload(const LoadBlockValues &values, const PlayRow &blockValu
     return fields.text() + proto::blockEnd;
 }
 
-QString luckBoxPayload(const PlayRow &blockStyle, const LuckBoxValues &values) {
+QString drawAreaPreviewPayload(const PlayRow &blockStyle, const DrawAreaPreviewValues &values) {
     Fields fields;
     fields.raw(stylePayload(blockStyle));
     fields << values.maxImgWidth << values.maxImgHeight << values.previewType << values.cellCount

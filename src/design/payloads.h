@@ -48,11 +48,11 @@ QString numberText(double value);
 // --- Page -----------------------------------------------------------------------------------
 
 // BgW|BgH|BgColor, and on the draw screen |luckDelay.
-QString bgColorPayload(const BgRow &bg, const PayloadContext &context);
+QString backgroundColorPayload(const BgRow &bg, const PayloadContext &context);
 // Program folder + BgImg|BgW|BgH, sent even when BgImg is empty.
-QString bgImgPayload(const BgRow &bg, const QString &appPath);
+QString backgroundImagePayload(const BgRow &bg, const QString &appPath);
 // The console sends the background picture only when the file exists; the others always.
-bool sendsBgImg(const BgRow &bg, const PayloadContext &context);
+bool sendsBackgroundImage(const BgRow &bg, const PayloadContext &context);
 // Nine key codes: start|stop|clear|cancel|list out|list print|play list|sound|screen.
 QString keysPayload(const QList<int> &codes);
 
@@ -80,13 +80,15 @@ enum class ObjectForm { Load, Refresh };
 StageCommand objectCommand(const ObjRow &row, const PayloadContext &context,
                            ObjectForm form = ObjectForm::Load);
 
-QString txtPayload(const ObjRow &row, const PayloadContext &context);
-QString stxtPayload(const ObjRow &row, const PayloadContext &context);
-QString jpBoxPayload(const ObjRow &row, bool longForm);
-// Images and animations: the absolute path, or the block picture at 128 x 128 when the file is
-// gone (designer and draw screen). `usedBlock` tells which.
-QString imgPayload(const ObjRow &row, const PayloadContext &context, bool *usedBlock = nullptr);
-QString swfPayload(const ObjRow &row, const PayloadContext &context, bool *usedBlock = nullptr);
+// The values of vbAddTxt, vbAddStxt and vbAddJpBox (the draw area the names scroll in).
+QString textPayload(const ObjRow &row, const PayloadContext &context);
+QString scrollTextPayload(const ObjRow &row, const PayloadContext &context);
+QString drawAreaPayload(const ObjRow &row, bool longForm);
+// vbAddImg and vbAddSwf. Images and animations: the absolute path, or the block picture at 128 x
+// 128 when the file is gone (designer and draw screen). `usedBlock` tells which.
+QString imagePayload(const ObjRow &row, const PayloadContext &context, bool *usedBlock = nullptr);
+QString animationPayload(const ObjRow &row, const PayloadContext &context,
+                         bool *usedBlock = nullptr);
 
 // The draw screen keeps the prize picture (an img_ row of a system name) back: its nine leading
 // fields, each followed by "|", to which the award's picture path is appended later.
@@ -94,12 +96,14 @@ bool isPrizePicture(const ObjRow &row);
 QString prizePictureHeadOf(const ObjRow &row);
 
 // The designer's payloads at the moment of adding an object.
-QString addTxtPayload(const QString &name, int depth, int x, int y);
-QString addStxtPayload(const QString &name, int depth, int x, int y);
-QString addImgPayload(const QString &name, int depth, int x, int y, const QString &absolutePath);
-QString addSwfPayload(const QString &name, int depth, int x, int y, const QString &absolutePath);
-QString selMcByNamePayload(const QString &name);
-QString resetAsDepthPayload(const QString &moved, const QString &neighbour);
+QString addTextPayload(const QString &name, int depth, int x, int y);
+QString addScrollTextPayload(const QString &name, int depth, int x, int y);
+QString addImagePayload(const QString &name, int depth, int x, int y, const QString &absolutePath);
+QString addAnimationPayload(const QString &name, int depth, int x, int y,
+                            const QString &absolutePath);
+// selMcByName, and resetAsDepth when an object moves past its neighbour in depth.
+QString selectObjectPayload(const QString &name);
+QString swapDepthPayload(const QString &moved, const QString &neighbour);
 // The designer sends "yes|" + speed; the draw screen the bare "yes" or "no".
 QString startScrollPayload(bool scrolling, int speed, Reader reader);
 
@@ -119,9 +123,9 @@ struct LoadBlockValues {
 };
 QString loadBlockPayload(const LoadBlockValues &values, const PlayRow &blockValue);
 
-// The designer's draw-area preview: the font from the row, the rest from the panel's controls
-// as they stand (texts as typed).
-struct LuckBoxValues {
+// vbLuckBox, the designer's draw-area preview: the font from the row, the rest from the panel's
+// controls as they stand (texts as typed).
+struct DrawAreaPreviewValues {
     int maxImgWidth = 0;
     int maxImgHeight = 0;
     int previewType = 0;  // 0 text, 1 picture, 2 both
@@ -135,7 +139,7 @@ struct LuckBoxValues {
     QString demoName;
     QString demoText;
 };
-QString luckBoxPayload(const PlayRow &blockStyle, const LuckBoxValues &values);
+QString drawAreaPreviewPayload(const PlayRow &blockStyle, const DrawAreaPreviewValues &values);
 
 // The 34-field playback style. The draw screen and the designer fill it differently (fields 4
 // and 5 on purpose): see drawPlayback and designerPlayback.

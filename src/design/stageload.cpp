@@ -1,8 +1,10 @@
 #include "design/stageload.h"
 
+#include <QSqlError>
 #include <QSqlQuery>
 
 #include "core/appstate.h"
+#include "core/logging.h"
 #include "core/store.h"
 #include "core/ui.h"
 #include "stage/protocol.h"
@@ -37,9 +39,9 @@ void sendBackground(Stage &stage, const BgRow &bg, const PayloadContext &context
     if (!bg.found) return;
     if (context.reader == Reader::Console)
         stage.setVariable(proto::vbSetScale, previewScalePayload(previewFit(bg.BgW, bg.BgH)));
-    stage.setVariable(proto::setAsBgColor, bgColorPayload(bg, context));
-    if (sendsBgImg(bg, context))
-        stage.setVariable(proto::setAsBgImg, bgImgPayload(bg, context.appPath));
+    stage.setVariable(proto::setAsBgColor, backgroundColorPayload(bg, context));
+    if (sendsBackgroundImage(bg, context))
+        stage.setVariable(proto::setAsBgImg, backgroundImagePayload(bg, context.appPath));
 }
 
 void sendObjects(Stage &stage, const QList<ObjRow> &objects, const PayloadContext &context,
@@ -115,10 +117,13 @@ QString loadBlockValue(QSqlDatabase templateDb, const LoadBlockValues &values) {
 QString loadBlockValue(const QString &templatePath, const LoadBlockValues &values) {
     const QString connection = QStringLiteral("quellio.template.block");
     QString value;
-    if (store::openTemplate(templatePath, connection, nullptr))
+    QString error;
+    if (store::openTemplate(templatePath, connection, &error)) {
         value = loadBlockValue(QSqlDatabase::database(connection, false), values);
-    else
+    } else {
+        qCWarning(lcDesign) << "draw-area style:" << error;
         value = loadBlockValue(QSqlDatabase(), values);
+    }
     store::close(connection);
     return value;
 }
@@ -127,9 +132,9 @@ QList<QPair<QString, int>> userPhotos(QSqlDatabase store) {
     QList<QPair<QString, int>> photos;
     QSqlQuery query(store);
     query.setForwardOnly(true);
-    query.exec(
-        QStringLiteral("SELECT UserPhoto, ID FROM UserList WHERE UserPhoto IS NOT NULL "
-                       "AND UserPhoto<>'' ORDER BY ID"));
+    if (!query.exec(QStringLiteral("SELECT UserPhoto, ID FROM UserList WHERE UserPhoto IS NOT NULL "
+                                   "AND UserPhoto<>'' ORDER BY ID")))
+        qCWarning(lcDesign) << "participant photos:" << query.lastError().text();
     while (query.next())
         photos.append({query.value(0).toString(), query.value(1).toInt()});
     return photos;

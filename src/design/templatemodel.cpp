@@ -1,5 +1,6 @@
 #include "design/templatemodel.h"
 
+#include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QVariant>
@@ -8,6 +9,7 @@
 #include <initializer_list>
 
 #include "core/helpers.h"
+#include "core/logging.h"
 #include "core/store.h"
 #include "stage/protocol.h"
 
@@ -132,6 +134,14 @@ void note(QStringList *defaults, const QString &what) {
     if (defaults) defaults->append(what);
 }
 
+// A template the query cannot read looks like an empty one to the stage; the log tells them
+// apart.
+bool run(QSqlQuery &query, const QString &sql = QString()) {
+    if (sql.isEmpty() ? query.exec() : query.exec(sql)) return true;
+    qCWarning(lcDesign) << "template read:" << query.lastError().text();
+    return false;
+}
+
 }  // namespace
 
 QString objectKind(const QString &objName) {
@@ -155,7 +165,7 @@ BgRow readBg(QSqlDatabase db, QStringList *defaults) {
     BgRow bg;
     QSqlQuery query(db);
     query.setForwardOnly(true);
-    if (!query.exec(QStringLiteral("SELECT * FROM LuckBg ORDER BY ROWID LIMIT 1")) ||
+    if (!run(query, QStringLiteral("SELECT * FROM LuckBg ORDER BY ROWID LIMIT 1")) ||
         !query.next()) {
         note(defaults, QStringLiteral("LuckBg"));
         return bg;
@@ -173,8 +183,8 @@ QList<ObjRow> readVisibleObjects(QSqlDatabase db, QStringList *defaults) {
     QList<ObjRow> objects;
     QSqlQuery query(db);
     query.setForwardOnly(true);
-    if (!query.exec(QStringLiteral("SELECT * FROM LuckObj WHERE ") + kVisible +
-                    QStringLiteral(" ORDER BY ObjDepth ASC, ObjName ASC")))
+    if (!run(query, QStringLiteral("SELECT * FROM LuckObj WHERE ") + kVisible +
+                        QStringLiteral(" ORDER BY ObjDepth ASC, ObjName ASC")))
         return objects;
     while (query.next())
         objects.append(objectFrom(query, defaults));
@@ -186,7 +196,7 @@ bool readVisibleObject(QSqlDatabase db, const QString &name, ObjRow *row, QStrin
     query.setForwardOnly(true);
     query.prepare(QStringLiteral("SELECT * FROM LuckObj WHERE ObjName=? AND ") + kVisible);
     query.addBindValue(name);
-    if (!query.exec() || !query.next()) return false;
+    if (!run(query) || !query.next()) return false;
     *row = objectFrom(query, defaults);
     return true;
 }
@@ -197,7 +207,7 @@ PlayRow readPlay(QSqlDatabase db, const QString &name, QStringList *defaults) {
     query.setForwardOnly(true);
     query.prepare(QStringLiteral("SELECT * FROM LuckPlay WHERE ObjName=? LIMIT 1"));
     query.addBindValue(name);
-    if (!query.exec() || !query.next()) {
+    if (!run(query) || !query.next()) {
         note(defaults, QStringLiteral("LuckPlay:") + name);
         return row;
     }

@@ -5,6 +5,7 @@
 #include <QSqlDatabase>
 
 #include "core/helpers.h"
+#include "core/logging.h"
 #include "core/store.h"
 
 namespace design {
@@ -20,7 +21,9 @@ bool isNumber(const QString &text) {
 bool replaceFile(const QString &source, const QString &target) {
     if (QFileInfo(source).absoluteFilePath() == QFileInfo(target).absoluteFilePath()) return true;
     QFile::remove(target);
-    return QFile::copy(source, target);
+    if (QFile::copy(source, target)) return true;
+    qCWarning(lcDesign) << "cannot copy" << source << "to" << target;
+    return false;
 }
 
 }  // namespace

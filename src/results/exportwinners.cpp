@@ -7,6 +7,8 @@
 #include "core/ui.h"
 #include "results/winnerrows.h"
 
+namespace results {
+
 namespace {
 
 const QByteArray kLineEnd = QByteArrayLiteral("\r\n");
@@ -29,11 +31,11 @@ QByteArray winnersCsv() {
     QSqlDatabase db = store::mainConn();
     QByteArray out = QByteArrayLiteral("\xEF\xBB\xBF") + csvLine(kHeader) + kLineEnd;
     int number = 1;
-    for (const results::Award &award : results::awardsInOrder(db)) {
-        const auto winners = results::winnersOf(db, award.id, results::WinnerOrder::EarliestFirst);
-        for (const results::Winner &winner : winners)
-            out += csvLine({QString::number(number++), award.jxName, award.jpName, winner.userName,
-                            winner.userPart}) +
+    for (const Award &award : awardsInOrder(db)) {
+        const auto winners = winnersOf(db, award.id, WinnerOrder::EarliestFirst);
+        for (const Winner &winner : winners)
+            out += csvLine({QString::number(number++), award.name, award.prize, winner.name,
+                            winner.remark}) +
                    kLineEnd;
     }
     return out;
@@ -58,14 +60,18 @@ QString defaultExportPath(const QDateTime &time) {
            QString::number(clock.hour()) + QString::number(clock.minute()) + QStringLiteral(".csv");
 }
 
+}  // namespace results
+
 QString exportWinners(const QString &path, bool showDone) {
     if (results::awardsInOrder(store::mainConn()).isEmpty()) {
         ui().message(QStringLiteral("没有奖项导出失败!"), MsgStyle::Exclamation, titles::warning);
         return QString();
     }
-    const QString target = path.isEmpty() ? defaultExportPath(QDateTime::currentDateTime()) : path;
+    const QString target =
+        path.isEmpty() ? results::defaultExportPath(QDateTime::currentDateTime()) : path;
     QSaveFile file(target);
-    if (!file.open(QIODevice::WriteOnly) || file.write(winnersCsv()) < 0 || !file.commit()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(results::winnersCsv()) < 0 ||
+        !file.commit()) {
         ui().message(file.errorString(), MsgStyle::Critical, titles::error);
         return QString();
     }

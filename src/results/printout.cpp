@@ -91,7 +91,7 @@ void paintRows(PagePainter &out, const QList<Row> &rows, double top) {
         const double y = top + i * kRowPitch;
         // Rows are tight: every other one is shaded and the rules between them are light.
         if (i % 2 == 1) out.shade(out.rect(0, y, kWidth, kRowPitch), QColor(238, 238, 238));
-        const QString cells[] = {row.number, row.jxName, row.jpName, row.userName};
+        const QString cells[] = {row.number, row.awardName, row.prizeName, row.winnerName};
         double x = 0;
         for (int c = 0; c < 4; ++c) {
             const int align = c == 0 ? Qt::AlignHCenter : Qt::AlignLeft;

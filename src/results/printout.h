@@ -13,9 +13,9 @@ namespace printout {
 
 struct Row {
     QString number;
-    QString jxName;
-    QString jpName;
-    QString userName;
+    QString awardName;
+    QString prizeName;
+    QString winnerName;
 };
 
 struct Document {

@@ -1,16 +1,26 @@
 #include "results/winnerrows.h"
 
+#include <QSqlError>
 #include <QSqlQuery>
 #include <QVariant>
 
+#include "core/logging.h"
 #include "core/store.h"
 
 namespace results {
 
 namespace {
 
+// A failed read leaves the printout or export short; the log says why.
+bool run(QSqlQuery &query) {
+    if (query.exec()) return true;
+    qCWarning(lcResults) << "winner rows:" << query.lastError().text();
+    return false;
+}
+
 QList<Winner> readWinners(QSqlQuery &query) {
     QList<Winner> rows;
+    if (!run(query)) return rows;
     while (query.next())
         rows.append(
             {query.value(0).toLongLong(), query.value(1).toString(), query.value(2).toString()});
@@ -21,9 +31,10 @@ QList<Winner> readWinners(QSqlQuery &query) {
 
 QList<Award> awardsInOrder(QSqlDatabase db) {
     QSqlQuery query(db);
-    query.exec(
+    query.prepare(
         QStringLiteral("SELECT ID, JXName, JPName FROM JPList ORDER BY OrderNum ASC, ID ASC"));
     QList<Award> awards;
+    if (!run(query)) return awards;
     while (query.next())
         awards.append(
             {query.value(0).toInt(), query.value(1).toString(), query.value(2).toString()});
@@ -34,7 +45,7 @@ Award awardById(QSqlDatabase db, int awardId) {
     QSqlQuery query(db);
     query.prepare(QStringLiteral("SELECT ID, JXName, JPName FROM JPList WHERE ID=?"));
     query.addBindValue(awardId);
-    if (!query.exec() || !query.next()) return {};
+    if (!run(query) || !query.next()) return {};
     return {query.value(0).toInt(), query.value(1).toString(), query.value(2).toString()};
 }
 
@@ -45,7 +56,6 @@ QList<Winner> winnersOf(QSqlDatabase db, int awardId, WinnerOrder order) {
                       .arg(order == WinnerOrder::EarliestFirst ? QStringLiteral("ASC, ID ASC")
                                                                : QStringLiteral("DESC")));
     query.addBindValue(store::awardPattern(awardId));
-    query.exec();
     return readWinners(query);
 }
 
@@ -63,7 +73,6 @@ QList<Winner> participantsById(QSqlDatabase db, const QList<qint64> &ids) {
                       .arg(marks.join(QLatin1Char(','))));
     for (const QVariant &value : values)
         query.addBindValue(value);
-    query.exec();
     return readWinners(query);
 }
 

@@ -10,14 +10,14 @@ namespace results {
 
 struct Award {
     int id = 0;
-    QString jxName;
-    QString jpName;
+    QString name;   // JXName
+    QString prize;  // JPName
 };
 
 struct Winner {
     qint64 id = 0;
-    QString userName;
-    QString userPart;
+    QString name;    // UserName
+    QString remark;  // UserPart
 };
 
 // Every award, ordered by OrderNum.

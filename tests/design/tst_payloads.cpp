@@ -28,10 +28,10 @@ private Q_SLOTS:
     void styleDefaults_data();
     void styleDefaults();
     void loadBlock();
-    void luckBox();
+    void drawAreaPreview();
     void playback();
     void luckPlayValues();
-    void userPics();
+    void participantPhotos();
 };
 
 namespace {
@@ -274,18 +274,18 @@ void TestPayloads::separatorsNeverReachTheStageRaw() {
     ObjRow row = textRow();
     row.fTxt = QStringLiteral("A|B");
     row.fFont = QStringLiteral("Font|X");
-    const QString value = txtPayload(row, context(Reader::Draw));
+    const QString value = textPayload(row, context(Reader::Draw));
     QCOMPARE(value.count(QLatin1Char('|')), 19);
     QVERIFY(value.contains(QStringLiteral("|AｌB|FontｌX|")));
 
     PayloadContext titled = context(Reader::Console);
     titled.title1 = QStringLiteral("年会|2026");
-    QCOMPARE(txtPayload(textRow(QStringLiteral("txt_zbt")), titled).section('|', 10, 10),
+    QCOMPARE(textPayload(textRow(QStringLiteral("txt_zbt")), titled).section('|', 10, 10),
              QStringLiteral("年会ｌ2026"));
 
     ObjRow scroll = scrollRow();
     scroll.fTxt = QStringLiteral("||");
-    QCOMPARE(stxtPayload(scroll, context(Reader::Designer)).count(QLatin1Char('|')), 21);
+    QCOMPARE(scrollTextPayload(scroll, context(Reader::Designer)).count(QLatin1Char('|')), 21);
 
     QCOMPARE(safeName(QStringLiteral("张|三$")), QStringLiteral("张‖三＄"));
 }
@@ -296,23 +296,26 @@ void TestPayloads::pageValues() {
     bg.BgW = 1024;
     bg.BgH = 768;
     bg.BgColor = QStringLiteral("0x9E1B22");
-    QCOMPARE(bgColorPayload(bg, context(Reader::Designer)), QStringLiteral("1024|768|0x9E1B22"));
-    QCOMPARE(bgColorPayload(bg, context(Reader::Console)), QStringLiteral("1024|768|0x9E1B22"));
-    QCOMPARE(bgColorPayload(bg, context(Reader::Draw)), QStringLiteral("1024|768|0x9E1B22|10"));
+    QCOMPARE(backgroundColorPayload(bg, context(Reader::Designer)),
+             QStringLiteral("1024|768|0x9E1B22"));
+    QCOMPARE(backgroundColorPayload(bg, context(Reader::Console)),
+             QStringLiteral("1024|768|0x9E1B22"));
+    QCOMPARE(backgroundColorPayload(bg, context(Reader::Draw)),
+             QStringLiteral("1024|768|0x9E1B22|10"));
     // An empty picture still sends the folder itself, except in the console.
-    QCOMPARE(bgImgPayload(bg, kApp), QStringLiteral("/opt/q/|1024|768"));
-    QVERIFY(sendsBgImg(bg, context(Reader::Designer)));
-    QVERIFY(sendsBgImg(bg, context(Reader::Draw)));
-    QVERIFY(!sendsBgImg(bg, context(Reader::Console)));
+    QCOMPARE(backgroundImagePayload(bg, kApp), QStringLiteral("/opt/q/|1024|768"));
+    QVERIFY(sendsBackgroundImage(bg, context(Reader::Designer)));
+    QVERIFY(sendsBackgroundImage(bg, context(Reader::Draw)));
+    QVERIFY(!sendsBackgroundImage(bg, context(Reader::Console)));
     bg.BgImg = QStringLiteral("skin\\sPhoto\\imgk3j9x0aa.png");
-    QCOMPARE(bgImgPayload(bg, kApp), kPicture + QStringLiteral("|1024|768"));
-    QVERIFY(sendsBgImg(bg, context(Reader::Console)));
-    QVERIFY(!sendsBgImg(bg, context(Reader::Console, false)));
+    QCOMPARE(backgroundImagePayload(bg, kApp), kPicture + QStringLiteral("|1024|768"));
+    QVERIFY(sendsBackgroundImage(bg, context(Reader::Console)));
+    QVERIFY(!sendsBackgroundImage(bg, context(Reader::Console, false)));
 
     QCOMPARE(keysPayload({32, 32, 8, 46, 69, 80, 76, 77, 70}),
              QStringLiteral("32|32|8|46|69|80|76|77|70"));
-    QCOMPARE(selMcByNamePayload(QStringLiteral("txt_zbt")), QStringLiteral("txt_zbt|true"));
-    QCOMPARE(resetAsDepthPayload(QStringLiteral("a"), QStringLiteral("b")), QStringLiteral("a|b"));
+    QCOMPARE(selectObjectPayload(QStringLiteral("txt_zbt")), QStringLiteral("txt_zbt|true"));
+    QCOMPARE(swapDepthPayload(QStringLiteral("a"), QStringLiteral("b")), QStringLiteral("a|b"));
     QCOMPARE(startScrollPayload(true, 5, Reader::Designer), QStringLiteral("yes|5"));
     QCOMPARE(startScrollPayload(false, 5, Reader::Designer), QStringLiteral("no|5"));
     QCOMPARE(startScrollPayload(true, 5, Reader::Draw), QStringLiteral("yes"));
@@ -374,17 +377,17 @@ void TestPayloads::numberText() {
 
 void TestPayloads::addPayloads() {
     const QString name = QStringLiteral("txt_0123456789abcdef");
-    QCOMPARE(addTxtPayload(name, 9, 50, 70),
+    QCOMPARE(addTextPayload(name, 9, 50, 70),
              "false|" + name +
                  "|9|50|70|100|0xFFFFFF|50|5|round|新增普通文字，双击文字可以进行编辑|宋体|"
                  "0x000000|16|true|false|false");
-    QCOMPARE(addStxtPayload(name, 9, 50, 70),
+    QCOMPARE(addScrollTextPayload(name, 9, 50, 70),
              "true|" + name +
                  "|9|0|50|70|280|20|0xFFFFFF|50|round|5|请双击输入滚动文字信息...|100|宋体|"
                  "0x000000|14|false|false|false|1");
-    QCOMPARE(addImgPayload(name, 9, 50, 70, QStringLiteral("/opt/q/skin\\sPhoto\\a.png")),
+    QCOMPARE(addImagePayload(name, 9, 50, 70, QStringLiteral("/opt/q/skin\\sPhoto\\a.png")),
              "false|" + name + "|9|50|70|0|0|100|false|/opt/q/skin/sPhoto/a.png");
-    QCOMPARE(addSwfPayload(name, 9, 50, 70, kAnimation),
+    QCOMPARE(addAnimationPayload(name, 9, 50, 70, kAnimation),
              "false|" + name + "|9|50|70|0|0|" + kAnimation);
 }
 
@@ -430,8 +433,8 @@ void TestPayloads::loadBlock() {
              QStringLiteral("演示文字|200|180||黑体|0xFF0000|26|100|true|false|false|center|1|s|"));
 }
 
-void TestPayloads::luckBox() {
-    LuckBoxValues values;
+void TestPayloads::drawAreaPreview() {
+    DrawAreaPreviewValues values;
     values.maxImgWidth = 200;
     values.maxImgHeight = 200;
     values.previewType = 1;
@@ -445,10 +448,10 @@ void TestPayloads::luckBox() {
     values.demoName = QStringLiteral("诸葛孔明");
     values.demoText = QStringLiteral("  演示数据 ");
     const QString style = QStringLiteral("黑体|0xFF0000|26|100|true|false|false|center|1");
-    QCOMPARE(luckBoxPayload(defaultPlayRow(rows::blockValue), values),
+    QCOMPARE(drawAreaPreviewPayload(defaultPlayRow(rows::blockValue), values),
              style + "|200|200|1|6|round|0x123456|40|5||8|诸葛孔明|演示数据");
     values.bgTypeIndex = 0;
-    QCOMPARE(luckBoxPayload(defaultPlayRow(rows::blockValue), values).section('|', 13, 13),
+    QCOMPARE(drawAreaPreviewPayload(defaultPlayRow(rows::blockValue), values).section('|', 13, 13),
              QStringLiteral("box"));
 }
 
@@ -500,7 +503,7 @@ void TestPayloads::luckPlayValues() {
              QStringLiteral("S|一等奖  奖品∶电视|2||"));
 }
 
-void TestPayloads::userPics() {
+void TestPayloads::participantPhotos() {
     QCOMPARE(loadAllUserPicsPayload(kApp, {{QStringLiteral("Photos/U1.jpg"), 1},
                                            {QStringLiteral("Photos\\U12.png"), 12}}),
              QStringLiteral("/opt/q/|Photos/U1.jpg$1|Photos/U12.png$12"));

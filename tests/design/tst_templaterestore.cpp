@@ -2,6 +2,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QSignalSpy>
+#include <QTimer>
 #include <QtTest>
 
 #include "core/appstate.h"
@@ -25,7 +26,7 @@ void spoil(const QString &file) {
 
 }  // namespace
 
-class TestSkinBack : public QObject {
+class TestTemplateRestore : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -33,14 +34,16 @@ private Q_SLOTS:
     void restore();
 };
 
-void TestSkinBack::restore_data() {
+void TestTemplateRestore::restore_data() {
     QTest::addColumn<bool>("withFactoryCopy");
-    QTest::newRow("factory copy present") << true;
-    QTest::newRow("factory copy missing") << false;
+    QTest::addColumn<QString>("notice");
+    QTest::newRow("factory copy present") << true << "正在打开备份文件...";
+    QTest::newRow("factory copy missing") << false << "找不到原始数据文件无法恢复...";
 }
 
-void TestSkinBack::restore() {
+void TestTemplateRestore::restore() {
     QFETCH(bool, withFactoryCopy);
+    QFETCH(QString, notice);
     TempProgramFolder folder;
     QVERIFY(folder.start());
     const QString name = QStringLiteral("通用模板（4:3)");
@@ -53,21 +56,25 @@ void TestSkinBack::restore() {
 
     TemplateRestoreDialog dialog;
     QSignalSpy reload(&dialog, &TemplateRestoreDialog::reloadRequested);
-    dialog.tm.stop();
+    auto *steps = dialog.findChild<QTimer *>(QStringLiteral("stepTimer"));
+    QVERIFY(steps);
+    steps->stop();
     QVERIFY(!dialog.close());  // not while a step is under way
-    for (int tick = 0; tick < 10 && dialog.result() != QDialog::Accepted; ++tick)
-        dialog.tm_Timer();
+    steps->start(0);
+    QVERIFY(reload.wait());
     QCOMPARE(reload.count(), 1);
-    QCOMPARE(dialog.restored, withFactoryCopy);
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    auto *status = dialog.findChild<QLabel *>(QStringLiteral("statusLabel"));
+    QVERIFY(status);
+    QCOMPARE(status->text(), notice);
+    QCOMPARE(status->styleSheet().contains(QStringLiteral("220,0,0")), !withFactoryCopy);
     if (withFactoryCopy) {
         QCOMPARE(digest(jsk), digest(bak));
         QCOMPARE(digest(appState().skinTmpConnStr), digest(bak));
     } else {
-        QCOMPARE(dialog.labInfo->text(), QStringLiteral("找不到原始数据文件无法恢复..."));
-        QVERIFY(dialog.labInfo->styleSheet().contains(QStringLiteral("220,0,0")));
         QCOMPARE(digest(jsk), edited);
     }
 }
 
-QTEST_MAIN(TestSkinBack)
+QTEST_MAIN(TestTemplateRestore)
 #include "tst_templaterestore.moc"

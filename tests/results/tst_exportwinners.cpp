@@ -53,7 +53,7 @@ void TestExportWinners::quoting_data() {
 void TestExportWinners::quoting() {
     QFETCH(QStringList, fields);
     QFETCH(QByteArray, line);
-    QCOMPARE(csvLine(fields), line);
+    QCOMPARE(results::csvLine(fields), line);
 }
 
 void TestExportWinners::writesAwardsInOrderAndWinnersByTime() {
@@ -128,8 +128,9 @@ void TestExportWinners::defaultFileIsUnderRecord() {
     QVERIFY(folder.start());
     installScriptedUi();
     const QDateTime time(QDate(2026, 3, 4), QTime(9, 5));
-    QCOMPARE(defaultExportPath(time), folder.path(QStringLiteral("record/中奖记录20263495.csv")));
-    QCOMPARE(defaultExportPath(QDateTime(QDate(2026, 12, 31), QTime(23, 59))),
+    QCOMPARE(results::defaultExportPath(time),
+             folder.path(QStringLiteral("record/中奖记录20263495.csv")));
+    QCOMPARE(results::defaultExportPath(QDateTime(QDate(2026, 12, 31), QTime(23, 59))),
              folder.path(QStringLiteral("record/中奖记录202612312359.csv")));
     folder.addAward(QStringLiteral("一等奖"), 3, 1);
     const QString written = exportWinners(QString(), false);

@@ -199,7 +199,7 @@ void TestPrintWinners::batchPrintout() {
     QVERIFY(printBatch(QStringLiteral("2, 1"), award));
     const auto batch = results::participantsById(folder.db(), {2, 1});
     QCOMPARE(batch.size(), 2);
-    QCOMPARE(batch.at(0).userName, QStringLiteral("参与者1"));
+    QCOMPARE(batch.at(0).name, QStringLiteral("参与者1"));
     QCOMPARE(scripted->last().title, QStringLiteral("提示"));
     QCOMPARE(pdfPageCount(path), 1);
 }

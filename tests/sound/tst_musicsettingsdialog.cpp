@@ -1,7 +1,6 @@
 #include <QCheckBox>
 #include <QFrame>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QtTest>
 
@@ -10,7 +9,6 @@
 #include "core/profile.h"
 #include "core/settings.h"
 #include "draw/view/drawwindow.h"
-#include "sound/musicplayer.h"
 #include "sound/view/musicsettingsdialog.h"
 #include "support/fakemediabackend.h"
 #include "support/scriptedui.h"
@@ -31,9 +29,40 @@ QByteArray readFile(const QString &path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+template <typename T>
+T *child(const QWidget &form, const QString &name) {
+    T *widget = form.findChild<T *>(name);
+    if (!widget) qFatal("no %s", qPrintable(name));
+    return widget;
+}
+
+// The controls of one sound's row, by music::Slot.
+struct Row {
+    Row(const QWidget &form, int slot) {
+        const char *const names[] = {"background", "start", "win", "parade"};
+        const QString name = QLatin1String(names[slot]);
+        enabled = child<QCheckBox>(form, name + QStringLiteral("EnabledBox"));
+        frame = child<QFrame>(form, name + QStringLiteral("Frame"));
+        file = child<QLabel>(form, name + QStringLiteral("FileLabel"));
+        choose = child<QPushButton>(form, name + QStringLiteral("ChooseButton"));
+        listen = child<QPushButton>(form, name + QStringLiteral("ListenButton"));
+        stop = child<QPushButton>(form, name + QStringLiteral("StopButton"));
+    }
+    QCheckBox *enabled;
+    QFrame *frame;
+    QLabel *file;
+    QPushButton *choose;
+    QPushButton *listen;
+    QPushButton *stop;
+};
+
+void save(const QWidget &form) {
+    child<QPushButton>(form, QStringLiteral("saveButton"))->click();
+}
+
 }  // namespace
 
-class TestFrmMusic : public QObject {
+class TestMusicSettingsDialog : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -66,80 +95,79 @@ private:
     FakeMedia *m_media = nullptr;
 };
 
-void TestFrmMusic::init() {
+void TestMusicSettingsDialog::init() {
     m_folder = std::make_unique<TempProgramFolder>();
     QVERIFY(m_folder->start());
     m_ui = installScriptedUi();
     m_media = installFakeMedia();
 }
 
-void TestFrmMusic::loadShowsStoredFiles() {
+void TestMusicSettingsDialog::loadShowsStoredFiles() {
     writeFile(music("bg.mp3"), "bg");
     store(music::Background, "bg.mp3", true);
     store(music::Start, "no", true);
     store(music::Luck, "gone.wav", false);  // chosen once, since deleted by hand
     MusicSettingsDialog form;
-    const auto &rows = form.rows;
     QCOMPARE(form.windowTitle(), QStringLiteral("音乐设置"));
-    QCOMPARE(rows[0].chk->text(), QStringLiteral("背景音乐"));
-    QCOMPARE(rows[3].chk->text(), QStringLiteral("播放中奖音乐"));
-    QCOMPARE(rows[0].lab->text(), QStringLiteral("bg.mp3"));
-    QCOMPARE(rows[0].txt->text(), music("bg.mp3"));
-    QVERIFY(rows[0].chk->isChecked());
-    for (int i : {1, 2, 3}) {
-        QCOMPARE(rows[size_t(i)].lab->text(), QStringLiteral("未设置音乐"));
-        QVERIFY(rows[size_t(i)].txt->text().isEmpty());
+    const Row background(form, music::Background);
+    QCOMPARE(background.enabled->text(), QStringLiteral("背景音乐"));
+    QCOMPARE(Row(form, music::Play).enabled->text(), QStringLiteral("播放中奖音乐"));
+    QCOMPARE(background.file->text(), QStringLiteral("bg.mp3"));
+    QCOMPARE(background.file->toolTip(), QDir::toNativeSeparators(music("bg.mp3")));
+    QVERIFY(background.enabled->isChecked());
+    for (int slot : {music::Start, music::Luck, music::Play}) {
+        QCOMPARE(Row(form, slot).file->text(), QStringLiteral("未设置音乐"));
+        QVERIFY(Row(form, slot).file->toolTip().isEmpty());
     }
-    QVERIFY(rows[1].chk->isChecked());
-    QVERIFY(!rows[2].chk->isChecked());
+    QVERIFY(Row(form, music::Start).enabled->isChecked());
+    QVERIFY(!Row(form, music::Luck).enabled->isChecked());
 }
 
-void TestFrmMusic::rowEnabling() {
+void TestMusicSettingsDialog::rowEnabling() {
     writeFile(music("bg.mp3"), "bg");
     store(music::Background, "bg.mp3", true);
     store(music::Start, "no", true);
     store(music::Luck, "no", false);
     MusicSettingsDialog form;
-    auto &rows = form.rows;
+    const Row background(form, music::Background);
+    const Row start(form, music::Start);
+    const Row win(form, music::Luck);
     // On with a file: everything but stop; on without one: nothing to try.
-    QVERIFY(rows[0].frame->isEnabled() && rows[0].cmdSet->isEnabled());
-    QVERIFY(rows[0].cmdTest->isEnabled());
-    QVERIFY(!rows[0].cmdStop->isEnabled());
-    QVERIFY(rows[1].cmdSet->isEnabled() && !rows[1].cmdTest->isEnabled());
-    QVERIFY(!rows[2].frame->isEnabled() && !rows[2].cmdSet->isEnabled());
+    QVERIFY(background.frame->isEnabled() && background.choose->isEnabled());
+    QVERIFY(background.listen->isEnabled());
+    QVERIFY(!background.stop->isEnabled());
+    QVERIFY(start.choose->isEnabled() && !start.listen->isEnabled());
+    QVERIFY(!win.frame->isEnabled() && !win.choose->isEnabled());
     // A click switches the row off and on again; the file stays chosen.
-    rows[0].chk->click();
-    QVERIFY(!rows[0].frame->isEnabled() && !rows[0].cmdTest->isEnabled());
-    QCOMPARE(rows[0].lab->text(), QStringLiteral("bg.mp3"));
-    rows[0].chk->click();
-    QVERIFY(rows[0].cmdTest->isEnabled());
-    // A path that appears makes the row testable.
-    rows[1].txt->setText(music("bg.mp3"));
-    QVERIFY(rows[1].cmdTest->isEnabled());
+    background.enabled->click();
+    QVERIFY(!background.frame->isEnabled() && !background.listen->isEnabled());
+    QCOMPARE(background.file->text(), QStringLiteral("bg.mp3"));
+    background.enabled->click();
+    QVERIFY(background.listen->isEnabled());
 }
 
-void TestFrmMusic::choosingAFile() {
+void TestMusicSettingsDialog::choosingAFile() {
     store(music::Start, "no", true);
     MusicSettingsDialog form;
-    auto &row = form.rows[1];
+    const Row row(form, music::Start);
     m_ui->files.enqueue(appState().path("sys/roll.wav"));
-    row.cmdSet->click();
+    row.choose->click();
     QCOMPARE(m_ui->last().kind, QStringLiteral("file"));
     QCOMPARE(m_ui->last().title, QStringLiteral("添加音乐"));
-    QCOMPARE(row.lab->text(), QStringLiteral("roll.wav"));
-    QCOMPARE(row.txt->text(), appState().path("sys/roll.wav"));
-    QVERIFY(row.cmdTest->isEnabled());
+    QCOMPARE(row.file->text(), QStringLiteral("roll.wav"));
+    QCOMPARE(row.file->toolTip(), QDir::toNativeSeparators(appState().path("sys/roll.wav")));
+    QVERIFY(row.listen->isEnabled());
     // Cancelled, or a file that is not there: the choice stays.
     m_ui->files.enqueue(QString());
-    row.cmdSet->click();
+    row.choose->click();
     m_ui->files.enqueue(outside("missing.mp3"));
-    row.cmdSet->click();
-    QCOMPARE(row.lab->text(), QStringLiteral("roll.wav"));
+    row.choose->click();
+    QCOMPARE(row.file->text(), QStringLiteral("roll.wav"));
     // Nothing is copied before saving.
     QVERIFY(!QFile::exists(music("roll.wav")));
 }
 
-void TestFrmMusic::listening() {
+void TestMusicSettingsDialog::listening() {
     const QString bg = writeFile(music("bg.mp3"), "bg");
     const QString start = writeFile(music("start.mp3"), "start");
     m_media->lengths.insert(bg, 60000);
@@ -147,39 +175,32 @@ void TestFrmMusic::listening() {
     store(music::Background, "bg.mp3", true);
     store(music::Start, "start.mp3", true);
     MusicSettingsDialog form;
-    auto &rows = form.rows;
+    const Row first(form, music::Background);
+    const Row second(form, music::Start);
 
-    rows[0].cmdTest->click();
-    QCOMPARE(form.testRow(), 1);
-    QCOMPARE(form.player()->state(), 1);
-    QVERIFY(form.tmM.isActive());
-    QVERIFY(rows[0].cmdStop->isEnabled() && !rows[0].cmdTest->isEnabled());
+    first.listen->click();
+    QCOMPARE(m_media->last()->source, bg);
+    QCOMPARE(m_media->last()->state(), MediaBackend::State::Playing);
+    QVERIFY(first.stop->isEnabled() && !first.listen->isEnabled());
     // Trying another row stops the first and gives it back its test button.
-    const QPointer<FakeMediaBackend> first = m_media->last();
-    rows[1].cmdTest->click();
-    QVERIFY(first.isNull() || first->state() == MediaBackend::State::Stopped);
-    QVERIFY(rows[0].cmdTest->isEnabled() && !rows[0].cmdStop->isEnabled());
-    QCOMPARE(form.testRow(), 2);
+    const QPointer<FakeMediaBackend> firstPlayer = m_media->last();
+    second.listen->click();
+    QVERIFY(firstPlayer.isNull() || firstPlayer->state() == MediaBackend::State::Stopped);
+    QVERIFY(first.listen->isEnabled() && !first.stop->isEnabled());
     QCOMPARE(m_media->last()->source, start);
-    // Played to its end: the next tick puts the row back and stops the timer.
-    form.tmM_Timer();
-    QVERIFY(form.tmM.isActive());
+    QVERIFY(second.stop->isEnabled() && !second.listen->isEnabled());
+    // Played to its end: the row is put back.
     m_media->last()->finish();
-    form.tmM_Timer();
-    QVERIFY(!form.tmM.isActive());
-    QCOMPARE(form.testRow(), 0);
-    QVERIFY(rows[1].cmdTest->isEnabled() && !rows[1].cmdStop->isEnabled());
-    // Stop: the sound ends at once, the timer tidies up.
-    rows[0].cmdTest->click();
-    rows[0].cmdStop->click();
-    QCOMPARE(form.player()->state(), 0);
-    QVERIFY(!rows[0].cmdStop->isEnabled());
-    form.tmM_Timer();
-    QVERIFY(rows[0].cmdTest->isEnabled());
-    QVERIFY(!form.tmM.isActive());
+    QVERIFY(second.listen->isEnabled() && !second.stop->isEnabled());
+    // Stop: the sound ends at once and the row is put back.
+    first.listen->click();
+    first.stop->click();
+    QCOMPARE(m_media->last()->state(), MediaBackend::State::Stopped);
+    QVERIFY(!first.stop->isEnabled());
+    QVERIFY(first.listen->isEnabled());
 }
 
-void TestFrmMusic::saving_data() {
+void TestMusicSettingsDialog::saving_data() {
     QTest::addColumn<QString>("stored");  // the background file before
     QTest::addColumn<QString>("chosen");  // a file outside, or empty for no new choice
     QTest::addColumn<QString>("expectedKey");
@@ -200,7 +221,7 @@ void TestFrmMusic::saving_data() {
                                   << "new.mp3" << QByteArray("new") << false;
 }
 
-void TestFrmMusic::saving() {
+void TestMusicSettingsDialog::saving() {
     QFETCH(QString, stored);
     QFETCH(QString, chosen);
     QFETCH(QString, expectedKey);
@@ -213,10 +234,10 @@ void TestFrmMusic::saving() {
     MusicSettingsDialog form;
     if (!chosen.isEmpty()) {
         m_ui->files.enqueue(writeFile(outside(chosen), "new"));
-        form.rows[0].cmdSet->click();
+        Row(form, music::Background).choose->click();
     }
-    form.rows[3].chk->click();  // switched off; only the flag changes
-    form.cmdSave->click();
+    Row(form, music::Play).enabled->click();  // switched off; only the flag changes
+    save(form);
 
     QCOMPARE(m_ui->last().text, QStringLiteral("音乐设置保存成功!"));
     QCOMPARE(m_ui->last().title, QStringLiteral("提示"));
@@ -231,13 +252,13 @@ void TestFrmMusic::saving() {
     QVERIFY(!QFile::exists(music(expectedKey + ".part")));
 }
 
-void TestFrmMusic::drawScreenReadsTheSameKeys() {
+void TestMusicSettingsDialog::drawScreenReadsTheSameKeys() {
     store(music::Background, "no", true);
     store(music::Luck, "no", true);
     MusicSettingsDialog form;
     m_ui->files.enqueue(writeFile(outside("party.mp3"), "party"));
-    form.rows[0].cmdSet->click();
-    form.save();
+    Row(form, music::Background).choose->click();
+    save(form);
     const draw::MusicSettings read = draw::readMusicSettings(appState().appPath);
     QVERIFY(read.isBgMusic && read.isLuckMusic);
     QCOMPARE(read.bgFile, music("party.mp3"));
@@ -246,7 +267,7 @@ void TestFrmMusic::drawScreenReadsTheSameKeys() {
 }
 
 // Renders the dialog for docs/screenshots when QUELLIO_SCREENSHOTS names a folder.
-void TestFrmMusic::screenshot() {
+void TestMusicSettingsDialog::screenshot() {
     const QString out = qEnvironmentVariable("QUELLIO_SCREENSHOTS");
     if (out.isEmpty()) QSKIP("QUELLIO_SCREENSHOTS not set");
     style::apply();
@@ -256,12 +277,12 @@ void TestFrmMusic::screenshot() {
     store(music::Luck, "no", false);
     MusicSettingsDialog form;
     m_ui->files.enqueue(appState().path("sys/roll.wav"));
-    form.rows[1].cmdSet->click();
+    Row(form, music::Start).choose->click();
     form.show();
     QTest::qWait(60);
     QDir().mkpath(out);
     QVERIFY(form.grab().save(out + QStringLiteral("/music.png")));
 }
 
-QTEST_MAIN(TestFrmMusic)
+QTEST_MAIN(TestMusicSettingsDialog)
 #include "tst_musicsettingsdialog.moc"

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QFile>
 #include <QLabel>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "chrome/widgethelpers.h"
@@ -11,48 +12,54 @@
 
 TemplateRestoreDialog::TemplateRestoreDialog(QWidget *parent) : QDialog(parent) {
     setWindowTitle(QStringLiteral("还原模板"));
-    labInfo = new QLabel(QStringLiteral("正在清空临时数据..."), this);
-    labInfo->setMinimumWidth(300);
-    labInfo->setAlignment(Qt::AlignCenter);
+    m_statusLabel = new QLabel(QStringLiteral("正在清空临时数据..."), this);
+    m_statusLabel->setObjectName(QStringLiteral("statusLabel"));
+    m_statusLabel->setMinimumWidth(300);
+    m_statusLabel->setAlignment(Qt::AlignCenter);
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(labInfo);
-    tm.setInterval(300);
-    connect(&tm, &QTimer::timeout, this, &TemplateRestoreDialog::tm_Timer);
-    tm.start();
+    layout->addWidget(m_statusLabel);
+    m_stepTimer = new QTimer(this);
+    m_stepTimer->setObjectName(QStringLiteral("stepTimer"));
+    m_stepTimer->setInterval(300);
+    connect(m_stepTimer, &QTimer::timeout, this, &TemplateRestoreDialog::advance);
+    m_stepTimer->start();
     adjustSize();
     centerForm(this);
 }
 
-void TemplateRestoreDialog::tm_Timer() {
+void TemplateRestoreDialog::advance() {
     const AppState &state = appState();
-    switch (step) {
-        case 1:
-            if (!QFile::exists(state.skinTmpConnStr)) step = 2;
+    switch (m_step) {
+        case Step::AwaitWorkingCopyGone:
+            // The designer deletes its working copy before it opens this dialog.
+            if (!QFile::exists(state.skinTmpConnStr)) m_step = Step::Restore;
             break;
-        case 2: {
-            labInfo->setText(QStringLiteral("正在还原备份文件..."));
+        case Step::Restore: {
+            m_statusLabel->setText(QStringLiteral("正在还原备份文件..."));
             const design::RestoreResult result =
                 design::restoreFactoryTemplate(state.appPath, state.skinFile);
-            restored = result.restored;
-            labInfo->setText(result.notice);
-            if (!restored) labInfo->setStyleSheet(QStringLiteral("color: rgb(220,0,0);"));
-            step = restored ? 3 : 0;
+            m_statusLabel->setText(result.notice);
+            if (!result.restored)
+                m_statusLabel->setStyleSheet(QStringLiteral("color: rgb(220,0,0);"));
+            m_step = result.restored ? Step::AwaitWorkingCopyBack : Step::Finish;
             break;
         }
-        case 3:
-            if (QFile::exists(state.skinTmpConnStr)) step = 0;
+        case Step::AwaitWorkingCopyBack:
+            if (QFile::exists(state.skinTmpConnStr)) m_step = Step::Finish;
             break;
-        default:
-            tm.stop();
+        case Step::Finish:
+            m_stepTimer->stop();
             Q_EMIT reloadRequested();
-            step = kClosable;
+            m_step = Step::Done;
             accept();
+            break;
+        case Step::Done:
             break;
     }
 }
 
 void TemplateRestoreDialog::closeEvent(QCloseEvent *event) {
-    if (step < kClosable) {
+    if (m_step != Step::Done) {
         event->ignore();
         return;
     }
@@ -60,5 +67,5 @@ void TemplateRestoreDialog::closeEvent(QCloseEvent *event) {
 }
 
 void TemplateRestoreDialog::reject() {
-    if (step >= kClosable) QDialog::reject();
+    if (m_step == Step::Done) QDialog::reject();
 }

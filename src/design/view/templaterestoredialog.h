@@ -1,23 +1,17 @@
 #pragma once
 
 #include <QDialog>
-#include <QTimer>
 
 class QLabel;
+class QTimer;
 
 // Restores the edited template to its factory copy, one step per tick so the operator sees each
 // one; the dialog cannot be closed while a step is under way. On the way out it tells the
-// designer to reload its working copy (finished()).
+// designer to reload its working copy (reloadRequested()).
 class TemplateRestoreDialog : public QDialog {
     Q_OBJECT
 public:
     explicit TemplateRestoreDialog(QWidget *parent = nullptr);
-
-    QLabel *labInfo = nullptr;
-    QTimer tm;
-    int step = 1;
-    bool restored = false;
-    void tm_Timer();
 
 Q_SIGNALS:
     void reloadRequested();
@@ -27,5 +21,11 @@ protected:
     void reject() override;
 
 private:
-    static constexpr int kClosable = 65535;
+    enum class Step { AwaitWorkingCopyGone, Restore, AwaitWorkingCopyBack, Finish, Done };
+
+    void advance();
+
+    QLabel *m_statusLabel = nullptr;
+    QTimer *m_stepTimer = nullptr;
+    Step m_step = Step::AwaitWorkingCopyGone;
 };

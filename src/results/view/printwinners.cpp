@@ -46,12 +46,12 @@ bool paint(QPagedPaintDevice *device, const printout::Document &document) {
     return false;
 }
 
-void noAward() {
+void sayNoAward() {
     ui().message(QStringLiteral("没有奖项无法打印!"), MsgStyle::Exclamation, titles::warning);
 }
 
-printout::Row row(int number, const results::Award &award, const results::Winner &winner) {
-    return {QString::number(number), award.jxName, award.jpName, winner.userName};
+printout::Row printRow(int number, const results::Award &award, const results::Winner &winner) {
+    return {QString::number(number), award.name, award.prize, winner.name};
 }
 
 }  // namespace
@@ -66,7 +66,7 @@ bool printWinners(bool showDone) {
     QSqlDatabase db = store::mainConn();
     const QList<results::Award> awards = results::awardsInOrder(db);
     if (awards.isEmpty()) {
-        noAward();
+        sayNoAward();
         return false;
     }
     printout::Document document;
@@ -74,7 +74,7 @@ bool printWinners(bool showDone) {
     for (const results::Award &award : awards)
         for (const results::Winner &winner :
              results::winnersOf(db, award.id, results::WinnerOrder::LatestFirst))
-            document.rows.append(row(document.rows.size() + 1, award, winner));
+            document.rows.append(printRow(document.rows.size() + 1, award, winner));
     if (!paint(device.get(), document)) return false;
     if (showDone) ui().message(QStringLiteral("打印完成!"), MsgStyle::Information, titles::notice);
     return true;
@@ -96,7 +96,7 @@ bool printBatch(const QString &ids, int awardId) {
     QSqlDatabase db = store::mainConn();
     const results::Award award = results::awardById(db, awardId);
     if (award.id == 0) {
-        noAward();
+        sayNoAward();
         return false;
     }
     printout::Document document;
@@ -104,7 +104,7 @@ bool printBatch(const QString &ids, int awardId) {
     document.footWithTime = true;
     document.printTime = store::nowText();
     for (const results::Winner &winner : results::participantsById(db, idList))
-        document.rows.append(row(document.rows.size() + 1, award, winner));
+        document.rows.append(printRow(document.rows.size() + 1, award, winner));
     if (!paint(device.get(), document)) return false;
     ui().message(QStringLiteral("当前中奖名单打印完成!"), MsgStyle::Information, titles::notice);
     return true;

@@ -13,8 +13,8 @@
 #include "core/store.h"
 #include "core/ui.h"
 #include "results/exportas.h"
-#include "results/lucklist.h"
 #include "results/view/printwinners.h"
+#include "results/winnerlist.h"
 
 namespace {
 
@@ -34,86 +34,92 @@ QPushButton *toolButton(const QString &icon, const QString &caption, QWidget *pa
 WinnerListDialog::WinnerListDialog(QWidget *parent) : QDialog(parent) {
     setWindowTitle(QStringLiteral("查看中奖"));
     buildList();
-    labmsg = new QLabel(this);
-    Label1 = new QLabel(this);
-    for (QLabel *label : {labmsg, Label1})
+    m_winnerCountLabel = new QLabel(this);
+    m_winnerCountLabel->setObjectName(QStringLiteral("winnerCountLabel"));
+    m_prizeTotalLabel = new QLabel(this);
+    m_prizeTotalLabel->setObjectName(QStringLiteral("prizeTotalLabel"));
+    for (QLabel *label : {m_winnerCountLabel, m_prizeTotalLabel})
         label->setProperty("role", "heading");
     auto *totals = new QHBoxLayout;
     totals->setSpacing(28);
-    totals->addWidget(labmsg);
-    totals->addWidget(Label1);
+    totals->addWidget(m_winnerCountLabel);
+    totals->addWidget(m_prizeTotalLabel);
     totals->addStretch();
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 12, 16, 14);
     layout->setSpacing(10);
     layout->addWidget(buildToolbar());
-    layout->addWidget(lstUser, 1);
+    layout->addWidget(m_winnerList, 1);
     layout->addLayout(totals);
 
-    connect(cmdOut, &QPushButton::clicked, this, [] { exportWinnersAs(); });
-    connect(cmdPrint, &QPushButton::clicked, this, [] { printWinners(true); });
+    connect(m_exportButton, &QPushButton::clicked, this, [] { exportWinnersAs(); });
+    connect(m_printButton, &QPushButton::clicked, this, [] { printWinners(true); });
 
     setMinimumWidth(kMinWidth);
     resize(760, 540);
-    fill();
+    showWinners();
     centerForm(this);
 }
 
 QWidget *WinnerListDialog::buildToolbar() {
     auto *bar = new QWidget(this);
-    cmdOut = toolButton(QStringLiteral("export"), QStringLiteral("导出名单"), bar);
-    cmdPrint = toolButton(QStringLiteral("print"), QStringLiteral("打印名单"), bar);
+    m_exportButton = toolButton(QStringLiteral("export"), QStringLiteral("导出名单"), bar);
+    m_exportButton->setObjectName(QStringLiteral("exportButton"));
+    m_printButton = toolButton(QStringLiteral("print"), QStringLiteral("打印名单"), bar);
+    m_printButton->setObjectName(QStringLiteral("printButton"));
     auto *hint = new QLabel(QStringLiteral("按奖项顺序列出每一个中奖记录"), bar);
     hint->setProperty("role", "hint");
     auto *layout = new QHBoxLayout(bar);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(cmdOut);
-    layout->addWidget(cmdPrint);
+    layout->addWidget(m_exportButton);
+    layout->addWidget(m_printButton);
     layout->addStretch();
     layout->addWidget(hint);
     return bar;
 }
 
 void WinnerListDialog::buildList() {
-    lstUser = new QTreeWidget(this);
-    lstUser->setColumnCount(ColumnCount);
-    lstUser->setHeaderLabels({QStringLiteral("序号"), QStringLiteral("奖项名称"),
-                              QStringLiteral("奖品名称"), QStringLiteral("中奖名单"),
-                              QStringLiteral("备注"), QStringLiteral("状态")});
-    style::styleList(lstUser);
+    m_winnerList = new QTreeWidget(this);
+    m_winnerList->setObjectName(QStringLiteral("winnerList"));
+    m_winnerList->setColumnCount(ColumnCount);
+    m_winnerList->setHeaderLabels({QStringLiteral("序号"), QStringLiteral("奖项名称"),
+                                   QStringLiteral("奖品名称"), QStringLiteral("中奖名单"),
+                                   QStringLiteral("备注"), QStringLiteral("状态")});
+    style::styleList(m_winnerList);
     const int widths[] = {60, 120, 150, 130, 150};
-    for (int column = 0; column < ColStatus; ++column)
-        lstUser->setColumnWidth(column, widths[column]);
-    lstUser->headerItem()->setTextAlignment(ColNumber, Qt::AlignCenter);
-    lstUser->headerItem()->setTextAlignment(ColStatus, Qt::AlignCenter);
-    lstUser->header()->setStretchLastSection(true);
-    lstUser->header()->setSectionsMovable(false);
+    for (int column = 0; column < StatusColumn; ++column)
+        m_winnerList->setColumnWidth(column, widths[column]);
+    m_winnerList->headerItem()->setTextAlignment(NumberColumn, Qt::AlignCenter);
+    m_winnerList->headerItem()->setTextAlignment(StatusColumn, Qt::AlignCenter);
+    m_winnerList->header()->setStretchLastSection(true);
+    m_winnerList->header()->setSectionsMovable(false);
 }
 
-void WinnerListDialog::fill() {
-    lstUser->clear();
-    const results::LuckList list = results::luckList(store::mainConn());
+void WinnerListDialog::showWinners() {
+    m_winnerList->clear();
+    const results::WinnerList list = results::readWinnerList(store::mainConn());
     if (!list.error.isEmpty()) ui().message(list.error, MsgStyle::Critical, titles::error);
     QList<QTreeWidgetItem *> items;
     items.reserve(list.rows.size());
-    for (const results::LuckRow &row : list.rows) {
+    for (const results::WinnerListRow &row : list.rows) {
         auto *item = new QTreeWidgetItem;
-        item->setData(ColNumber, Qt::UserRole, QStringLiteral("K") + QString::number(row.number));
-        item->setText(ColNumber, QString::number(row.number));
-        item->setText(ColJxName, row.jxName);
-        item->setText(ColJpName, row.jpName);
-        item->setText(ColUserName, row.userName);
-        item->setText(ColUserPart, row.userPart);
-        item->setText(ColStatus, row.status);
-        item->setTextAlignment(ColNumber, Qt::AlignCenter);
-        item->setTextAlignment(ColStatus, Qt::AlignCenter);
+        item->setData(NumberColumn, Qt::UserRole,
+                      QStringLiteral("K") + QString::number(row.number));
+        item->setText(NumberColumn, QString::number(row.number));
+        item->setText(AwardColumn, row.awardName);
+        item->setText(PrizeColumn, row.prizeName);
+        item->setText(WinnerColumn, row.winnerName);
+        item->setText(RemarkColumn, row.remark);
+        item->setText(StatusColumn, row.status);
+        item->setTextAlignment(NumberColumn, Qt::AlignCenter);
+        item->setTextAlignment(StatusColumn, Qt::AlignCenter);
         for (int column = 0; column < ColumnCount; ++column)
-            if (row.greyRow || (row.greyStatus && column == ColStatus))
-                item->setForeground(column, results::kLuckGrey);
+            if (row.greyRow || (row.greyStatus && column == StatusColumn))
+                item->setForeground(column, results::kDimmedText);
         items << item;
     }
-    lstUser->addTopLevelItems(items);
-    labmsg->setText(results::winnerCountText(list));
-    Label1->setText(results::prizeTotalText(list));
+    m_winnerList->addTopLevelItems(items);
+    m_winnerCountLabel->setText(results::winnerCountText(list));
+    m_prizeTotalLabel->setText(results::prizeTotalText(list));
 }

@@ -12,26 +12,25 @@ class WinnerListDialog : public QDialog {
     Q_OBJECT
 public:
     enum Column {
-        ColNumber,
-        ColJxName,
-        ColJpName,
-        ColUserName,
-        ColUserPart,
-        ColStatus,
+        NumberColumn,
+        AwardColumn,
+        PrizeColumn,
+        WinnerColumn,
+        RemarkColumn,
+        StatusColumn,
         ColumnCount
     };
 
     explicit WinnerListDialog(QWidget *parent = nullptr);
 
-    QPushButton *cmdOut = nullptr;    // toolbar button 2
-    QPushButton *cmdPrint = nullptr;  // toolbar button 3
-    QTreeWidget *lstUser = nullptr;
-    QLabel *labmsg = nullptr;
-    QLabel *Label1 = nullptr;
-
-    void fill();
-
 private:
     QWidget *buildToolbar();
     void buildList();
+    void showWinners();
+
+    QPushButton *m_exportButton = nullptr;
+    QPushButton *m_printButton = nullptr;
+    QTreeWidget *m_winnerList = nullptr;
+    QLabel *m_winnerCountLabel = nullptr;
+    QLabel *m_prizeTotalLabel = nullptr;
 };

@@ -23,12 +23,18 @@ namespace {
 const char *const kCaptions[hotkeys::kRowCount] = {"开始抽奖∶", "停止抽奖∶", "取消滚动∶",
                                                    "撤消中奖∶", "导出中奖∶", "打印中奖∶",
                                                    "中奖播放∶", "音量控制∶", "全屏切换∶"};
+// The first word of each row's object names.
+const char *const kRowNames[hotkeys::kRowCount] = {"start", "stop",   "clear", "cancel", "export",
+                                                   "print", "parade", "sound", "screen"};
 
 }  // namespace
 
 HotkeySettingsDialog::HotkeySettingsDialog(QWidget *parent) : QDialog(parent) {
     setWindowTitle(QStringLiteral("快捷键设置"));
-    QHBoxLayout *buttons = okEscButtons(this, &cmdSave, &cmdCancel, QStringLiteral("保存"));
+    QHBoxLayout *buttons =
+        okEscButtons(this, &m_saveButton, &m_cancelButton, QStringLiteral("保存"));
+    m_saveButton->setObjectName(QStringLiteral("saveButton"));
+    m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
     auto *hint = new QLabel(
         QStringLiteral("点击输入框后直接按下要设置的键。开始与停止可以使用同一个键。"), this);
     hint->setProperty("role", QStringLiteral("hint"));
@@ -37,12 +43,12 @@ HotkeySettingsDialog::HotkeySettingsDialog(QWidget *parent) : QDialog(parent) {
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(buildKeyRows());
     layout->addWidget(hint);
-    layout->addWidget(buildDelayRow());
+    layout->addWidget(buildGuardRow());
     layout->addLayout(buttons);
 
     load();
-    connect(cmdSave, &QPushButton::clicked, this, &HotkeySettingsDialog::onSave);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_saveButton, &QPushButton::clicked, this, &HotkeySettingsDialog::save);
+    connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
     setMinimumWidth(420);
     adjustSize();
     centerForm(this);
@@ -53,52 +59,54 @@ QWidget *HotkeySettingsDialog::buildKeyRows() {
     auto *grid = new QGridLayout(box);
     grid->setColumnStretch(1, 1);
     for (int i = 0; i < hotkeys::kRowCount; ++i) {
+        const QString name = QLatin1String(kRowNames[i]);
         auto *caption = new QLabel(QString::fromUtf8(kCaptions[i]), box);
+        caption->setObjectName(name + QStringLiteral("KeyCaption"));
         auto *edit = new QLineEdit(hotkeys::kNone, box);
+        edit->setObjectName(name + QStringLiteral("KeyEdit"));
         edit->setToolTip(QStringLiteral("直接按下您需要设置的键"));
         edit->setMinimumWidth(190);
         edit->setContextMenuPolicy(Qt::NoContextMenu);
         edit->installEventFilter(this);
-        auto *code = new QLabel(QStringLiteral("0"), box);
-        code->hide();
         auto *tick = new QLabel(QStringLiteral("√ "), box);
+        tick->setObjectName(name + QStringLiteral("SavedTick"));
         tick->setStyleSheet(QStringLiteral("color: rgb(30,140,60); font-weight: bold;"));
         tick->setMinimumWidth(20);
         tick->setVisible(false);
         grid->addWidget(caption, i, 0);
         grid->addWidget(edit, i, 1);
         grid->addWidget(tick, i, 2);
-        labT << caption;
-        txtKey << edit;
-        labCode << code;
-        labS << tick;
+        m_keyEdits << edit;
+        m_savedTicks << tick;
+        m_codes << 0;
     }
     return box;
 }
 
-QWidget *HotkeySettingsDialog::buildDelayRow() {
+QWidget *HotkeySettingsDialog::buildGuardRow() {
     auto *box = new QGroupBox(QStringLiteral("防误操作"), this);
-    chkDelay = new QCheckBox(QStringLiteral("开始/停止按键间隔时间(单位∶秒)"), box);
-    chkDelay->setToolTip(QStringLiteral("启用后在开始抽奖后的指定时间内无法按停止键"));
-    sldDelay = new QSlider(Qt::Horizontal, box);
-    sldDelay->setRange(1, 100);
-    sldDelay->setSingleStep(1);
-    sldDelay->setPageStep(5);
-    sldDelay->setValue(1);
-    labDelay = new QLabel(box);
-    labDelay->setMinimumWidth(48);
-    labDelay->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_guardBox = new QCheckBox(QStringLiteral("开始/停止按键间隔时间(单位∶秒)"), box);
+    m_guardBox->setObjectName(QStringLiteral("guardBox"));
+    m_guardBox->setToolTip(QStringLiteral("启用后在开始抽奖后的指定时间内无法按停止键"));
+    m_guardSlider = new QSlider(Qt::Horizontal, box);
+    m_guardSlider->setObjectName(QStringLiteral("guardSlider"));
+    m_guardSlider->setRange(1, 100);
+    m_guardSlider->setSingleStep(1);
+    m_guardSlider->setPageStep(5);
+    m_guardSlider->setValue(1);
+    m_guardLabel = new QLabel(box);
+    m_guardLabel->setObjectName(QStringLiteral("guardLabel"));
+    m_guardLabel->setMinimumWidth(48);
+    m_guardLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto *row = new QHBoxLayout;
-    row->addWidget(sldDelay, 1);
-    row->addWidget(labDelay);
+    row->addWidget(m_guardSlider, 1);
+    row->addWidget(m_guardLabel);
     auto *layout = new QVBoxLayout(box);
-    layout->addWidget(chkDelay);
+    layout->addWidget(m_guardBox);
     layout->addLayout(row);
-    connect(chkDelay, &QCheckBox::toggled, sldDelay, &QSlider::setEnabled);
-    connect(chkDelay, &QCheckBox::toggled, labDelay, &QLabel::setEnabled);
-    connect(sldDelay, &QSlider::valueChanged, labDelay, [this](int value) {
-        labDelay->setText(QString::number(value) + QStringLiteral(" 秒"));
-    });
+    connect(m_guardBox, &QCheckBox::toggled, m_guardSlider, &QSlider::setEnabled);
+    connect(m_guardBox, &QCheckBox::toggled, m_guardLabel, &QLabel::setEnabled);
+    connect(m_guardSlider, &QSlider::valueChanged, this, &HotkeySettingsDialog::showGuardTime);
     return box;
 }
 
@@ -107,19 +115,23 @@ void HotkeySettingsDialog::load() {
     for (int i = 0; i < hotkeys::kRowCount; ++i) {
         const QString name = hotkeys::keyName(codes.at(i));
         setKeyText(i, name, name == hotkeys::kUnsupported);
-        labS.at(i)->setVisible(false);
-        labCode.at(i)->setText(QString::number(codes.at(i)));
+        m_savedTicks.at(i)->setVisible(false);
+        m_codes[i] = codes.at(i);
     }
     const AppState &state = appState();
-    chkDelay->setChecked(state.isTimeProtect == 1);
-    sldDelay->setValue(state.timeProtectNum);
-    labDelay->setText(QString::number(sldDelay->value()) + QStringLiteral(" 秒"));
-    sldDelay->setEnabled(chkDelay->isChecked());
-    labDelay->setEnabled(chkDelay->isChecked());
+    m_guardBox->setChecked(state.isTimeProtect == 1);
+    m_guardSlider->setValue(state.timeProtectNum);
+    showGuardTime(m_guardSlider->value());
+    m_guardSlider->setEnabled(m_guardBox->isChecked());
+    m_guardLabel->setEnabled(m_guardBox->isChecked());
+}
+
+void HotkeySettingsDialog::showGuardTime(int seconds) {
+    m_guardLabel->setText(QString::number(seconds) + QStringLiteral(" 秒"));
 }
 
 void HotkeySettingsDialog::setKeyText(int row, const QString &text, bool bad) {
-    QLineEdit *edit = txtKey.at(row);
+    QLineEdit *edit = m_keyEdits.at(row);
     edit->setText(text);
     edit->setStyleSheet(bad ? QStringLiteral("color: rgb(220,0,0);")
                             : QStringLiteral("color: rgb(0,60,220);"));
@@ -130,11 +142,11 @@ void HotkeySettingsDialog::keyPressed(int row, int code) {
     const QString name = hotkeys::keyName(code);
     setKeyText(row, name, name == hotkeys::kUnsupported);
     // An unsupported key is kept as its code all the same: saving writes it.
-    labCode.at(row)->setText(QString::number(code));
+    m_codes[row] = code;
 }
 
 bool HotkeySettingsDialog::eventFilter(QObject *watched, QEvent *event) {
-    const int row = txtKey.indexOf(static_cast<QLineEdit *>(watched));
+    const int row = m_keyEdits.indexOf(static_cast<QLineEdit *>(watched));
     if (row < 0) return QDialog::eventFilter(watched, event);
     switch (event->type()) {
         case QEvent::KeyPress: {
@@ -147,29 +159,26 @@ bool HotkeySettingsDialog::eventFilter(QObject *watched, QEvent *event) {
         case QEvent::InputMethod:
             return true;
         case QEvent::FocusIn: {
-            QLineEdit *edit = txtKey.at(row);
+            QLineEdit *edit = m_keyEdits.at(row);
             if (edit->text() == hotkeys::kClash || edit->text() == hotkeys::kNone) edit->clear();
-            labS.at(row)->setVisible(false);
+            m_savedTicks.at(row)->setVisible(false);
             return false;
         }
         case QEvent::FocusOut:
-            if (txtKey.at(row)->text().isEmpty()) setKeyText(row, hotkeys::kNone, false);
+            if (m_keyEdits.at(row)->text().isEmpty()) setKeyText(row, hotkeys::kNone, false);
             return false;
         default:
             return false;
     }
 }
 
-void HotkeySettingsDialog::onSave() {
-    QList<int> codes;
-    for (QLabel *code : labCode)
-        codes << code->text().toInt();
-    const QList<hotkeys::SaveOutcome> outcomes = hotkeys::saveKeys(codes, store::mainConn());
+void HotkeySettingsDialog::save() {
+    const QList<hotkeys::SaveOutcome> outcomes = hotkeys::saveKeys(m_codes, store::mainConn());
     for (int i = 0; i < outcomes.size(); ++i) {
-        if (outcomes.at(i) == hotkeys::SaveOutcome::Saved) labS.at(i)->setVisible(true);
+        if (outcomes.at(i) == hotkeys::SaveOutcome::Saved) m_savedTicks.at(i)->setVisible(true);
         if (outcomes.at(i) == hotkeys::SaveOutcome::Clash) setKeyText(i, hotkeys::kClash, true);
     }
-    settings::write(QStringLiteral("isTimeProtect"), chkDelay->isChecked() ? 1 : 0);
-    settings::write(QStringLiteral("timeProtectNum"), sldDelay->value());
+    settings::write(QStringLiteral("isTimeProtect"), m_guardBox->isChecked() ? 1 : 0);
+    settings::write(QStringLiteral("timeProtectNum"), m_guardSlider->value());
     Q_EMIT events().settingsChanged();
 }

@@ -17,25 +17,24 @@ class HotkeySettingsDialog : public QDialog {
 public:
     explicit HotkeySettingsDialog(QWidget *parent = nullptr);
 
-    QList<QLabel *> labT;
-    QList<QLineEdit *> txtKey;
-    QList<QLabel *> labCode;  // hidden: the code to save, "0" for none
-    QList<QLabel *> labS;     // the tick of a saved row
-    QCheckBox *chkDelay = nullptr;
-    QSlider *sldDelay = nullptr;
-    QLabel *labDelay = nullptr;
-    QPushButton *cmdSave = nullptr;
-    QPushButton *cmdCancel = nullptr;
-
-    void onSave();
-
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QWidget *buildKeyRows();
-    QWidget *buildDelayRow();
+    QWidget *buildGuardRow();
     void load();
     void setKeyText(int row, const QString &text, bool bad);
     void keyPressed(int row, int code);
+    void showGuardTime(int seconds);
+    void save();
+
+    QList<QLineEdit *> m_keyEdits;
+    QList<QLabel *> m_savedTicks;
+    QList<int> m_codes;  // what saving writes per row, 0 for none
+    QCheckBox *m_guardBox = nullptr;
+    QSlider *m_guardSlider = nullptr;
+    QLabel *m_guardLabel = nullptr;
+    QPushButton *m_saveButton = nullptr;
+    QPushButton *m_cancelButton = nullptr;
 };

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QDialog>
-#include <QTimer>
+#include <QString>
 
 #include <array>
 #include <memory>
@@ -11,7 +11,6 @@
 class QCheckBox;
 class QFrame;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 class MusicPlayer;
 
@@ -20,42 +19,38 @@ class MusicPlayer;
 class MusicSettingsDialog : public QDialog {
     Q_OBJECT
 public:
-    // One row: the check box, the hidden path, the file name shown, and its three buttons.
-    struct Row {
-        QCheckBox *chk = nullptr;
-        QFrame *frame = nullptr;
-        QLineEdit *txt = nullptr;
-        QLabel *lab = nullptr;
-        QPushButton *cmdSet = nullptr;
-        QPushButton *cmdTest = nullptr;
-        QPushButton *cmdStop = nullptr;
-    };
-
     explicit MusicSettingsDialog(QWidget *parent = nullptr);
     ~MusicSettingsDialog() override;
 
-    // In the order of music::Slot: chkBg/txtBg/labBg..., chkStart..., chkLuck..., chkPlay...
-    std::array<Row, music::SlotCount> rows;
-    QPushButton *cmdSave = nullptr;
-    QPushButton *cmdCancel = nullptr;
-    QTimer tmM;
-
-    // The row being listened to, 1 to 4; 0 for none.
-    int testRow() const { return m_testRow; }
-    MusicPlayer *player() const { return m_player.get(); }
-
-    void chooseFile(int row);
-    void startTest(int row);
-    void stopTest(int row);
-    void tmM_Timer();
-    void save();
-
 private:
+    // One row: the switch, the file name shown in a frame with its three buttons, and the full
+    // path of the chosen file.
+    struct SoundRow {
+        QCheckBox *enabledBox = nullptr;
+        QFrame *frame = nullptr;
+        QLabel *fileLabel = nullptr;
+        QPushButton *chooseButton = nullptr;
+        QPushButton *listenButton = nullptr;
+        QPushButton *stopButton = nullptr;
+        QString path;
+    };
+
     QWidget *buildRows();
     void load();
+    void setPath(int row, const QString &path);
     void applyRowEnabling(int row);
-    void applyTestRule(int row);
+    void applyListenRule(int row);
+    void chooseFile(int row);
+    void startListening(int row);
+    void stopListening();
+    void finishListening();
+    void releasePlayer();
+    void save();
 
+    // In the order of music::Slot.
+    std::array<SoundRow, music::SlotCount> m_rows;
+    QPushButton *m_saveButton = nullptr;
+    QPushButton *m_cancelButton = nullptr;
     std::unique_ptr<MusicPlayer> m_player;
-    int m_testRow = 0;
+    int m_listeningRow = -1;
 };

@@ -8,14 +8,37 @@
 
 #include "chrome/style.h"
 #include "core/store.h"
-#include "results/lucklist.h"
 #include "results/view/printwinners.h"
 #include "results/view/winnerlistdialog.h"
+#include "results/winnerlist.h"
 #include "support/sampleevening.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
-class TestLuckList : public QObject {
+namespace {
+
+template <typename T>
+T *child(const QWidget &dialog, const char *name) {
+    T *widget = dialog.findChild<T *>(QLatin1String(name));
+    if (!widget) qFatal("no %s", name);
+    return widget;
+}
+
+QTreeWidget *winnerList(const QWidget &dialog) {
+    return child<QTreeWidget>(dialog, "winnerList");
+}
+
+QString winnerCount(const QWidget &dialog) {
+    return child<QLabel>(dialog, "winnerCountLabel")->text();
+}
+
+QString prizeTotal(const QWidget &dialog) {
+    return child<QLabel>(dialog, "prizeTotalLabel")->text();
+}
+
+}  // namespace
+
+class TestWinnerList : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -51,7 +74,7 @@ private:
     std::unique_ptr<TempProgramFolder> m_folder;
 };
 
-void TestLuckList::fillEvening() {
+void TestWinnerList::fillEvening() {
     m_folder->addAward(QStringLiteral("二等奖"), 3, 1, 1, 0, 0, 0, QStringLiteral("平板电脑"));
     m_folder->addAward(QStringLiteral("一等奖"), 2, 1, 1, 0, 0, 0, QStringLiteral("笔记本"));
     m_folder->addAward(QStringLiteral("三等奖"), 10, 2, 1, 0, 0, 0, QStringLiteral("耳机"));
@@ -66,31 +89,31 @@ void TestLuckList::fillEvening() {
     setWins(ids[5], "|13|", 3, "2026-11-05 20:30:00");  // an award that is gone
 }
 
-void TestLuckList::noAwardsGiveAnEmptyList() {
+void TestWinnerList::noAwardsGiveAnEmptyList() {
     m_folder->addUsers({"张三"});
-    const results::LuckList list = results::luckList(m_folder->db());
+    const results::WinnerList list = results::readWinnerList(m_folder->db());
     QVERIFY(list.rows.isEmpty());
     QCOMPARE(results::winnerCountText(list), QStringLiteral("中奖人数：0"));
     QCOMPARE(results::prizeTotalText(list), QStringLiteral("奖品总数：0"));
     WinnerListDialog dialog;
-    QCOMPARE(dialog.lstUser->topLevelItemCount(), 0);
-    QCOMPARE(dialog.labmsg->text(), QStringLiteral("中奖人数：0"));
-    QCOMPARE(dialog.Label1->text(), QStringLiteral("奖品总数：0"));
+    QCOMPARE(winnerList(dialog)->topLevelItemCount(), 0);
+    QCOMPARE(winnerCount(dialog), QStringLiteral("中奖人数：0"));
+    QCOMPARE(prizeTotal(dialog), QStringLiteral("奖品总数：0"));
     QVERIFY(m_ui->records.isEmpty());
 }
 
 // Awards by OrderNum, each award's winners earliest first (ties by ID); a holder of two awards
 // has two rows; give-ups that no longer hold the award are not listed.
-void TestLuckList::rowsFollowTheDrawOrder() {
+void TestWinnerList::rowsFollowTheDrawOrder() {
     fillEvening();
-    const results::LuckList list = results::luckList(m_folder->db());
+    const results::WinnerList list = results::readWinnerList(m_folder->db());
     QStringList lines;
-    for (const results::LuckRow &row : list.rows)
+    for (const results::WinnerListRow &row : list.rows)
         lines << QStringList{QString::number(row.number),
-                             row.jxName,
-                             row.jpName,
-                             row.userName,
-                             row.userPart,
+                             row.awardName,
+                             row.prizeName,
+                             row.winnerName,
+                             row.remark,
                              row.status}
                      .join(QLatin1Char(','));
     QCOMPARE(lines, QStringList(
@@ -102,7 +125,7 @@ void TestLuckList::rowsFollowTheDrawOrder() {
     QVERIFY(!list.rows[3].greyRow);
 }
 
-void TestLuckList::statusTexts_data() {
+void TestWinnerList::statusTexts_data() {
     QTest::addColumn<QVariant>("status");
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("greyRow");
@@ -115,7 +138,7 @@ void TestLuckList::statusTexts_data() {
     QTest::newRow("NULL") << QVariant() << "未知" << false << true;
 }
 
-void TestLuckList::statusTexts() {
+void TestWinnerList::statusTexts() {
     QFETCH(QVariant, status);
     QFETCH(QString, text);
     QFETCH(bool, greyRow);
@@ -123,42 +146,42 @@ void TestLuckList::statusTexts() {
     m_folder->addAward(QStringLiteral("一等奖"), 1, 1);
     const QList<int> ids = m_folder->addUsers({"张三"});
     setWins(ids[0], "|1|", status, "2026-11-05 20:00:00");
-    const results::LuckList list = results::luckList(m_folder->db());
+    const results::WinnerList list = results::readWinnerList(m_folder->db());
     QCOMPARE(list.rows.size(), 1);
     QCOMPARE(list.rows[0].status, text);
     QCOMPARE(list.rows[0].greyRow, greyRow);
     QCOMPARE(list.rows[0].greyStatus, greyStatus);
 }
 
-void TestLuckList::listShowsRowsAndTotals() {
+void TestWinnerList::listShowsRowsAndTotals() {
     fillEvening();
     WinnerListDialog dialog;
     QCOMPARE(dialog.windowTitle(), QStringLiteral("查看中奖"));
-    QCOMPARE(dialog.lstUser->topLevelItemCount(), 5);
-    QCOMPARE(dialog.labmsg->text(), QStringLiteral("中奖人数：5"));
-    QCOMPARE(dialog.Label1->text(), QStringLiteral("奖品总数：15"));
-    QTreeWidgetItem *first = dialog.lstUser->topLevelItem(0);
-    QCOMPARE(first->data(WinnerListDialog::ColNumber, Qt::UserRole).toString(),
+    QCOMPARE(winnerList(dialog)->topLevelItemCount(), 5);
+    QCOMPARE(winnerCount(dialog), QStringLiteral("中奖人数：5"));
+    QCOMPARE(prizeTotal(dialog), QStringLiteral("奖品总数：15"));
+    QTreeWidgetItem *first = winnerList(dialog)->topLevelItem(0);
+    QCOMPARE(first->data(WinnerListDialog::NumberColumn, Qt::UserRole).toString(),
              QStringLiteral("K1"));
-    QCOMPARE(first->text(WinnerListDialog::ColUserName), QStringLiteral("李四"));
-    QTreeWidgetItem *gaveUp = dialog.lstUser->topLevelItem(4);
+    QCOMPARE(first->text(WinnerListDialog::WinnerColumn), QStringLiteral("李四"));
+    QTreeWidgetItem *gaveUp = winnerList(dialog)->topLevelItem(4);
     for (int column = 0; column < WinnerListDialog::ColumnCount; ++column)
         QCOMPARE(gaveUp->foreground(column).color(), QColor(98, 98, 98));
     dialog.resize(200, 300);
     QCOMPARE(dialog.width(), 420);
 }
 
-void TestLuckList::exportAndPrintButtons() {
+void TestWinnerList::exportAndPrintButtons() {
     fillEvening();
     WinnerListDialog dialog;
-    dialog.cmdOut->click();
+    child<QPushButton>(dialog, "exportButton")->click();
     QCOMPARE(m_ui->last().kind, QStringLiteral("file"));
     QCOMPARE(m_ui->last().title, QStringLiteral("导出文件"));
     QVERIFY(m_ui->texts().isEmpty());
 
     const QString csv = m_folder->path("名单.csv");
     m_ui->files.enqueue(csv);
-    dialog.cmdOut->click();
+    child<QPushButton>(dialog, "exportButton")->click();
     QCOMPARE(m_ui->texts(), QStringList({csv + "\n导出名单完毕!!"}));
     QFile file(csv);
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -168,23 +191,23 @@ void TestLuckList::exportAndPrintButtons() {
 
     m_ui->clear();
     setPrinterFactory([] { return std::unique_ptr<QPagedPaintDevice>(); });
-    dialog.cmdPrint->click();
+    child<QPushButton>(dialog, "printButton")->click();
     QCOMPARE(m_ui->texts(), QStringList({"找不到打印机"}));
 }
 
 // Renders the winner list for docs/screenshots when QUELLIO_SCREENSHOTS names a folder.
-void TestLuckList::screenshot() {
+void TestWinnerList::screenshot() {
     const QString out = qEnvironmentVariable("QUELLIO_SCREENSHOTS");
     if (out.isEmpty()) QSKIP("QUELLIO_SCREENSHOTS not set");
     QDir().mkpath(out);
     style::apply();
     fillSampleEvening(*m_folder);
     WinnerListDialog dialog;
-    dialog.lstUser->setCurrentItem(dialog.lstUser->topLevelItem(3));
+    winnerList(dialog)->setCurrentItem(winnerList(dialog)->topLevelItem(3));
     dialog.show();
     QTest::qWait(60);
     QVERIFY(dialog.grab().save(out + QStringLiteral("/winner-list.png")));
 }
 
-QTEST_MAIN(TestLuckList)
-#include "tst_lucklist.moc"
+QTEST_MAIN(TestWinnerList)
+#include "tst_winnerlist.moc"

@@ -1,4 +1,4 @@
-#include "results/lucklist.h"
+#include "results/winnerlist.h"
 
 #include <QSqlError>
 #include <QSqlQuery>
@@ -11,11 +11,11 @@ namespace {
 
 struct AwardHead {
     int id = 0;
-    QString jxName;
-    QString jpName;
+    QString name;
+    QString prize;
 };
 
-void setStatus(LuckRow &row, const QVariant &status) {
+void setStatus(WinnerListRow &row, const QVariant &status) {
     const int value = status.isNull() ? -1 : status.toInt();
     switch (value) {
         case 0:
@@ -39,8 +39,8 @@ void setStatus(LuckRow &row, const QVariant &status) {
 
 }  // namespace
 
-LuckList luckList(QSqlDatabase db) {
-    LuckList list;
+WinnerList readWinnerList(QSqlDatabase db) {
+    WinnerList list;
     QList<AwardHead> awards;
     QSqlQuery query(db);
     query.setForwardOnly(true);
@@ -67,12 +67,12 @@ LuckList luckList(QSqlDatabase db) {
             return list;
         }
         while (winners.next()) {
-            LuckRow row;
+            WinnerListRow row;
             row.number = int(list.rows.size()) + 1;
-            row.jxName = award.jxName;
-            row.jpName = award.jpName;
-            row.userName = winners.value(0).toString();
-            row.userPart = winners.value(1).toString();
+            row.awardName = award.name;
+            row.prizeName = award.prize;
+            row.winnerName = winners.value(0).toString();
+            row.remark = winners.value(1).toString();
             setStatus(row, winners.value(2));
             list.rows.append(row);
         }
@@ -80,11 +80,11 @@ LuckList luckList(QSqlDatabase db) {
     return list;
 }
 
-QString winnerCountText(const LuckList &list) {
+QString winnerCountText(const WinnerList &list) {
     return QStringLiteral("中奖人数：") + QString::number(list.rows.size());
 }
 
-QString prizeTotalText(const LuckList &list) {
+QString prizeTotalText(const WinnerList &list) {
     return QStringLiteral("奖品总数：") + QString::number(list.prizeTotal);
 }
 
