@@ -11,7 +11,6 @@
 #include "awards/view/drawwizarddialog.h"
 #include "chrome/icons.h"
 #include "chrome/style.h"
-#include "chrome/widgethelpers.h"
 #include "chrome/widgets.h"
 #include "console/changepassworddialog.h"
 #include "console/passwordpromptdialog.h"

@@ -194,10 +194,10 @@ void TestAwardScreens::listColumnsAndColours() {
         QCOMPARE(second->text(column), texts.at(column));
     QCOMPARE(second->data(AwardManagerDialog::ColCheck, Qt::UserRole).toString(),
              QStringLiteral("K2"));
-    QCOMPARE(second->foreground(AwardManagerDialog::ColReLuck).color(), QColor(255, 0, 0));
+    QCOMPARE(second->foreground(AwardManagerDialog::ColRepeatWins).color(), QColor(255, 0, 0));
     const QTreeWidgetItem *first = list->topLevelItem(0);
-    QCOMPARE(first->text(AwardManagerDialog::ColReLuck), QStringLiteral("否"));
-    QCOMPARE(first->foreground(AwardManagerDialog::ColReLuck).color(), QColor(18, 118, 0));
+    QCOMPARE(first->text(AwardManagerDialog::ColRepeatWins), QStringLiteral("否"));
+    QCOMPARE(first->foreground(AwardManagerDialog::ColRepeatWins).color(), QColor(18, 118, 0));
     QCOMPARE(first->text(AwardManagerDialog::ColRange), QStringLiteral("不限制"));
     QCOMPARE(first->foreground(AwardManagerDialog::ColRange).color(), QColor(18, 118, 0));
     QCOMPARE(list->topLevelItem(2)->text(AwardManagerDialog::ColRange),

@@ -139,16 +139,16 @@ QTreeWidgetItem *AwardManagerDialog::addRow(const AwardRow &row) {
     item->setCheckState(ColCheck, Qt::Unchecked);
     item->setText(ColOrder, QString::number(row.OrderNum));
     item->setText(ColName, row.JXName);
-    item->setText(ColNum, QString::number(row.JXNum));
-    item->setText(ColGroup, QString::number(row.JXGroup));
+    item->setText(ColSlots, QString::number(row.JXNum));
+    item->setText(ColBatches, QString::number(row.JXGroup));
     item->setText(ColPrize, row.JPName);
     item->setText(ColPhoto, row.JPPhoto);
-    item->setText(ColReLuck, awardtext::reLuck(row.isReLuck));
-    item->setForeground(ColReLuck, awardtext::reLuckColor(row.isReLuck));
+    item->setText(ColRepeatWins, awardtext::reLuck(row.isReLuck));
+    item->setForeground(ColRepeatWins, awardtext::reLuckColor(row.isReLuck));
     item->setText(ColRange, awardtext::range(row.RangeType, row.RangeNum1, row.RangeNum2));
     if (const QColor color = awardtext::rangeColor(row.RangeType); color.isValid())
         item->setForeground(ColRange, color);
-    for (int column : {ColOrder, ColNum, ColGroup, ColReLuck})
+    for (int column : {ColOrder, ColSlots, ColBatches, ColRepeatWins})
         item->setTextAlignment(column, Qt::AlignCenter);
     return item;
 }

@@ -22,11 +22,11 @@ public:
         ColCheck,
         ColOrder,
         ColName,
-        ColNum,
-        ColGroup,
+        ColSlots,
+        ColBatches,
         ColPrize,
         ColPhoto,
-        ColReLuck,
+        ColRepeatWins,
         ColRange,
         ColumnCount
     };
