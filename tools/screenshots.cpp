@@ -17,6 +17,7 @@
 #include <QSqlQuery>
 #include <QTabWidget>
 #include <QTextStream>
+#include <QTimer>
 
 #include "awards/view/drawwizarddialog.h"
 #include "chrome/style.h"
@@ -65,24 +66,25 @@ void shootConsole(const QString &out) {
     ConsoleWindow console;
     setConsoleWindow(&console);
     save(&console, out + QStringLiteral("/console.png"));
+    auto *slide = console.findChild<QTimer *>(QStringLiteral("panelSlideTimer"));
+    const char *tabs[] = {"rosterTab", "awardsTab", "interfaceTab"};
     const char *pages[] = {"console-roster.png", "console-awards.png", "console-interface.png"};
     for (int i = 0; i < 3; ++i) {
-        console.imgSetLab[i]->click();
-        console.showSet();
-        while (console.tmMove.isActive())
-            console.moveStep();
+        console.findChild<QPushButton *>(QString::fromLatin1(tabs[i]))->click();
+        console.findChild<QAbstractButton *>(QStringLiteral("settingsButton"))->click();
+        while (slide->isActive())
+            QApplication::processEvents(QEventLoop::AllEvents, 20);
         save(&console, out + QLatin1Char('/') + QLatin1String(pages[i]));
     }
 }
 
 void shootDialogs(const QString &out) {
-    appState().guideFor = QStringLiteral("guidebtn");
-    DrawWizardDialog guide;
+    DrawWizardDialog guide(DrawWizardDialog::Purpose::EditSettings);
     save(&guide, out + QStringLiteral("/guide-mode.png"));
-    guide.sTab->setCurrentIndex(1);
-    guide.chkIsHideName->setChecked(true);
+    guide.findChild<QTabWidget *>(QStringLiteral("tabs"))->setCurrentIndex(1);
+    guide.findChild<QCheckBox *>(QStringLiteral("maskCheck"))->setChecked(true);
     save(&guide, out + QStringLiteral("/guide-mask.png"));
-    PasswordPromptDialog login;
+    PasswordPromptDialog login(PasswordPromptDialog::Purpose::OpenSettings);
     save(&login, out + QStringLiteral("/login.png"));
     ChangePasswordDialog pass;
     save(&pass, out + QStringLiteral("/password.png"));

@@ -19,7 +19,7 @@ void openDrawScreen(ConsoleWindow *console) {
     QObject::connect(screen, &DrawWindow::closed, screen, [console] {
         if (!console) return;
         console->show();
-        console->tjJX();
+        console->refreshAwardFigures();
     });
     if (console) console->hide();
     screen->show();

@@ -4,11 +4,16 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include "core/logging.h"
+
 namespace icons {
 
 QPixmap pixmap(const QString &name, const QColor &color, int size, qreal devicePixelRatio) {
     QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
-    if (!file.open(QIODevice::ReadOnly)) return QPixmap();
+    if (!file.open(QIODevice::ReadOnly)) {
+        qCWarning(lcChrome) << "no icon named" << name;
+        return QPixmap();
+    }
     QByteArray svg = file.readAll();
     svg.replace("#COLOR", color.name().toLatin1());
     QSvgRenderer renderer(svg);

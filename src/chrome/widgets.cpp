@@ -121,9 +121,11 @@ void ChevronCombo::paintEvent(QPaintEvent *event) {
 QHBoxLayout *okEscButtons(QWidget *dialog, QPushButton **ok, QPushButton **esc,
                           const QString &okCaption) {
     *ok = new QPushButton(okCaption, dialog);
+    (*ok)->setObjectName(QStringLiteral("okButton"));
     (*ok)->setDefault(true);
     (*ok)->setAutoDefault(false);
     *esc = new QPushButton(QStringLiteral("退出"), dialog);
+    (*esc)->setObjectName(QStringLiteral("escButton"));
     (*esc)->setAutoDefault(false);
     auto *row = new QHBoxLayout;
     row->addStretch();

@@ -4,10 +4,10 @@
 #include <QColor>
 #include <QComboBox>
 #include <QLabel>
+#include <QString>
 
 class QHBoxLayout;
 class QPushButton;
-#include <QString>
 
 // Small painted controls of the console and dialogs.
 
@@ -78,6 +78,6 @@ protected:
 };
 
 // The right-aligned "确定" (default; or another caption) and "退出" row that ends the small
-// dialogs.
+// dialogs; the buttons are named "okButton" and "escButton".
 QHBoxLayout *okEscButtons(QWidget *dialog, QPushButton **ok, QPushButton **esc,
                           const QString &okCaption = QStringLiteral("确定"));

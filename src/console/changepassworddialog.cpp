@@ -1,5 +1,4 @@
 #include "console/changepassworddialog.h"
-#include "chrome/widgets.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
@@ -9,54 +8,61 @@
 #include <QVBoxLayout>
 
 #include "chrome/widgethelpers.h"
+#include "chrome/widgets.h"
 #include "core/password.h"
 #include "core/ui.h"
 
 ChangePasswordDialog::ChangePasswordDialog(QWidget *parent) : QDialog(parent) {
     setWindowTitle(QStringLiteral("密码设置"));
-    chkIsPWD = new QCheckBox(QStringLiteral("是否启用密码保护"), this);
-    pwd1 = new QLineEdit(this);
-    pwd2 = new QLineEdit(this);
-    for (QLineEdit *edit : {pwd1, pwd2}) {
+    m_guardCheck = new QCheckBox(QStringLiteral("是否启用密码保护"), this);
+    m_guardCheck->setObjectName(QStringLiteral("guardCheck"));
+    m_passwordEdit = new QLineEdit(this);
+    m_passwordEdit->setObjectName(QStringLiteral("passwordEdit"));
+    m_confirmEdit = new QLineEdit(this);
+    m_confirmEdit->setObjectName(QStringLiteral("confirmEdit"));
+    for (QLineEdit *edit : {m_passwordEdit, m_confirmEdit}) {
         edit->setEchoMode(QLineEdit::Password);
         edit->setMinimumWidth(200);
     }
     auto *hint = new QLabel(QStringLiteral("保持原密码请保留为空!"), this);
     hint->setProperty("role", QStringLiteral("hint"));
     auto *form = new QFormLayout;
-    form->addRow(QStringLiteral("输入密码∶"), pwd1);
-    form->addRow(QStringLiteral("确认密码∶"), pwd2);
+    form->addRow(QStringLiteral("输入密码∶"), m_passwordEdit);
+    form->addRow(QStringLiteral("确认密码∶"), m_confirmEdit);
     form->addRow(QString(), hint);
 
-    QHBoxLayout *buttons = okEscButtons(this, &cmdOk, &cmdEsc);
+    QPushButton *ok = nullptr;
+    QPushButton *cancel = nullptr;
+    QHBoxLayout *buttons = okEscButtons(this, &ok, &cancel);
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(chkIsPWD);
+    layout->addWidget(m_guardCheck);
     layout->addLayout(form);
     layout->addLayout(buttons);
 
-    chkIsPWD->setChecked(password::isPassWordOn());
-    updateFields();
-    connect(chkIsPWD, &QCheckBox::toggled, this, &ChangePasswordDialog::updateFields);
-    connect(cmdOk, &QPushButton::clicked, this, &ChangePasswordDialog::onOk);
-    connect(cmdEsc, &QPushButton::clicked, this, &QDialog::reject);
+    m_guardCheck->setChecked(password::isPassWordOn());
+    enableFields();
+    connect(m_guardCheck, &QCheckBox::toggled, this, &ChangePasswordDialog::enableFields);
+    connect(ok, &QPushButton::clicked, this, &ChangePasswordDialog::save);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     adjustSize();
     centerForm(this);
 }
 
-void ChangePasswordDialog::updateFields() {
-    pwd1->setEnabled(chkIsPWD->isChecked());
-    pwd2->setEnabled(chkIsPWD->isChecked());
+void ChangePasswordDialog::enableFields() {
+    m_passwordEdit->setEnabled(m_guardCheck->isChecked());
+    m_confirmEdit->setEnabled(m_guardCheck->isChecked());
 }
 
-void ChangePasswordDialog::onOk() {
-    if (chkIsPWD->isChecked() && pwd1->text().trimmed() != pwd2->text().trimmed()) {
+void ChangePasswordDialog::save() {
+    if (m_guardCheck->isChecked() &&
+        m_passwordEdit->text().trimmed() != m_confirmEdit->text().trimmed()) {
         ui().message(QStringLiteral("两次输入的密码不一致"), MsgStyle::Exclamation,
                      titles::warning);
-        pwd2->setFocus();
-        pwd2->selectAll();
+        m_confirmEdit->setFocus();
+        m_confirmEdit->selectAll();
         return;
     }
-    password::save(chkIsPWD->isChecked(), pwd1->text());
+    password::save(m_guardCheck->isChecked(), m_passwordEdit->text());
     ui().message(QStringLiteral("设置成功!"), MsgStyle::Information, titles::notice);
     accept();
 }

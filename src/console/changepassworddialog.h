@@ -4,7 +4,6 @@
 
 class QCheckBox;
 class QLineEdit;
-class QPushButton;
 
 // Switches the management password on or off and sets a new one. Empty fields keep the old
 // password, so switching the guard on again revives it.
@@ -13,13 +12,11 @@ class ChangePasswordDialog : public QDialog {
 public:
     explicit ChangePasswordDialog(QWidget *parent = nullptr);
 
-    QCheckBox *chkIsPWD = nullptr;
-    QLineEdit *pwd1 = nullptr;
-    QLineEdit *pwd2 = nullptr;
-    QPushButton *cmdOk = nullptr;
-    QPushButton *cmdEsc = nullptr;
-
 private:
-    void onOk();
-    void updateFields();
+    void save();
+    void enableFields();
+
+    QCheckBox *m_guardCheck = nullptr;
+    QLineEdit *m_passwordEdit = nullptr;
+    QLineEdit *m_confirmEdit = nullptr;
 };

@@ -1,25 +1,23 @@
 #include "console/consolewindow.h"
 
-#include <QComboBox>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
-#include <QRegularExpressionValidator>
 #include <QStackedWidget>
+#include <QTimer>
 
 #include "awards/view/awardmanagerdialog.h"
 #include "awards/view/drawwizarddialog.h"
 #include "chrome/icons.h"
 #include "chrome/style.h"
-#include "chrome/widgethelpers.h"
 #include "chrome/widgets.h"
 #include "console/changepassworddialog.h"
 #include "console/passwordpromptdialog.h"
+#include "console/templatepanel.h"
 #include "core/appstate.h"
 #include "core/events.h"
+#include "core/logging.h"
 #include "core/password.h"
 #include "core/settings.h"
 #include "core/store.h"
@@ -30,7 +28,6 @@
 #include "roster/view/rosterscreens.h"
 #include "sound/view/hotkeysettingsdialog.h"
 #include "sound/view/musicsettingsdialog.h"
-#include "stage/stage.h"
 
 namespace {
 
@@ -38,6 +35,8 @@ constexpr int kWidth = 757;
 constexpr int kHeight = 448;
 constexpr int kBannerHeight = 96;
 constexpr int kPanelHeight = kHeight - kBannerHeight;
+constexpr int kPanelStep = 30;
+constexpr int kPanelTickMs = 12;
 
 // The banner: a deep red gradient with the program's name; dragging it moves the console.
 class Banner : public QWidget {
@@ -88,25 +87,23 @@ ConsoleWindow::ConsoleWindow(QWidget *parent) : FramelessWindow(QSize(kWidth, kH
     setWindowIcon(icons::icon(QStringLiteral("start"), style::kBright));
     QWidget *home = buildHome();
     home->setGeometry(0, kBannerHeight, kWidth, kPanelHeight);
-    picSetBox = buildPanel();
-    picSetBox->setGeometry(0, kPanelHidden, kWidth, kPanelHeight);
+    m_panel = buildPanel();
+    m_panel->setGeometry(0, kPanelHidden, kWidth, kPanelHeight);
     QWidget *banner = buildBanner();
     banner->setGeometry(0, 0, kWidth, kBannerHeight);
     banner->raise();
     addDragArea(banner);
 
-    tmMove.setInterval(12);
-    connect(&tmMove, &QTimer::timeout, this, &ConsoleWindow::moveStep);
-    tjJX();
-    connect(imgReluck, &LinkLabel::clicked, this, &ConsoleWindow::resetDraw);
-    connect(&events(), &Events::awardsChanged, this, &ConsoleWindow::tjJX);
-    connect(&events(), &Events::resultsChanged, this, &ConsoleWindow::getLuckPos);
+    m_panelSlideTimer = new QTimer(this);
+    m_panelSlideTimer->setObjectName(QStringLiteral("panelSlideTimer"));
+    m_panelSlideTimer->setInterval(kPanelTickMs);
+    connect(m_panelSlideTimer, &QTimer::timeout, this, &ConsoleWindow::slidePanelStep);
+    refreshAwardFigures();
+    connect(&events(), &Events::awardsChanged, this, &ConsoleWindow::refreshAwardFigures);
+    connect(&events(), &Events::resultsChanged, this, &ConsoleWindow::refreshProgress);
     // Deleting winners or replacing the roster takes wins away too.
-    connect(&events(), &Events::rosterChanged, this, &ConsoleWindow::getLuckPos);
-    createPreviewStage();
+    connect(&events(), &Events::rosterChanged, this, &ConsoleWindow::refreshProgress);
 }
-
-ConsoleWindow::~ConsoleWindow() = default;
 
 QWidget *ConsoleWindow::buildBanner() {
     auto *banner = new Banner(body());
@@ -118,109 +115,132 @@ QWidget *ConsoleWindow::buildBanner() {
     close->move(kWidth - 42, 10);
     connect(minimise, &QAbstractButton::clicked, this, &QWidget::showMinimized);
     connect(close, &QAbstractButton::clicked, this, &QWidget::close);
-    labHelp = new LinkLabel(QStringLiteral("视频教程"), banner);
-    labHelp->setStyleSheet(QStringLiteral("color: white;"));
-    labHelp->adjustSize();
-    labHelp->move(kWidth - 96 - labHelp->width(), 16);
+    auto *tutorialLink = new LinkLabel(QStringLiteral("视频教程"), banner);
+    tutorialLink->setObjectName(QStringLiteral("tutorialLink"));
+    tutorialLink->setStyleSheet(QStringLiteral("color: white;"));
+    tutorialLink->adjustSize();
+    tutorialLink->move(kWidth - 96 - tutorialLink->width(), 16);
     const QString tutorial = settings::tutorialUrl();
-    labHelp->setVisible(!tutorial.isEmpty());
-    connect(labHelp, &LinkLabel::clicked, this, [tutorial] { ui().openUrl(QUrl(tutorial)); });
+    tutorialLink->setVisible(!tutorial.isEmpty());
+    connect(tutorialLink, &LinkLabel::clicked, this, [tutorial] {
+        if (!ui().openUrl(QUrl(tutorial)))
+            qCWarning(lcConsole) << "the tutorial page" << tutorial << "did not open";
+    });
     return banner;
 }
 
 QWidget *ConsoleWindow::buildHome() {
     auto *home = new QWidget(body());
-    imgBtnSet = new CardButton(QStringLiteral("settings"), QStringLiteral("抽奖设置"), false, home);
-    imgBtnStart = new CardButton(QStringLiteral("start"), QStringLiteral("开始抽奖"), true, home);
-    imgBtnSet->setToolTip(QStringLiteral("名单、奖项与界面设置"));
-    imgBtnStart->setToolTip(QStringLiteral("进入全屏抽奖界面"));
-    connect(imgBtnSet, &QAbstractButton::clicked, this, &ConsoleWindow::openSettings);
-    connect(imgBtnStart, &QAbstractButton::clicked, this, &ConsoleWindow::openStart);
+    auto *settingsButton =
+        new CardButton(QStringLiteral("settings"), QStringLiteral("抽奖设置"), false, home);
+    settingsButton->setObjectName(QStringLiteral("settingsButton"));
+    auto *startButton =
+        new CardButton(QStringLiteral("start"), QStringLiteral("开始抽奖"), true, home);
+    startButton->setObjectName(QStringLiteral("startButton"));
+    settingsButton->setToolTip(QStringLiteral("名单、奖项与界面设置"));
+    startButton->setToolTip(QStringLiteral("进入全屏抽奖界面"));
+    connect(settingsButton, &QAbstractButton::clicked, this, &ConsoleWindow::openSettings);
+    connect(startButton, &QAbstractButton::clicked, this, &ConsoleWindow::openStart);
     auto *cards = new QHBoxLayout;
     cards->setSpacing(24);
     cards->addStretch();
-    cards->addWidget(imgBtnSet);
-    cards->addWidget(imgBtnStart);
+    cards->addWidget(settingsButton);
+    cards->addWidget(startButton);
     cards->addStretch();
 
-    const char *tools[][2] = {{"list", "查看中奖详情"},
-                              {"keyboard", "快捷键设置"},
-                              {"music", "音乐设置"},
-                              {"wizard", "抽奖向导"},
-                              {"password", "权限密码设置"}};
-    auto *strip = new QHBoxLayout;
-    strip->setSpacing(6);
-    strip->addStretch();
-    for (int i = 0; i < 5; ++i) {
-        imgTool[i] =
-            new ToolButton(QString::fromLatin1(tools[i][0]), QString::fromUtf8(tools[i][1]), home);
-        connect(imgTool[i], &QAbstractButton::clicked, this, [this, i] { openTool(i); });
-        strip->addWidget(imgTool[i]);
-    }
-    strip->addStretch();
-
     auto *progressTitle = textLabel(QStringLiteral("抽奖进度∶"), home, "heading");
-    labJD = new QLabel(QStringLiteral("0%"), home);
-    labJD->setStyleSheet(
+    m_progressLabel = new QLabel(QStringLiteral("0%"), home);
+    m_progressLabel->setObjectName(QStringLiteral("progressLabel"));
+    m_progressLabel->setStyleSheet(
         QStringLiteral("font-size: 18px; font-weight: bold; color: rgb(200,40,58);"));
-    imgReluck = new LinkLabel(QStringLiteral("一键复原重抽"), home);
-    imgReluck->setToolTip(QStringLiteral("清空所有中奖记录,复原至初始状态"));
+    auto *resetLink = new LinkLabel(QStringLiteral("一键复原重抽"), home);
+    resetLink->setObjectName(QStringLiteral("resetLink"));
+    resetLink->setToolTip(QStringLiteral("清空所有中奖记录,复原至初始状态"));
+    connect(resetLink, &LinkLabel::clicked, this, &ConsoleWindow::resetDraw);
     auto *progress = new QHBoxLayout;
     progress->setContentsMargins(28, 0, 28, 0);
     progress->addWidget(progressTitle);
-    progress->addWidget(labJD);
+    progress->addWidget(m_progressLabel);
     progress->addStretch();
-    progress->addWidget(imgReluck);
+    progress->addWidget(resetLink);
 
     auto *layout = new QVBoxLayout(home);
     layout->setContentsMargins(0, 22, 0, 12);
     layout->addLayout(cards);
     layout->addSpacing(14);
-    layout->addLayout(strip);
+    layout->addLayout(buildToolStrip(home));
     layout->addStretch();
     layout->addLayout(progress);
     return home;
 }
 
+QHBoxLayout *ConsoleWindow::buildToolStrip(QWidget *home) {
+    struct Tool {
+        const char *icon;
+        const char *caption;
+        const char *name;
+        void (ConsoleWindow::*open)();
+    };
+    const Tool tools[] = {
+        {"list", "查看中奖详情", "winnerListButton", &ConsoleWindow::openWinnerList},
+        {"keyboard", "快捷键设置", "hotkeysButton", &ConsoleWindow::openHotkeys},
+        {"music", "音乐设置", "musicButton", &ConsoleWindow::openMusic},
+        {"wizard", "抽奖向导", "wizardButton", &ConsoleWindow::openWizard},
+        {"password", "权限密码设置", "passwordButton", &ConsoleWindow::openPasswordSettings}};
+    auto *strip = new QHBoxLayout;
+    strip->setSpacing(6);
+    strip->addStretch();
+    for (const Tool &tool : tools) {
+        auto *button =
+            new ToolButton(QString::fromLatin1(tool.icon), QString::fromUtf8(tool.caption), home);
+        button->setObjectName(QString::fromLatin1(tool.name));
+        connect(button, &QAbstractButton::clicked, this, tool.open);
+        strip->addWidget(button);
+    }
+    strip->addStretch();
+    return strip;
+}
+
 QWidget *ConsoleWindow::buildPanel() {
     auto *panel = new QWidget(body());
+    panel->setObjectName(QStringLiteral("settingsPanel"));
     panel->setAutoFillBackground(true);
     panel->setStyleSheet(
-        QStringLiteral("#panel { background: rgb(255,244,244); "
+        QStringLiteral("#settingsPanel { background: rgb(255,244,244); "
                        "border-bottom: 2px solid rgb(200,40,58); }"));
-    panel->setObjectName(QStringLiteral("panel"));
     panel->setAttribute(Qt::WA_StyledBackground);
     const char *captions[] = {"名单设置", "奖项设置", "界面设置"};
+    const char *names[] = {"rosterTab", "awardsTab", "interfaceTab"};
     auto *tabs = new QHBoxLayout;
     tabs->setSpacing(4);
     for (int i = 0; i < 3; ++i) {
-        imgSetLab[i] = new QPushButton(QString::fromUtf8(captions[i]), panel);
-        imgSetLab[i]->setCheckable(true);
-        imgSetLab[i]->setAutoExclusive(true);
-        connect(imgSetLab[i], &QPushButton::clicked, this, [this, i] { selectPage(i); });
-        tabs->addWidget(imgSetLab[i]);
+        m_pageTabs[i] = new QPushButton(QString::fromUtf8(captions[i]), panel);
+        m_pageTabs[i]->setObjectName(QString::fromLatin1(names[i]));
+        m_pageTabs[i]->setCheckable(true);
+        m_pageTabs[i]->setAutoExclusive(true);
+        connect(m_pageTabs[i], &QPushButton::clicked, this, [this, i] { selectPage(i); });
+        tabs->addWidget(m_pageTabs[i]);
     }
     tabs->addStretch();
     tabs->addWidget(textLabel(QStringLiteral("抽奖进度∶"), panel, "hint"));
-    labJD2 = new QLabel(QStringLiteral("0%"), panel);
-    tabs->addWidget(labJD2);
-    auto *imgBack = new QPushButton(icons::icon(QStringLiteral("back"), style::kDeep),
-                                    QStringLiteral("返回"), panel);
-    imgBack->setToolTip(QStringLiteral("收起设置面板"));
-    connect(imgBack, &QPushButton::clicked, this, [this] {
-        panelClosing = true;
-        tmMove.start();
-    });
-    tabs->addWidget(imgBack);
+    m_panelProgressLabel = new QLabel(QStringLiteral("0%"), panel);
+    m_panelProgressLabel->setObjectName(QStringLiteral("panelProgressLabel"));
+    tabs->addWidget(m_panelProgressLabel);
+    auto *back = new QPushButton(icons::icon(QStringLiteral("back"), style::kDeep),
+                                 QStringLiteral("返回"), panel);
+    back->setObjectName(QStringLiteral("closePanelButton"));
+    back->setToolTip(QStringLiteral("收起设置面板"));
+    connect(back, &QPushButton::clicked, this, &ConsoleWindow::closePanel);
+    tabs->addWidget(back);
 
-    pages = new QStackedWidget(panel);
-    pages->addWidget(buildRosterPage());
-    pages->addWidget(buildAwardPage());
-    pages->addWidget(buildInterfacePage());
+    m_pages = new QStackedWidget(panel);
+    m_pages->addWidget(buildRosterPage());
+    m_pages->addWidget(buildAwardPage());
+    m_pages->addWidget(new TemplatePanel);
     auto *layout = new QVBoxLayout(panel);
     layout->setContentsMargins(18, 12, 18, 12);
     layout->addLayout(tabs);
-    layout->addWidget(pages, 1);
+    layout->addWidget(m_pages, 1);
     selectPage(0);
     return panel;
 }
@@ -233,12 +253,18 @@ QWidget *ConsoleWindow::buildRosterPage() {
                   page, "heading"));
     layout->addWidget(
         textLabel(QStringLiteral("您可以通过以下任何一种方式快捷生成名单"), page, "hint"));
-    const char *links[] = {"管理名单", "我要从Excel文件中导入名单", "我要从txt文件中导入名单",
-                           "我要批量导入图片作为名单", "我要生成编号作为名单"};
+    // In the order rosterscreens::openRosterAction numbers them.
+    const char *links[][2] = {{"管理名单", "manageRosterLink"},
+                              {"我要从Excel文件中导入名单", "excelImportLink"},
+                              {"我要从txt文件中导入名单", "textImportLink"},
+                              {"我要批量导入图片作为名单", "photoImportLink"},
+                              {"我要生成编号作为名单", "numberGeneratorLink"}};
     for (int i = 0; i < 5; ++i) {
-        labMD[i] = new LinkLabel(QStringLiteral("▸ ") + QString::fromUtf8(links[i]), page);
-        connect(labMD[i], &LinkLabel::clicked, this, [this, i] { openRosterAction(i); });
-        layout->addWidget(labMD[i]);
+        auto *link = new LinkLabel(QStringLiteral("▸ ") + QString::fromUtf8(links[i][0]), page);
+        link->setObjectName(QString::fromLatin1(links[i][1]));
+        connect(link, &LinkLabel::clicked, this,
+                [this, i] { rosterscreens::openRosterAction(i, this); });
+        layout->addWidget(link);
     }
     layout->addStretch();
     return page;
@@ -249,126 +275,75 @@ QWidget *ConsoleWindow::buildAwardPage() {
     auto *layout = new QVBoxLayout(page);
     layout->addWidget(textLabel(
         QStringLiteral("奖项设置即是您此次抽奖活动中安排的奖品名次、奖品内容等"), page, "heading"));
+    auto figure = [page](const char *name) {
+        auto *label = new QLabel(QStringLiteral("0"), page);
+        label->setObjectName(QString::fromLatin1(name));
+        label->setStyleSheet(QStringLiteral("font-weight: bold; color: rgb(200,40,58);"));
+        return label;
+    };
+    m_awardCountLabel = figure("awardCountLabel");
+    m_slotSumLabel = figure("slotSumLabel");
+    m_batchSumLabel = figure("batchSumLabel");
     auto *figures = new QHBoxLayout;
     figures->setSpacing(2);
-    const char *pieces[] = {"当前共计设置奖项", "项, 奖品共计", "个,供计分", "次抽取"};
-    for (int i = 0; i < 4; ++i) {
-        figures->addWidget(new QLabel(QString::fromUtf8(pieces[i]), page));
-        if (i == 3) break;
-        labJxNum[i] = new QLabel(QStringLiteral("0"), page);
-        labJxNum[i]->setStyleSheet(QStringLiteral("font-weight: bold; color: rgb(200,40,58);"));
-        figures->addWidget(labJxNum[i]);
-    }
+    figures->addWidget(new QLabel(QStringLiteral("当前共计设置奖项"), page));
+    figures->addWidget(m_awardCountLabel);
+    figures->addWidget(new QLabel(QStringLiteral("项, 奖品共计"), page));
+    figures->addWidget(m_slotSumLabel);
+    figures->addWidget(new QLabel(QStringLiteral("个,供计分"), page));
+    figures->addWidget(m_batchSumLabel);
+    figures->addWidget(new QLabel(QStringLiteral("次抽取"), page));
     figures->addStretch();
     layout->addLayout(figures);
-    labsetJx = new LinkLabel(QStringLiteral("▸ 管理我的奖项"), page);
-    connect(labsetJx, &LinkLabel::clicked, this, &ConsoleWindow::openAwards);
-    layout->addWidget(labsetJx);
+    auto *manageLink = new LinkLabel(QStringLiteral("▸ 管理我的奖项"), page);
+    manageLink->setObjectName(QStringLiteral("manageAwardsLink"));
+    connect(manageLink, &LinkLabel::clicked, this, &ConsoleWindow::openAwardManager);
+    layout->addWidget(manageLink);
     layout->addStretch();
     return page;
 }
 
-QWidget *ConsoleWindow::buildInterfacePage() {
-    auto *page = new QWidget;
-    ComboMB = new QComboBox(page);
-    txtBTm = new QLineEdit(appState().title1, page);
-    txtBTs = new QLineEdit(appState().title2, page);
-    txtW = new QLineEdit(QStringLiteral("1024"), page);
-    txtH = new QLineEdit(QStringLiteral("768"), page);
-    for (QLineEdit *edit : {txtW, txtH}) {
-        edit->setValidator(
-            new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), edit));
-        edit->setFixedWidth(64);
-    }
-    txtBgImg = new QLineEdit(page);
-    txtBgImg->hide();
-    labJmSet = new LinkLabel(QStringLiteral("更换背景图片"), page);
-    labHF = new LinkLabel(QStringLiteral("恢复原图"), page);
-    labHF->hide();
-    cmdSave = new QPushButton(QStringLiteral("保存修改"), page);
-    cmdSave->setProperty("role", QStringLiteral("primary"));
-    cmdEditSkin = new QPushButton(QStringLiteral("编辑模板"), page);
-
-    auto *size = new QHBoxLayout;
-    size->addWidget(new QLabel(QStringLiteral("宽度"), page));
-    size->addWidget(txtW);
-    size->addWidget(new QLabel(QStringLiteral("高度"), page));
-    size->addWidget(txtH);
-    size->addWidget(textLabel(QStringLiteral("(单位：像素)"), page, "hint"));
-    size->addStretch();
-    auto *background = new QHBoxLayout;
-    background->addWidget(labJmSet);
-    background->addWidget(labHF);
-    background->addStretch();
-    auto *buttons = new QHBoxLayout;
-    buttons->addWidget(cmdSave);
-    buttons->addWidget(cmdEditSkin);
-    buttons->addStretch();
-
-    auto *form = new QGridLayout;
-    form->addWidget(new QLabel(QStringLiteral("模板∶"), page), 0, 0);
-    form->addWidget(ComboMB, 0, 1);
-    form->addWidget(new QLabel(QStringLiteral("主标题∶"), page), 1, 0);
-    form->addWidget(txtBTm, 1, 1);
-    form->addWidget(new QLabel(QStringLiteral("副标题∶"), page), 2, 0);
-    form->addWidget(txtBTs, 2, 1);
-    form->addWidget(new QLabel(QStringLiteral("分辨率："), page), 3, 0);
-    form->addLayout(size, 3, 1);
-    form->addLayout(background, 4, 1);
-    form->addLayout(buttons, 5, 1);
-    form->setRowStretch(6, 1);
-
-    picView = new QWidget(page);
-    picView->setFixedSize(257, 177);
-    picView->setStyleSheet(QStringLiteral("background: rgb(60,10,14); border-radius: 4px;"));
-    auto *layout = new QVBoxLayout(page);
-    layout->addWidget(textLabel(
-        QStringLiteral("界面设置，即是设置抽奖界面的背景、标题以及文字样式等!"), page, "hint"));
-    auto *row = new QHBoxLayout;
-    row->addLayout(form, 1);
-    row->addSpacing(12);
-    row->addWidget(picView, 0, Qt::AlignTop);
-    layout->addLayout(row, 1);
-    return page;
-}
-
 void ConsoleWindow::selectPage(int index) {
-    pages->setCurrentIndex(index);
-    imgSetLab[index]->setChecked(true);
+    m_pages->setCurrentIndex(index);
+    m_pageTabs[index]->setChecked(true);
 }
 
-void ConsoleWindow::moveStep() {
-    QRect box = picSetBox->geometry();
-    if (panelClosing) {
-        box.moveTop(box.top() - 30);
+void ConsoleWindow::openPanel() {
+    m_panelClosing = false;
+    m_panelSlideTimer->start();
+}
+
+void ConsoleWindow::closePanel() {
+    m_panelClosing = true;
+    m_panelSlideTimer->start();
+}
+
+void ConsoleWindow::slidePanelStep() {
+    QRect box = m_panel->geometry();
+    if (m_panelClosing) {
+        box.moveTop(box.top() - kPanelStep);
         if (box.top() < kPanelHidden) {
             box.moveTop(kPanelHidden);
-            tmMove.stop();
-            panelClosing = false;
+            m_panelSlideTimer->stop();
+            m_panelClosing = false;
         }
     } else {
-        box.moveTop(box.top() + 30);
+        box.moveTop(box.top() + kPanelStep);
         if (box.top() >= kPanelOpen) {
             box.moveTop(kPanelOpen);
-            tmMove.stop();
+            m_panelSlideTimer->stop();
         }
     }
-    picSetBox->setGeometry(box);
-}
-
-void ConsoleWindow::showSet() {
-    panelClosing = false;
-    tmMove.start();
+    m_panel->setGeometry(box);
 }
 
 void ConsoleWindow::openSettings() {
     if (!password::isPassWordOn()) {
-        showSet();
+        openPanel();
         return;
     }
-    appState().loginFor = QStringLiteral("setluck");
-    PasswordPromptDialog login(this);
-    if (login.exec() == QDialog::Accepted) showSet();
+    PasswordPromptDialog login(PasswordPromptDialog::Purpose::OpenSettings, this);
+    if (login.exec() == QDialog::Accepted) openPanel();
 }
 
 void ConsoleWindow::openStart() {
@@ -376,89 +351,67 @@ void ConsoleWindow::openStart() {
         Q_EMIT drawRequested();
         return;
     }
-    appState().guideFor = QStringLiteral("startbtn");
-    DrawWizardDialog guide(this);
+    DrawWizardDialog guide(DrawWizardDialog::Purpose::StartDraw, this);
     if (guide.exec() == QDialog::Accepted) Q_EMIT drawRequested();
 }
 
-void ConsoleWindow::openTool(int index) {
-    switch (index) {
-        case 0: {
-            WinnerListDialog list(this);
-            list.exec();
-            break;
-        }
-        case 1: {
-            HotkeySettingsDialog keys(this);
-            keys.exec();
-            break;
-        }
-        case 2: {
-            MusicSettingsDialog music(this);
-            music.exec();
-            break;
-        }
-        case 3: {
-            appState().guideFor = QStringLiteral("guidebtn");
-            DrawWizardDialog guide(this);
-            guide.exec();
-            break;
-        }
-        case 4:
-            if (password::isPassWordOn()) {
-                appState().loginFor = QStringLiteral("setpass");
-                PasswordPromptDialog login(this);
-                login.exec();
-            } else {
-                ChangePasswordDialog dialog(this);
-                dialog.exec();
-            }
-            break;
-        default:
-            break;
+void ConsoleWindow::openWinnerList() {
+    WinnerListDialog list(this);
+    list.exec();
+}
+
+void ConsoleWindow::openHotkeys() {
+    HotkeySettingsDialog keys(this);
+    keys.exec();
+}
+
+void ConsoleWindow::openMusic() {
+    MusicSettingsDialog music(this);
+    music.exec();
+}
+
+void ConsoleWindow::openWizard() {
+    DrawWizardDialog guide(DrawWizardDialog::Purpose::EditSettings, this);
+    guide.exec();
+}
+
+void ConsoleWindow::openPasswordSettings() {
+    if (password::isPassWordOn()) {
+        PasswordPromptDialog login(PasswordPromptDialog::Purpose::ChangePassword, this);
+        login.exec();
+    } else {
+        ChangePasswordDialog dialog(this);
+        dialog.exec();
     }
 }
 
-void ConsoleWindow::openRosterAction(int index) {
-    rosterscreens::openRosterAction(index, this);
-}
-
-void ConsoleWindow::comingSoon(const QString &screen) {
-    ui().message(QStringLiteral("“%1”功能即将推出,敬请期待。").arg(screen), MsgStyle::Information,
-                 titles::notice);
-}
-
-void ConsoleWindow::tjJX() {
+void ConsoleWindow::refreshAwardFigures() {
     const draw::AwardFigures figures = draw::awardFigures(store::mainConn());
-    labJxNum[0]->setText(QString::number(figures.awardCount));
-    labJxNum[1]->setText(QString::number(figures.slotSum));
-    labJxNum[2]->setText(QString::number(figures.batchSum));
-    luckTotal = figures.slotSum;
-    getLuckPos();
+    m_awardCountLabel->setText(QString::number(figures.awardCount));
+    m_slotSumLabel->setText(QString::number(figures.slotSum));
+    m_batchSumLabel->setText(QString::number(figures.batchSum));
+    m_slotSum = figures.slotSum;
+    refreshProgress();
 }
 
-void ConsoleWindow::getLuckPos() {
+void ConsoleWindow::refreshProgress() {
     // With no award the panel's copy keeps what it showed.
     if (draw::awardFigures(store::mainConn()).awardCount == 0) {
-        labJD->setText(QStringLiteral("0%"));
+        m_progressLabel->setText(QStringLiteral("0%"));
         return;
     }
-    labJD->setText(draw::luckProgress(store::mainConn(), luckTotal));
-    labJD2->setText(labJD->text());
+    m_progressLabel->setText(draw::luckProgress(store::mainConn(), m_slotSum));
+    m_panelProgressLabel->setText(m_progressLabel->text());
 }
 
 void ConsoleWindow::resetDraw() {
     const auto snapshot = [](const QString &path) { return !exportWinners(path, false).isEmpty(); };
-    if (draw::oneKeyReset(store::mainConn(), labJD->text(), snapshot))
+    if (draw::oneKeyReset(store::mainConn(), m_progressLabel->text(), snapshot))
         Q_EMIT events().resultsChanged();
 }
 
-void ConsoleWindow::AddUserRefrash() {
-    rosterscreens::openManager(this);
-}
-
-void ConsoleWindow::openAwards() {
+void ConsoleWindow::openAwardManager() {
     AwardManagerDialog awards(this);
     awards.exec();
-    tjJX();
+    refreshAwardFigures();
 }

@@ -1,5 +1,4 @@
 #include "console/passwordpromptdialog.h"
-#include "chrome/widgets.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -8,48 +7,52 @@
 #include <QVBoxLayout>
 
 #include "chrome/widgethelpers.h"
+#include "chrome/widgets.h"
 #include "console/changepassworddialog.h"
-#include "core/appstate.h"
 #include "core/password.h"
 #include "core/ui.h"
 
-PasswordPromptDialog::PasswordPromptDialog(QWidget *parent) : QDialog(parent) {
+PasswordPromptDialog::PasswordPromptDialog(Purpose purpose, QWidget *parent)
+    : QDialog(parent), m_purpose(purpose) {
     setWindowTitle(QStringLiteral("密码验证"));
     auto *frame = new QGroupBox(QStringLiteral("请输入管理密码"), this);
-    pwd = new QLineEdit(frame);
-    pwd->setEchoMode(QLineEdit::Password);
-    pwd->setMinimumWidth(240);
-    auto *label1 = new QLabel(QStringLiteral("系统默认密码为 628413 "), frame);
-    label1->setProperty("role", QStringLiteral("hint"));
+    m_passwordEdit = new QLineEdit(frame);
+    m_passwordEdit->setObjectName(QStringLiteral("passwordEdit"));
+    m_passwordEdit->setEchoMode(QLineEdit::Password);
+    m_passwordEdit->setMinimumWidth(240);
+    auto *factoryHint = new QLabel(QStringLiteral("系统默认密码为 628413 "), frame);
+    factoryHint->setProperty("role", QStringLiteral("hint"));
     auto *frameLayout = new QVBoxLayout(frame);
-    frameLayout->addWidget(pwd);
-    frameLayout->addWidget(label1);
+    frameLayout->addWidget(m_passwordEdit);
+    frameLayout->addWidget(factoryHint);
 
-    QHBoxLayout *buttons = okEscButtons(this, &cmdOk, &cmdEsc);
+    QPushButton *ok = nullptr;
+    QPushButton *cancel = nullptr;
+    QHBoxLayout *buttons = okEscButtons(this, &ok, &cancel);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(frame);
     layout->addLayout(buttons);
 
-    connect(cmdOk, &QPushButton::clicked, this, &PasswordPromptDialog::onOk);
-    connect(cmdEsc, &QPushButton::clicked, this, &QDialog::reject);
+    connect(ok, &QPushButton::clicked, this, &PasswordPromptDialog::checkPassword);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     adjustSize();
     centerForm(this);
 }
 
-void PasswordPromptDialog::onOk() {
-    if (pwd->text().trimmed().isEmpty()) {
+void PasswordPromptDialog::checkPassword() {
+    if (m_passwordEdit->text().trimmed().isEmpty()) {
         ui().message(QStringLiteral("请输入密码!"), MsgStyle::Exclamation, titles::notice);
-        pwd->setFocus();
+        m_passwordEdit->setFocus();
         return;
     }
-    if (!password::matches(pwd->text())) {
+    if (!password::matches(m_passwordEdit->text())) {
         ui().message(QStringLiteral("密码错误"), MsgStyle::Critical, titles::notice);
-        pwd->clear();
-        pwd->setFocus();
+        m_passwordEdit->clear();
+        m_passwordEdit->setFocus();
         return;
     }
     accept();
-    if (appState().loginFor == QLatin1String("setpass")) {
+    if (m_purpose == Purpose::ChangePassword) {
         ChangePasswordDialog dialog(parentWidget());
         dialog.exec();
     }

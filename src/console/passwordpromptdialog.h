@@ -3,20 +3,21 @@
 #include <QDialog>
 
 class QLineEdit;
-class QPushButton;
 
-// Asks for the management password before the settings panel or the password dialog opens.
-// Accepted when the password is right; with loginFor "setpass" it opens ChangePasswordDialog
-// itself.
+// Asks for the management password before a guarded screen opens. Accepted when the password is
+// right; asked on the way to the password settings, it opens ChangePasswordDialog itself.
 class PasswordPromptDialog : public QDialog {
     Q_OBJECT
 public:
-    explicit PasswordPromptDialog(QWidget *parent = nullptr);
+    // What the password unlocks.
+    enum class Purpose { OpenSettings, ChangePassword };
+    Q_ENUM(Purpose)
 
-    QLineEdit *pwd = nullptr;
-    QPushButton *cmdOk = nullptr;
-    QPushButton *cmdEsc = nullptr;
+    explicit PasswordPromptDialog(Purpose purpose, QWidget *parent = nullptr);
 
 private:
-    void onOk();
+    void checkPassword();
+
+    Purpose m_purpose;
+    QLineEdit *m_passwordEdit = nullptr;
 };

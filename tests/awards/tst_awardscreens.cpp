@@ -72,6 +72,59 @@ void paintPrize(const QString &file) {
     image.save(file);
 }
 
+namespace {
+
+template <class T>
+T *child(const QWidget &parent, const char *name) {
+    auto *found = parent.findChild<T *>(QString::fromLatin1(name));
+    if (!found) qFatal("no control named %s", name);
+    return found;
+}
+
+void click(const QWidget &parent, const char *name) {
+    child<QAbstractButton>(parent, name)->click();
+}
+
+QLineEdit *edit(const QWidget &parent, const char *name) {
+    return child<QLineEdit>(parent, name);
+}
+
+QTreeWidget *awardList(const QWidget &manager) {
+    return child<QTreeWidget>(manager, "awardList");
+}
+
+QTreeWidgetItem *rowOf(const QWidget &manager, int id) {
+    QTreeWidget *list = awardList(manager);
+    const QString key = QStringLiteral("K") + QString::number(id);
+    for (int i = 0; i < list->topLevelItemCount(); ++i)
+        if (list->topLevelItem(i)->data(AwardManagerDialog::ColCheck, Qt::UserRole) == key)
+            return list->topLevelItem(i);
+    qFatal("no row for award %d", id);
+}
+
+// Selecting a row loads its award into the editor.
+void selectAward(const QWidget &manager, int id) {
+    awardList(manager)->setCurrentItem(rowOf(manager, id));
+}
+
+void tick(const QWidget &manager, int id) {
+    rowOf(manager, id)->setCheckState(AwardManagerDialog::ColCheck, Qt::Checked);
+}
+
+// The selected award's ID, 0 when none.
+int selectedId(const QWidget &manager) {
+    const QTreeWidgetItem *item = awardList(manager)->currentItem();
+    return item ? item->data(AwardManagerDialog::ColCheck, Qt::UserRole).toString().mid(1).toInt()
+                : 0;
+}
+
+// What the editor holds as the prize picture: "no", "camre" or a file.
+QString pictureOf(const QWidget &dialog) {
+    return child<AwardEditor>(dialog, "awardEditor")->input().txtPhoto;
+}
+
+}  // namespace
+
 class TestAwardScreens : public QObject {
     Q_OBJECT
 
@@ -129,7 +182,7 @@ RecordingStage *TestAwardScreens::viewer() const {
 void TestAwardScreens::listColumnsAndColours() {
     addAwards();
     AwardManagerDialog dialog;
-    QTreeWidget *list = dialog.lstJX;
+    QTreeWidget *list = awardList(dialog);
     QCOMPARE(list->columnCount(), 9);
     QCOMPARE(list->headerItem()->text(AwardManagerDialog::ColRange),
              QStringLiteral("区分编号范围"));
@@ -141,21 +194,21 @@ void TestAwardScreens::listColumnsAndColours() {
         QCOMPARE(second->text(column), texts.at(column));
     QCOMPARE(second->data(AwardManagerDialog::ColCheck, Qt::UserRole).toString(),
              QStringLiteral("K2"));
-    QCOMPARE(second->foreground(AwardManagerDialog::ColReLuck).color(), QColor(255, 0, 0));
+    QCOMPARE(second->foreground(AwardManagerDialog::ColRepeatWins).color(), QColor(255, 0, 0));
     const QTreeWidgetItem *first = list->topLevelItem(0);
-    QCOMPARE(first->text(AwardManagerDialog::ColReLuck), QStringLiteral("否"));
-    QCOMPARE(first->foreground(AwardManagerDialog::ColReLuck).color(), QColor(18, 118, 0));
+    QCOMPARE(first->text(AwardManagerDialog::ColRepeatWins), QStringLiteral("否"));
+    QCOMPARE(first->foreground(AwardManagerDialog::ColRepeatWins).color(), QColor(18, 118, 0));
     QCOMPARE(first->text(AwardManagerDialog::ColRange), QStringLiteral("不限制"));
     QCOMPARE(first->foreground(AwardManagerDialog::ColRange).color(), QColor(18, 118, 0));
     QCOMPARE(list->topLevelItem(2)->text(AwardManagerDialog::ColRange),
              QStringLiteral("大于(>) 2000"));
     // With no key the last award is selected and in the editor.
-    QCOMPARE(dialog.selectedId(), 3);
-    QCOMPARE(dialog.editor->txtJxName->text(), QStringLiteral("二等奖"));
-    QCOMPARE(dialog.editor->ComboRange->currentIndex(), 1);
-    dialog.selectAward(2);
-    QCOMPARE(dialog.editor->txtRangeNum2->text(), QStringLiteral("500"));
-    QVERIFY(!dialog.editor->chkIsReLuck->isChecked());
+    QCOMPARE(selectedId(dialog), 3);
+    QCOMPARE(edit(dialog, "awardNameEdit")->text(), QStringLiteral("二等奖"));
+    QCOMPARE(child<QComboBox>(dialog, "rangeCombo")->currentIndex(), 1);
+    selectAward(dialog, 2);
+    QCOMPARE(edit(dialog, "rangeToEdit")->text(), QStringLiteral("500"));
+    QVERIFY(!child<QCheckBox>(dialog, "excludeWinnersCheck")->isChecked());
 }
 
 void TestAwardScreens::rangeFieldsFollowTheType_data() {
@@ -174,10 +227,10 @@ void TestAwardScreens::rangeFieldsFollowTheType() {
     QFETCH(bool, first);
     QFETCH(bool, second);
     AddAwardDialog dialog;
-    dialog.editor->ComboRange->setCurrentIndex(type);
-    QCOMPARE(dialog.editor->txtRangeNum1->isVisibleTo(&dialog), first);
-    QCOMPARE(dialog.editor->txtRangeNum2->isVisibleTo(&dialog), second);
-    QCOMPARE(dialog.editor->Label7->isVisibleTo(&dialog), second);
+    child<QComboBox>(dialog, "rangeCombo")->setCurrentIndex(type);
+    QCOMPARE(edit(dialog, "rangeFromEdit")->isVisibleTo(&dialog), first);
+    QCOMPARE(edit(dialog, "rangeToEdit")->isVisibleTo(&dialog), second);
+    QCOMPARE(child<QLabel>(dialog, "rangeDash")->isVisibleTo(&dialog), second);
 }
 
 void TestAwardScreens::saveStopsAtTheFirstFault() {
@@ -185,25 +238,26 @@ void TestAwardScreens::saveStopsAtTheFirstFault() {
     AwardManagerDialog dialog;
     dialog.show();
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    AwardEditor *editor = dialog.editor;
-    editor->txtJxNum->setText(QStringLiteral("32768"));
-    editor->txtJpName->clear();
-    editor->removePicture();
-    dialog.cmdEdt->click();
+    QLineEdit *slotsBox = edit(dialog, "slotsEdit");
+    QLineEdit *prize = edit(dialog, "prizeEdit");
+    slotsBox->setText(QStringLiteral("32768"));
+    prize->clear();
+    click(dialog, "removePictureButton");
+    click(dialog, "saveEditButton");
     QCOMPARE(m_ui->last().text, QStringLiteral("奖品名额最多为32767个"));
     QCOMPARE(m_ui->last().title, QStringLiteral("提示"));
-    QCOMPARE(QApplication::focusWidget(), editor->txtJxNum);
-    editor->txtJxNum->setText(QStringLiteral("5"));
-    dialog.cmdEdt->click();
+    QCOMPARE(QApplication::focusWidget(), slotsBox);
+    slotsBox->setText(QStringLiteral("5"));
+    click(dialog, "saveEditButton");
     QCOMPARE(m_ui->last().text, QStringLiteral("奖品名称和奖品图片不能同时为空"));
-    QCOMPARE(QApplication::focusWidget(), editor->txtJpName);
+    QCOMPARE(QApplication::focusWidget(), prize);
     QCOMPARE(AwardBook().find(3)->JXNum, 10);  // nothing written
-    editor->txtJpName->setText(QStringLiteral("手机"));
-    dialog.cmdEdt->click();
+    prize->setText(QStringLiteral("手机"));
+    click(dialog, "saveEditButton");
     QCOMPARE(m_ui->texts().last(), QStringLiteral("奖项数据更新成功！"));
     QCOMPARE(AwardBook().find(3)->JXNum, 5);
-    QCOMPARE(dialog.selectedId(), 3);
-    QCOMPARE(dialog.lstJX->currentItem()->text(AwardManagerDialog::ColPrize),
+    QCOMPARE(selectedId(dialog), 3);
+    QCOMPARE(awardList(dialog)->currentItem()->text(AwardManagerDialog::ColPrize),
              QStringLiteral("手机"));
 }
 
@@ -219,10 +273,10 @@ void TestAwardScreens::editWithWinnersAsks() {
     const int user = m_folder->addUsers({QStringLiteral("张三")}).first();
     store::exec(m_folder->db(), QStringLiteral("UPDATE UserList SET JxID='|1||3|', UserStatus=3"));
     AwardManagerDialog dialog;
-    dialog.selectAward(1);
-    dialog.editor->txtJpName->setText(QStringLiteral("电动车"));
+    selectAward(dialog, 1);
+    edit(dialog, "prizeEdit")->setText(QStringLiteral("电动车"));
     m_ui->answers.enqueue(answer);
-    dialog.cmdEdt->click();
+    click(dialog, "saveEditButton");
     QCOMPARE(m_ui->records.first().kind, QStringLiteral("question"));
     QCOMPARE(m_ui->records.first().text,
              QStringLiteral("注意：当前编辑奖项已经存在中奖记录\n本操作将清除所有与之对应的中奖"
@@ -241,52 +295,50 @@ void TestAwardScreens::editWithWinnersAsks() {
 void TestAwardScreens::deleteTicked() {
     addAwards();
     AwardManagerDialog dialog;
+    QTreeWidget *list = awardList(dialog);
     QSignalSpy changed(&events(), &Events::awardsChanged);
-    dialog.cmdDelJx->click();
+    click(dialog, "deleteAwardsButton");
     QCOMPARE(m_ui->last().text, QStringLiteral("请选择需要删除的奖项!"));
     QCOMPARE(m_ui->last().title, QStringLiteral("删除失败"));
     QCOMPARE(m_ui->last().style, MsgStyle::Critical);
-    dialog.setTicked(1, true);
-    dialog.setTicked(2, true);
-    dialog.cmdDelJx->click();  // the question goes unanswered: No
+    tick(dialog, 1);
+    tick(dialog, 2);
+    click(dialog, "deleteAwardsButton");  // the question goes unanswered: No
     QCOMPARE(m_ui->last().text,
              QStringLiteral("“删除奖项”将清除与之对应的中奖记录\n确认要删除么?"));
-    QCOMPARE(dialog.lstJX->topLevelItemCount(), 3);
+    QCOMPARE(list->topLevelItemCount(), 3);
     m_ui->answers.enqueue(true);
-    dialog.cmdDelJx->click();
-    QCOMPARE(dialog.lstJX->topLevelItemCount(), 1);
-    QCOMPARE(dialog.lstJX->topLevelItem(0)->text(AwardManagerDialog::ColOrder),
-             QStringLiteral("1"));
-    QCOMPARE(dialog.selectedId(), 3);
+    click(dialog, "deleteAwardsButton");
+    QCOMPARE(list->topLevelItemCount(), 1);
+    QCOMPARE(list->topLevelItem(0)->text(AwardManagerDialog::ColOrder), QStringLiteral("1"));
+    QCOMPARE(selectedId(dialog), 3);
     QCOMPARE(changed.count(), 1);
 }
 
 void TestAwardScreens::moveKeepsSelection() {
     addAwards();
     AwardManagerDialog dialog;
-    dialog.selectAward(1);
-    dialog.cmdUp->click();
-    QCOMPARE(dialog.selectedId(), 1);
-    QCOMPARE(dialog.lstJX->topLevelItem(0)->text(AwardManagerDialog::ColName),
-             QStringLiteral("特等奖"));
-    dialog.cmdDown->click();
-    QCOMPARE(dialog.selectedId(), 1);
-    QCOMPARE(dialog.lstJX->topLevelItem(1)->text(AwardManagerDialog::ColName),
-             QStringLiteral("特等奖"));
-    QCOMPARE(dialog.lstJX->topLevelItem(1)->text(AwardManagerDialog::ColOrder),
-             QStringLiteral("2"));
+    QTreeWidget *list = awardList(dialog);
+    selectAward(dialog, 1);
+    click(dialog, "moveUpButton");
+    QCOMPARE(selectedId(dialog), 1);
+    QCOMPARE(list->topLevelItem(0)->text(AwardManagerDialog::ColName), QStringLiteral("特等奖"));
+    click(dialog, "moveDownButton");
+    QCOMPARE(selectedId(dialog), 1);
+    QCOMPARE(list->topLevelItem(1)->text(AwardManagerDialog::ColName), QStringLiteral("特等奖"));
+    QCOMPARE(list->topLevelItem(1)->text(AwardManagerDialog::ColOrder), QStringLiteral("2"));
 }
 
 void TestAwardScreens::emptyListDisablesEditor() {
     AwardManagerDialog dialog;
-    QCOMPARE(dialog.lstJX->topLevelItemCount(), 0);
-    QVERIFY(!dialog.editor->isEnabled());
-    QVERIFY(!dialog.cmdDelJx->isEnabled());
-    QVERIFY(!dialog.cmdUp->isEnabled());
-    QVERIFY(!dialog.cmdDown->isEnabled());
-    QVERIFY(dialog.cmdAddJx->isEnabled());
-    QCOMPARE(dialog.editor->txtJxNum->text(), QStringLiteral("0"));
-    QCOMPARE(dialog.editor->txtPhoto->text(), QStringLiteral("no"));
+    QCOMPARE(awardList(dialog)->topLevelItemCount(), 0);
+    QVERIFY(!child<AwardEditor>(dialog, "awardEditor")->isEnabled());
+    QVERIFY(!child<QPushButton>(dialog, "deleteAwardsButton")->isEnabled());
+    QVERIFY(!child<QPushButton>(dialog, "moveUpButton")->isEnabled());
+    QVERIFY(!child<QPushButton>(dialog, "moveDownButton")->isEnabled());
+    QVERIFY(child<QPushButton>(dialog, "addAwardButton")->isEnabled());
+    QCOMPARE(edit(dialog, "slotsEdit")->text(), QStringLiteral("0"));
+    QCOMPARE(pictureOf(dialog), QStringLiteral("no"));
 }
 
 void TestAwardScreens::viewerShowsPictureAfterLoadok() {
@@ -300,7 +352,7 @@ void TestAwardScreens::viewerShowsPictureAfterLoadok() {
     stage->reply(proto::cmd::loadok);
     QCOMPARE(stage->values(proto::vbAddImg),
              QStringList{m_folder->path(QStringLiteral("Photos/JP1.png"))});
-    QCOMPARE(dialog.editor->txtPhoto->text(), m_folder->path(QStringLiteral("Photos/JP1.png")));
+    QCOMPARE(pictureOf(dialog), m_folder->path(QStringLiteral("Photos/JP1.png")));
     stage->reply(proto::cmd::msg, QStringLiteral("图片无法加载"));
     QCOMPARE(m_ui->last().title, QStringLiteral("AS 消息"));
     QCOMPARE(m_ui->last().text, QStringLiteral("图片无法加载"));
@@ -312,15 +364,15 @@ void TestAwardScreens::chooseAndRemovePicture() {
     RecordingStage *stage = viewer();
     stage->reply(proto::cmd::loadok);
     stage->clear();
-    QVERIFY(!dialog.editor->cmdCamera->isVisibleTo(&dialog));  // no camera registered
+    QVERIFY(!child<QPushButton>(dialog, "cameraButton")->isVisibleTo(&dialog));  // no camera
     m_ui->files.enqueue(QStringLiteral("/tmp/prize.png"));
-    dialog.editor->cmdFile->click();
+    click(dialog, "choosePictureButton");
     QCOMPARE(m_ui->last().title, QStringLiteral("添加奖品图片"));
-    QCOMPARE(dialog.editor->txtPhoto->text(), QStringLiteral("/tmp/prize.png"));
-    dialog.editor->cmdFile->click();  // cancelled: the choice stays
-    QCOMPARE(dialog.editor->txtPhoto->text(), QStringLiteral("/tmp/prize.png"));
-    dialog.editor->cmdRemove->click();
-    QCOMPARE(dialog.editor->txtPhoto->text(), QStringLiteral("no"));
+    QCOMPARE(pictureOf(dialog), QStringLiteral("/tmp/prize.png"));
+    click(dialog, "choosePictureButton");  // cancelled: the choice stays
+    QCOMPARE(pictureOf(dialog), QStringLiteral("/tmp/prize.png"));
+    click(dialog, "removePictureButton");
+    QCOMPARE(pictureOf(dialog), QStringLiteral("no"));
     QCOMPARE(stage->values(proto::vbAddImg), (QStringList{"/tmp/prize.png", ""}));
     QCOMPARE(dialogFilter(QStringLiteral("图片(*.png)|*.png;*.jpg|GIF|*.gif")),
              QStringLiteral("图片(*.png) (*.png *.jpg);;GIF (*.gif)"));
@@ -336,57 +388,60 @@ void TestAwardScreens::cameraPhoto() {
     });
     const auto unregister = qScopeGuard([] { awardcamera::setShot(nullptr); });
     AddAwardDialog dialog;
-    QVERIFY(dialog.editor->cmdCamera->isVisibleTo(&dialog));
-    dialog.editor->cmdCamera->click();
+    QVERIFY(child<QPushButton>(dialog, "cameraButton")->isVisibleTo(&dialog));
+    click(dialog, "cameraButton");
     QCOMPARE(caller, QStringLiteral("AddAwardDialog"));
-    QCOMPARE(dialog.editor->txtPhoto->text(), QStringLiteral("camre"));
-    dialog.editor->txtJxName->setText(QStringLiteral("奖"));
-    dialog.editor->txtJxNum->setText(QStringLiteral("1"));
-    dialog.editor->txtJxGroup->setText(QStringLiteral("1"));
-    dialog.cmdAdd->click();  // a picture and no prize name is enough
-    QCOMPARE(AwardBook().find(dialog.addedId)->JPPhoto, QStringLiteral("Photos/JP1.jpg"));
+    QCOMPARE(pictureOf(dialog), QStringLiteral("camre"));
+    edit(dialog, "awardNameEdit")->setText(QStringLiteral("奖"));
+    edit(dialog, "slotsEdit")->setText(QStringLiteral("1"));
+    edit(dialog, "batchesEdit")->setText(QStringLiteral("1"));
+    click(dialog, "addButton");  // a picture and no prize name is enough
+    const QList<AwardRow> awards = AwardBook().list();
+    QCOMPARE(awards.size(), 1);
+    QCOMPARE(awards.first().JPPhoto, QStringLiteral("Photos/JP1.jpg"));
     QVERIFY(QFile::exists(m_folder->path(QStringLiteral("Photos/JP1.jpg"))));
 }
 
 void TestAwardScreens::addDialog() {
     addAwards();
     AddAwardDialog dialog;
-    QVERIFY(dialog.editor->chkIsReLuck->isChecked());
-    QCOMPARE(dialog.editor->ComboRange->currentIndex(), 0);
-    QCOMPARE(dialog.editor->txtPhoto->text(), QStringLiteral("no"));
+    QVERIFY(child<QCheckBox>(dialog, "excludeWinnersCheck")->isChecked());
+    QCOMPARE(child<QComboBox>(dialog, "rangeCombo")->currentIndex(), 0);
+    QCOMPARE(pictureOf(dialog), QStringLiteral("no"));
     QCOMPARE(dialog.windowTitle(), QStringLiteral("增加奖项"));
-    dialog.editor->txtJxName->setText(QStringLiteral("三等奖"));
-    dialog.editor->txtJxNum->setText(QStringLiteral("20"));
-    dialog.editor->txtJxGroup->setText(QStringLiteral("4"));
-    dialog.editor->txtJpName->setText(QStringLiteral("保温杯"));
-    dialog.cmdAdd->click();
+    edit(dialog, "awardNameEdit")->setText(QStringLiteral("三等奖"));
+    edit(dialog, "slotsEdit")->setText(QStringLiteral("20"));
+    edit(dialog, "batchesEdit")->setText(QStringLiteral("4"));
+    edit(dialog, "prizeEdit")->setText(QStringLiteral("保温杯"));
+    click(dialog, "addButton");
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    QCOMPARE(dialog.addedId, 4);
     QVERIFY(m_ui->records.isEmpty());  // no confirmation
-    const AwardRow row = *AwardBook().find(4);
-    QCOMPARE(row.OrderNum, 4);
-    QCOMPARE(row.isReLuck, 1);
-    QCOMPARE(row.JXGroup, 4);
+    const std::optional<AwardRow> row = AwardBook().find(4);
+    QVERIFY(row);
+    QCOMPARE(row->JXName, QStringLiteral("三等奖"));
+    QCOMPARE(row->OrderNum, 4);
+    QCOMPARE(row->isReLuck, 1);
+    QCOMPARE(row->JXGroup, 4);
 }
 
 void TestAwardScreens::addDialogValidates() {
     AddAwardDialog dialog;
     dialog.show();
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    dialog.cmdAdd->click();
+    click(dialog, "addButton");
     QCOMPARE(m_ui->last().text, QStringLiteral("请输入奖项名称!"));
-    QCOMPARE(QApplication::focusWidget(), dialog.editor->txtJxName);
-    dialog.editor->txtJxName->setText(QStringLiteral("奖"));
-    dialog.editor->txtJxNum->setText(QStringLiteral("1"));
-    dialog.cmdAdd->click();
+    QCOMPARE(QApplication::focusWidget(), edit(dialog, "awardNameEdit"));
+    edit(dialog, "awardNameEdit")->setText(QStringLiteral("奖"));
+    edit(dialog, "slotsEdit")->setText(QStringLiteral("1"));
+    click(dialog, "addButton");
     QCOMPARE(m_ui->last().text, QStringLiteral("至少存在1个抽奖批次"));
-    QCOMPARE(QApplication::focusWidget(), dialog.editor->txtJxGroup);
+    QCOMPARE(QApplication::focusWidget(), edit(dialog, "batchesEdit"));
     QVERIFY(AwardBook().list().isEmpty());
-    dialog.editor->txtJxGroup->setText(QStringLiteral("1"));
-    dialog.editor->txtJpName->setText(QStringLiteral("P"));
+    edit(dialog, "batchesEdit")->setText(QStringLiteral("1"));
+    edit(dialog, "prizeEdit")->setText(QStringLiteral("P"));
     store::exec(m_folder->db(),
                 QStringLiteral("INSERT INTO JPList (ID, JXName, OrderNum) VALUES (32767, 'A', 1)"));
-    dialog.cmdAdd->click();
+    click(dialog, "addButton");
     QCOMPARE(m_ui->last().text, AwardBook::kFullMessage);
     QCOMPARE(AwardBook().list().size(), 1);
     QVERIFY(dialog.result() != QDialog::Accepted);
@@ -411,8 +466,8 @@ void TestAwardScreens::screenshot() {
     m_folder->addAward(QStringLiteral("阳光普照奖"), 200, 4, 1, 0, 0, 0,
                        QStringLiteral("定制礼盒"));
     AwardManagerDialog dialog;
-    dialog.selectAward(2);
-    dialog.setTicked(5, true);
+    selectAward(dialog, 2);
+    tick(dialog, 5);
     dialog.show();
     QTest::qWait(50);
     QDir().mkpath(out);

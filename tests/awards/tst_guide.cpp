@@ -13,6 +13,17 @@
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
+namespace {
+
+template <class T>
+T *child(const QWidget &parent, const char *name) {
+    auto *found = parent.findChild<T *>(QString::fromLatin1(name));
+    if (!found) qFatal("no control named %s", name);
+    return found;
+}
+
+}  // namespace
+
 class TestGuide : public QObject {
     Q_OBJECT
 
@@ -69,31 +80,34 @@ void TestGuide::masking() {
 }
 
 void TestGuide::demoFollowsTheBoxes() {
-    DrawWizardDialog guide;
-    QCOMPARE(guide.labDemo->text(), guide.labSS->text());
-    QVERIFY(!guide.txtLeft->isEnabled());
-    guide.chkIsHideName->setChecked(true);
-    QVERIFY(guide.txtLeft->isEnabled());
-    QCOMPARE(guide.labDemo->text(), QStringLiteral("1*********0"));
-    guide.txtLeft->setText(QStringLiteral("3"));
-    guide.txtRight->setText(QStringLiteral("4"));
-    QCOMPARE(guide.labDemo->text(), QStringLiteral("138****8000"));
-    guide.txtRight->clear();  // an empty box leaves the demo alone
-    QCOMPARE(guide.labDemo->text(), QStringLiteral("138****8000"));
+    DrawWizardDialog guide(DrawWizardDialog::Purpose::EditSettings);
+    auto *demo = child<QLabel>(guide, "maskedSampleLabel");
+    auto *left = child<QLineEdit>(guide, "keepLeftEdit");
+    auto *right = child<QLineEdit>(guide, "keepRightEdit");
+    QCOMPARE(demo->text(), QStringLiteral("13800138000"));
+    QVERIFY(!left->isEnabled());
+    child<QCheckBox>(guide, "maskCheck")->setChecked(true);
+    QVERIFY(left->isEnabled());
+    QCOMPARE(demo->text(), QStringLiteral("1*********0"));
+    left->setText(QStringLiteral("3"));
+    right->setText(QStringLiteral("4"));
+    QCOMPARE(demo->text(), QStringLiteral("138****8000"));
+    right->clear();  // an empty box leaves the demo alone
+    QCOMPARE(demo->text(), QStringLiteral("138****8000"));
 }
 
 void TestGuide::storesEveryKey() {
-    appState().guideFor = QStringLiteral("guidebtn");
-    DrawWizardDialog guide;
-    QCOMPARE(guide.sldSpeed->value(), 20 - appState().luckDelay);
-    guide.Opt2->setChecked(true);
-    guide.chkMsg->setChecked(true);
-    guide.chkIsHideName->setChecked(true);
-    guide.txtLeft->clear();
-    guide.txtRight->setText(QStringLiteral("2"));
-    guide.txtReStr->setText(QStringLiteral(" "));
-    guide.sldSpeed->setValue(20);
-    guide.cmdOk->click();
+    DrawWizardDialog guide(DrawWizardDialog::Purpose::EditSettings);
+    auto *speed = child<QSlider>(guide, "speedSlider");
+    QCOMPARE(speed->value(), 20 - appState().luckDelay);
+    child<QRadioButton>(guide, "pictureAndTextMode")->setChecked(true);
+    child<QCheckBox>(guide, "rememberCheck")->setChecked(true);
+    child<QCheckBox>(guide, "maskCheck")->setChecked(true);
+    child<QLineEdit>(guide, "keepLeftEdit")->clear();
+    child<QLineEdit>(guide, "keepRightEdit")->setText(QStringLiteral("2"));
+    child<QLineEdit>(guide, "replacementEdit")->setText(QStringLiteral(" "));
+    speed->setValue(20);
+    child<QPushButton>(guide, "okButton")->click();
     const QString ini = m_folder->path(QStringLiteral("config.ini"));
     const QStringList expected{"2", "1", "1", "0", "2", "*", "0"};
     const QStringList keys{"luckType",  "guideHide", "isHideName", "hideLeft",
@@ -108,26 +122,19 @@ void TestGuide::storesEveryKey() {
 }
 
 void TestGuide::purposes_data() {
-    QTest::addColumn<QString>("purpose");
+    QTest::addColumn<DrawWizardDialog::Purpose>("purpose");
     QTest::addColumn<QString>("message");
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("settings") << "guidebtn"
-                              << "参数保存成功!" << true;
-    QTest::newRow("on the way to the draw") << "startbtn"
-                                            << "" << true;
-    QTest::newRow("unknown") << ""
-                             << "变量传递失败" << false;
+    QTest::newRow("settings") << DrawWizardDialog::Purpose::EditSettings << "参数保存成功!";
+    QTest::newRow("on the way to the draw") << DrawWizardDialog::Purpose::StartDraw << "";
 }
 
 void TestGuide::purposes() {
-    QFETCH(QString, purpose);
+    QFETCH(DrawWizardDialog::Purpose, purpose);
     QFETCH(QString, message);
-    QFETCH(bool, accepted);
-    appState().guideFor = purpose;
-    DrawWizardDialog guide;
-    guide.cmdOk->click();
+    DrawWizardDialog guide(purpose);
+    child<QPushButton>(guide, "okButton")->click();
     QCOMPARE(m_ui->texts(), message.isEmpty() ? QStringList() : QStringList{message});
-    QCOMPARE(guide.result() == QDialog::Accepted, accepted);
+    QCOMPARE(guide.result(), int(QDialog::Accepted));
 }
 
 QTEST_MAIN(TestGuide)

@@ -2,6 +2,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QtTest>
@@ -23,6 +24,24 @@
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
+namespace {
+
+template <class T>
+T *child(const QWidget &parent, const char *name) {
+    auto *found = parent.findChild<T *>(QString::fromLatin1(name));
+    if (!found) qFatal("no control named %s", name);
+    return found;
+}
+
+void click(const QWidget &parent, const char *name) {
+    if (auto *link = parent.findChild<LinkLabel *>(QString::fromLatin1(name)))
+        Q_EMIT link->clicked();
+    else
+        child<QAbstractButton>(parent, name)->click();
+}
+
+}  // namespace
+
 class TestConsole : public QObject {
     Q_OBJECT
 
@@ -41,6 +60,7 @@ private Q_SLOTS:
     void login();
     void passwordDialogKeepsTheOldPasswordOnEmptyFields();
     void passwordMismatch();
+    void passwordGuardsSettingsAndPasswordDialog();
     void everyEntryOpensItsScreen_data();
     void everyEntryOpensItsScreen();
     void consoleImportEndsInTheRosterManager();
@@ -100,20 +120,21 @@ void TestConsole::previewDialogueLoadsTheStoredTemplate() {
     QCOMPARE(m_stages->size(), 1);
     RecordingStage &stage = *m_stages->first();
     QVERIFY(stage.movie.endsWith(QStringLiteral("sys/preview.qml")));
-    QCOMPARE(console.ComboMB->count(), 2);
+    auto *templates = child<QComboBox>(console, "templateCombo");
+    QCOMPARE(templates->count(), 2);
     stage.reply(proto::cmd::asload);
     QCOMPARE(stage.values(proto::getIsOk), QStringList{proto::yes});
     stage.clear();
     stage.reply(proto::cmd::startskin);
-    QCOMPARE(console.ComboMB->currentText(), appState().selSkinName);
+    QCOMPARE(templates->currentText(), appState().selSkinName);
     QCOMPARE(stage.values(proto::ClsPage).size(), 1);
     QCOMPARE(stage.values(proto::vbAddJpBox).size(), 1);
-    QCOMPARE(console.txtW->text(), QStringLiteral("1920"));
+    QCOMPARE(child<QLineEdit>(console, "widthEdit")->text(), QStringLiteral("1920"));
     QCOMPARE(appState().bgW, qint16(1920));
 
     // Another template: loaded, and remembered as the selected one.
     stage.clear();
-    console.ComboMB->setCurrentIndex(console.ComboMB->findText(QStringLiteral("通用模板（4:3)")));
+    templates->setCurrentIndex(templates->findText(QStringLiteral("通用模板（4:3)")));
     QCOMPARE(stage.values(proto::vbSetScale), QStringList{QStringLiteral("23.046875")});
     QCOMPARE(appState().selSkinName, QStringLiteral("通用模板（4:3)"));
     QVERIFY(m_ui->records.isEmpty());
@@ -122,27 +143,29 @@ void TestConsole::previewDialogueLoadsTheStoredTemplate() {
 void TestConsole::savingThePage() {
     ConsoleWindow console;
     m_stages->first()->reply(proto::cmd::startskin);
-    console.txtW->setText(QStringLiteral("256"));
-    console.txtH->setText(QStringLiteral("100"));
-    console.cmdSave->click();
+    auto *width = child<QLineEdit>(console, "widthEdit");
+    auto *height = child<QLineEdit>(console, "heightEdit");
+    width->setText(QStringLiteral("256"));
+    height->setText(QStringLiteral("100"));
+    click(console, "saveButton");
     QCOMPARE(m_ui->texts(), QStringList{QStringLiteral("分辨率宽度最小不低于257px")});
     QCOMPARE(m_ui->last().title, QStringLiteral("警告"));
 
     const QString picture = m_folder->path(QStringLiteral("bg.png"));
     QImage(8, 8, QImage::Format_RGB32).save(picture);
     m_ui->files.enqueue(picture);
-    Q_EMIT console.labJmSet->clicked();
-    console.txtW->setText(QStringLiteral("1280"));
-    console.txtH->setText(QStringLiteral("720"));
-    console.txtBTm->setText(QStringLiteral("新标题"));
-    console.cmdSave->click();
+    click(console, "changeBackgroundLink");
+    width->setText(QStringLiteral("1280"));
+    height->setText(QStringLiteral("720"));
+    child<QLineEdit>(console, "mainTitleEdit")->setText(QStringLiteral("新标题"));
+    click(console, "saveButton");
     QCOMPARE(appState().title1, QStringLiteral("新标题"));
     QCOMPARE(appState().BT1, QStringLiteral("新标题"));
     const QString stored =
         QStringLiteral("skin/sPhoto/") + appState().selSkinName + QStringLiteral(".png");
     QVERIFY(QFile::exists(m_folder->path(stored)));
     QCOMPARE(appState().bgW, qint16(1280));
-    QCOMPARE(console.txtW->text(), QStringLiteral("1280"));
+    QCOMPARE(width->text(), QStringLiteral("1280"));
 }
 
 void TestConsole::templateWithoutPageRowIsReported() {
@@ -159,7 +182,8 @@ void TestConsole::templateWithoutPageRowIsReported() {
     stage.reply(proto::cmd::startskin);
     const QString before = appState().selSkinName;
     stage.clear();
-    console.ComboMB->setCurrentIndex(console.ComboMB->findText(QStringLiteral("坏模板")));
+    auto *templates = child<QComboBox>(console, "templateCombo");
+    templates->setCurrentIndex(templates->findText(QStringLiteral("坏模板")));
     QCOMPARE(m_ui->texts(), QStringList{QStringLiteral("界面数据文件损坏!")});
     QCOMPARE(m_ui->last().title, QStringLiteral("错误"));
     QVERIFY(stage.calls.isEmpty());
@@ -168,21 +192,18 @@ void TestConsole::templateWithoutPageRowIsReported() {
 
 void TestConsole::panelSlidesBetweenItsTwoPlaces() {
     ConsoleWindow console;
-    QCOMPARE(console.picSetBox->y(), ConsoleWindow::kPanelHidden);
-    console.showSet();
-    int ticks = 0;
-    while (console.tmMove.isActive()) {
-        console.moveStep();
-        ++ticks;
-    }
-    QCOMPARE(console.picSetBox->y(), ConsoleWindow::kPanelOpen);
-    QCOMPARE(ticks, 12);
-    console.panelClosing = true;
-    console.tmMove.start();
-    while (console.tmMove.isActive())
-        console.moveStep();
-    QCOMPARE(console.picSetBox->y(), ConsoleWindow::kPanelHidden);
-    QVERIFY(!console.panelClosing);
+    auto *panel = child<QWidget>(console, "settingsPanel");
+    auto *slide = console.findChild<QTimer *>(QStringLiteral("panelSlideTimer"));
+    QVERIFY(slide);
+    QCOMPARE(panel->y(), ConsoleWindow::kPanelHidden);
+    QSignalSpy ticks(slide, &QTimer::timeout);
+    click(console, "settingsButton");
+    QTRY_VERIFY(!slide->isActive());
+    QCOMPARE(panel->y(), ConsoleWindow::kPanelOpen);
+    QCOMPARE(ticks.count(), 12);
+    click(console, "closePanelButton");
+    QTRY_VERIFY(!slide->isActive());
+    QCOMPARE(panel->y(), ConsoleWindow::kPanelHidden);
 }
 
 void TestConsole::oneKeyReset_data() {
@@ -205,15 +226,16 @@ void TestConsole::oneKeyReset() {
             QStringLiteral("UPDATE UserList SET JxID=?, UserStatus=3, UpdateTime=? WHERE ID=?"),
             {store::awardMarker(award), store::nowText(), ids.at(i)});
     ConsoleWindow console;
-    QCOMPARE(console.labJxNum[1]->text(), QStringLiteral("100"));
-    QCOMPARE(console.labJD->text(), progress);
+    auto *progressLabel = child<QLabel>(console, "progressLabel");
+    QCOMPARE(child<QLabel>(console, "slotSumLabel")->text(), QStringLiteral("100"));
+    QCOMPARE(progressLabel->text(), progress);
     m_ui->answers.enqueue(true);
-    Q_EMIT console.imgReluck->clicked();
+    click(console, "resetLink");
     QCOMPARE(store::scalar(m_folder->db(),
                            QStringLiteral("SELECT COUNT(*) FROM UserList WHERE UserStatus<>0"))
                  .toInt(),
              0);
-    QCOMPARE(console.labJD->text(), QStringLiteral("0%"));
+    QCOMPARE(progressLabel->text(), QStringLiteral("0%"));
     const QStringList snapshots = QDir(m_folder->path(QStringLiteral("History")))
                                       .entryList({QStringLiteral("*.tmp")}, QDir::Files);
     if (!asks) {
@@ -245,39 +267,40 @@ void TestConsole::login() {
     QFETCH(QString, typed);
     QFETCH(QString, message);
     QFETCH(bool, accepted);
-    appState().loginFor = QStringLiteral("setluck");
-    PasswordPromptDialog dialog;
-    dialog.pwd->setText(typed);
-    dialog.cmdOk->click();
+    PasswordPromptDialog dialog(PasswordPromptDialog::Purpose::OpenSettings);
+    auto *password = child<QLineEdit>(dialog, "passwordEdit");
+    password->setText(typed);
+    click(dialog, "okButton");
     QCOMPARE(m_ui->texts(), message.isEmpty() ? QStringList() : QStringList{message});
     QCOMPARE(dialog.result() == QDialog::Accepted, accepted);
-    if (!accepted && typed.trimmed().size()) QVERIFY(dialog.pwd->text().isEmpty());
+    if (!accepted && typed.trimmed().size()) QVERIFY(password->text().isEmpty());
 }
 
 void TestConsole::passwordDialogKeepsTheOldPasswordOnEmptyFields() {
     {
         ChangePasswordDialog dialog;
-        QVERIFY(!dialog.chkIsPWD->isChecked());
-        QVERIFY(!dialog.pwd1->isEnabled());
-        dialog.chkIsPWD->setChecked(true);
-        dialog.cmdOk->click();
+        auto *guard = child<QCheckBox>(dialog, "guardCheck");
+        QVERIFY(!guard->isChecked());
+        QVERIFY(!child<QLineEdit>(dialog, "passwordEdit")->isEnabled());
+        guard->setChecked(true);
+        click(dialog, "okButton");
     }
     QCOMPARE(m_ui->texts(), QStringList{QStringLiteral("设置成功!")});
     QVERIFY(password::isPassWordOn());
     QVERIFY(password::matches(QStringLiteral("628413")));
     {
         ChangePasswordDialog dialog;
-        QVERIFY(dialog.chkIsPWD->isChecked());
-        dialog.pwd1->setText(QStringLiteral(" abc "));
-        dialog.pwd2->setText(QStringLiteral("abc"));
-        dialog.cmdOk->click();
+        QVERIFY(child<QCheckBox>(dialog, "guardCheck")->isChecked());
+        child<QLineEdit>(dialog, "passwordEdit")->setText(QStringLiteral(" abc "));
+        child<QLineEdit>(dialog, "confirmEdit")->setText(QStringLiteral("abc"));
+        click(dialog, "okButton");
     }
     QVERIFY(password::matches(QStringLiteral("abc")));
     QVERIFY(!password::matches(QStringLiteral("628413")));
     {
         ChangePasswordDialog dialog;
-        dialog.chkIsPWD->setChecked(false);
-        dialog.cmdOk->click();
+        child<QCheckBox>(dialog, "guardCheck")->setChecked(false);
+        click(dialog, "okButton");
     }
     QVERIFY(!password::isPassWordOn());
     QVERIFY(password::matches(QStringLiteral("abc")));
@@ -285,36 +308,62 @@ void TestConsole::passwordDialogKeepsTheOldPasswordOnEmptyFields() {
 
 void TestConsole::passwordMismatch() {
     ChangePasswordDialog dialog;
-    dialog.chkIsPWD->setChecked(true);
-    dialog.pwd1->setText(QStringLiteral("a"));
-    dialog.pwd2->setText(QStringLiteral("b"));
-    dialog.cmdOk->click();
+    child<QCheckBox>(dialog, "guardCheck")->setChecked(true);
+    child<QLineEdit>(dialog, "passwordEdit")->setText(QStringLiteral("a"));
+    auto *confirm = child<QLineEdit>(dialog, "confirmEdit");
+    confirm->setText(QStringLiteral("b"));
+    click(dialog, "okButton");
     QCOMPARE(m_ui->texts(), QStringList{QStringLiteral("两次输入的密码不一致")});
     QCOMPARE(m_ui->last().title, QStringLiteral("警告"));
     QVERIFY(!password::isPassWordOn());
-    QCOMPARE(dialog.pwd2->selectedText(), QStringLiteral("b"));
+    QCOMPARE(confirm->selectedText(), QStringLiteral("b"));
+}
+
+// With the guard on, the right password leads on to what was asked for: the panel, or the
+// password dialog.
+void TestConsole::passwordGuardsSettingsAndPasswordDialog() {
+    password::save(true, QString());
+    ConsoleWindow console;
+    const auto enterPassword = [](PasswordPromptDialog &prompt) {
+        child<QLineEdit>(prompt, "passwordEdit")->setText(QStringLiteral("628413"));
+        click(prompt, "okButton");
+    };
+    bool asked = false;
+    whenDialogOpens<PasswordPromptDialog>(enterPassword, &asked);
+    click(console, "settingsButton");
+    QVERIFY(asked);
+    QTRY_COMPARE(child<QWidget>(console, "settingsPanel")->y(), ConsoleWindow::kPanelOpen);
+
+    bool changing = false;
+    whenDialogOpens<PasswordPromptDialog>(enterPassword, &asked);
+    whenDialogOpens<ChangePasswordDialog>([](ChangePasswordDialog &dialog) { dialog.reject(); },
+                                          &changing);
+    click(console, "passwordButton");
+    QVERIFY(asked);
+    QVERIFY(changing);
+    QVERIFY(m_ui->records.isEmpty());
 }
 
 void TestConsole::everyEntryOpensItsScreen_data() {
     QTest::addColumn<QString>("entry");
     QTest::addColumn<QString>("screen");
-    QTest::newRow("winner list") << "imgTool1"
+    QTest::newRow("winner list") << "winnerListButton"
                                  << "WinnerListDialog";
-    QTest::newRow("hotkeys") << "imgTool2"
+    QTest::newRow("hotkeys") << "hotkeysButton"
                              << "HotkeySettingsDialog";
-    QTest::newRow("music") << "imgTool3"
+    QTest::newRow("music") << "musicButton"
                            << "MusicSettingsDialog";
-    QTest::newRow("guide") << "imgTool4"
+    QTest::newRow("guide") << "wizardButton"
                            << "DrawWizardDialog";
-    QTest::newRow("password") << "imgTool5"
+    QTest::newRow("password") << "passwordButton"
                               << "ChangePasswordDialog";
-    QTest::newRow("roster manager") << "labMD0"
+    QTest::newRow("roster manager") << "manageRosterLink"
                                     << "RosterManagerDialog";
-    QTest::newRow("photo import") << "labMD3"
+    QTest::newRow("photo import") << "photoImportLink"
                                   << "PhotoImportDialog";
-    QTest::newRow("number generator") << "labMD4"
+    QTest::newRow("number generator") << "numberGeneratorLink"
                                       << "NumberGeneratorDialog";
-    QTest::newRow("award manager") << "labsetJx"
+    QTest::newRow("award manager") << "manageAwardsLink"
                                    << "AwardManagerDialog";
 }
 
@@ -325,12 +374,7 @@ void TestConsole::everyEntryOpensItsScreen() {
     ConsoleWindow console;
     QString opened;
     const QPointer<QTimer> watch = closeNextDialog(&opened);
-    if (entry.startsWith("imgTool"))
-        console.imgTool[entry.right(1).toInt() - 1]->click();
-    else if (entry.startsWith("labMD"))
-        Q_EMIT console.labMD[entry.right(1).toInt()]->clicked();
-    else
-        Q_EMIT console.labsetJx->clicked();
+    click(console, qPrintable(entry));
     delete watch.data();
     QCOMPARE(opened, screen);
     QVERIFY2(m_ui->records.isEmpty(), qPrintable(m_ui->texts().join('\n')));
@@ -351,7 +395,7 @@ void TestConsole::consoleImportEndsInTheRosterManager() {
     whenDialogOpens<RosterManagerDialog>([](RosterManagerDialog &manager) { manager.reject(); },
                                          &managerShown);
     ConsoleWindow console;
-    Q_EMIT console.labMD[4]->clicked();
+    click(console, "numberGeneratorLink");
     QVERIFY(generated);
     QVERIFY(managerShown);
 }
@@ -364,23 +408,25 @@ void TestConsole::progressFollowsTheRoster() {
                 QStringLiteral("UPDATE UserList SET JxID=?, UserStatus=3 WHERE ID=?"),
                 {store::awardMarker(award), ids[0]});
     ConsoleWindow console;
-    QCOMPARE(console.labJD->text(), QStringLiteral("25%"));
+    auto *progressLabel = child<QLabel>(console, "progressLabel");
+    QCOMPARE(progressLabel->text(), QStringLiteral("25%"));
     store::exec(m_folder->db(), QStringLiteral("DELETE FROM UserList"));
     Q_EMIT events().rosterChanged();
-    QCOMPARE(console.labJD->text(), QStringLiteral("0%"));
+    QCOMPARE(progressLabel->text(), QStringLiteral("0%"));
 }
 
 void TestConsole::tutorialLinkOnlyWithAnAddress() {
     {
         ConsoleWindow console;
-        QVERIFY(console.labHelp->isHidden());
+        QVERIFY(child<LinkLabel>(console, "tutorialLink")->isHidden());
     }
     const QString address = QStringLiteral("https://example.org/quellio/教程");
     m_folder->setConfig(QStringLiteral("main"), QStringLiteral("TutorialUrl"), address);
     ConsoleWindow console;
-    QVERIFY(!console.labHelp->isHidden());
-    QCOMPARE(console.labHelp->text(), QStringLiteral("视频教程"));
-    Q_EMIT console.labHelp->clicked();
+    auto *link = child<LinkLabel>(console, "tutorialLink");
+    QVERIFY(!link->isHidden());
+    QCOMPARE(link->text(), QStringLiteral("视频教程"));
+    Q_EMIT link->clicked();
     QCOMPARE(m_ui->openedUrls, QList<QUrl>{QUrl(address)});
 }
 

@@ -1,7 +1,5 @@
 #include "awards/view/addawarddialog.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -21,33 +19,35 @@ const QString kFilter = QStringLiteral(
 
 AddAwardDialog::AddAwardDialog(QWidget *parent) : QDialog(parent) {
     setWindowTitle(QStringLiteral("增加奖项"));
-    editor = new AwardEditor(QStringLiteral("AddAwardDialog"), kFilter, this);
-    editor->chkIsReLuck->setChecked(true);
-    editor->ComboRange->setCurrentIndex(0);
-    cmdAdd = new QPushButton(QStringLiteral("添加"), this);
-    cmdAdd->setDefault(true);
-    cmdExit = new QPushButton(QStringLiteral("取消"), this);
+    m_editor = new AwardEditor(QStringLiteral("AddAwardDialog"), kFilter, this);
+    m_editor->setObjectName(QStringLiteral("awardEditor"));
+    m_editor->setExcludeWinners(true);
+    auto *add = new QPushButton(QStringLiteral("添加"), this);
+    add->setObjectName(QStringLiteral("addButton"));
+    add->setDefault(true);
+    auto *cancel = new QPushButton(QStringLiteral("取消"), this);
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
-    buttons->addWidget(cmdAdd);
-    buttons->addWidget(cmdExit);
+    buttons->addWidget(add);
+    buttons->addWidget(cancel);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(18, 16, 18, 16);
     layout->setSpacing(14);
-    layout->addWidget(editor);
+    layout->addWidget(m_editor);
     layout->addLayout(buttons);
-    connect(cmdAdd, &QPushButton::clicked, this, &AddAwardDialog::addAward);
-    connect(cmdExit, &QPushButton::clicked, this, &QDialog::reject);
+    connect(add, &QPushButton::clicked, this, &AddAwardDialog::addAward);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     setMinimumWidth(620);
     adjustSize();
     centerForm(this);
 }
 
 void AddAwardDialog::addAward() {
-    const AwardFault fault = AwardBook::validate(editor->input());
+    const AwardInput input = m_editor->input();
+    const AwardFault fault = AwardBook::validate(input);
     if (fault.failed()) {
         ui().message(fault.message, MsgStyle::Information, titles::notice);
-        editor->focusField(fault.field);
+        m_editor->focusField(fault.field);
         return;
     }
     AwardBook book;
@@ -56,8 +56,7 @@ void AddAwardDialog::addAward() {
         return;
     }
     QString error;
-    addedId = book.add(editor->input(), &error);
-    if (addedId == 0) {
+    if (book.add(input, &error) == 0) {
         ui().message(error, MsgStyle::Critical, titles::error);
         return;
     }

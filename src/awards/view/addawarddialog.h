@@ -3,7 +3,6 @@
 #include <QDialog>
 
 class AwardEditor;
-class QPushButton;
 
 // Adds one award at the end of the draw order, with the same fields and rules as the award
 // manager's editor. A new award excludes people who have already won unless the operator says
@@ -13,11 +12,8 @@ class AddAwardDialog : public QDialog {
 public:
     explicit AddAwardDialog(QWidget *parent = nullptr);
 
-    AwardEditor *editor = nullptr;
-    QPushButton *cmdAdd = nullptr;
-    QPushButton *cmdExit = nullptr;
-    // The ID of the award inserted, 0 until then.
-    int addedId = 0;
-
+private:
     void addAward();
+
+    AwardEditor *m_editor = nullptr;
 };

@@ -29,8 +29,9 @@ namespace {
 constexpr int kViewerWidth = 189;
 constexpr int kViewerHeight = 152;
 
-QLineEdit *numberBox(QWidget *parent, int digits, int width) {
+QLineEdit *numberBox(const QString &name, QWidget *parent, int digits, int width) {
     auto *edit = new QLineEdit(QStringLiteral("0"), parent);
+    edit->setObjectName(name);
     edit->setMaxLength(digits);
     edit->setFixedWidth(width);
     edit->setValidator(
@@ -54,7 +55,7 @@ AwardEditor::AwardEditor(const QString &caller, const QString &filter, QWidget *
     layout->setSpacing(16);
     layout->addWidget(buildFields(), 1);
     layout->addWidget(buildPicture(), 0, Qt::AlignTop);
-    connect(ComboRange, &QComboBox::currentIndexChanged, this, &AwardEditor::showRangeFields);
+    connect(m_rangeCombo, &QComboBox::currentIndexChanged, this, &AwardEditor::showRangeFields);
     showRangeFields();
 }
 
@@ -62,43 +63,46 @@ AwardEditor::~AwardEditor() = default;
 
 QWidget *AwardEditor::buildFields() {
     auto *page = new QWidget(this);
-    txtJxName = new QLineEdit(page);
-    txtJxName->setMaxLength(100);
-    txtJxNum = numberBox(page, 6, 72);
-    txtJxGroup = numberBox(page, 6, 72);
-    txtJpName = new QLineEdit(page);
-    txtJpName->setMaxLength(100);
-    ComboRange = new ChevronCombo(page);
-    ComboRange->addItems(awardtext::rangeItems());
-    ComboRange->setMinimumWidth(132);
-    ComboRange->setStyleSheet(QStringLiteral(
+    m_nameEdit = new QLineEdit(page);
+    m_nameEdit->setObjectName(QStringLiteral("awardNameEdit"));
+    m_nameEdit->setMaxLength(100);
+    m_slotsEdit = numberBox(QStringLiteral("slotsEdit"), page, 6, 72);
+    m_batchesEdit = numberBox(QStringLiteral("batchesEdit"), page, 6, 72);
+    m_prizeEdit = new QLineEdit(page);
+    m_prizeEdit->setObjectName(QStringLiteral("prizeEdit"));
+    m_prizeEdit->setMaxLength(100);
+    m_rangeCombo = new ChevronCombo(page);
+    m_rangeCombo->setObjectName(QStringLiteral("rangeCombo"));
+    m_rangeCombo->addItems(awardtext::rangeItems());
+    m_rangeCombo->setMinimumWidth(132);
+    m_rangeCombo->setStyleSheet(QStringLiteral(
         "QComboBox::drop-down { subcontrol-origin: padding; subcontrol-position: center right;"
         " width: 22px; border: none; }"));
-    txtRangeNum1 = numberBox(page, 5, 64);
-    txtRangeNum2 = numberBox(page, 5, 64);
-    Label7 = new QLabel(QStringLiteral("-"), page);
-    chkIsReLuck = new QCheckBox(QStringLiteral("排除已中奖的人"), page);
-    txtPhoto = new QLineEdit(QStringLiteral("no"), page);
-    txtPhoto->hide();
+    m_rangeFromEdit = numberBox(QStringLiteral("rangeFromEdit"), page, 5, 64);
+    m_rangeToEdit = numberBox(QStringLiteral("rangeToEdit"), page, 5, 64);
+    m_rangeDash = new QLabel(QStringLiteral("-"), page);
+    m_rangeDash->setObjectName(QStringLiteral("rangeDash"));
+    m_excludeWinnersCheck = new QCheckBox(QStringLiteral("排除已中奖的人"), page);
+    m_excludeWinnersCheck->setObjectName(QStringLiteral("excludeWinnersCheck"));
 
     auto *counts = new QHBoxLayout;
-    counts->addWidget(txtJxNum);
+    counts->addWidget(m_slotsEdit);
     counts->addSpacing(18);
     counts->addWidget(new QLabel(QStringLiteral("抽奖批次："), page));
-    counts->addWidget(txtJxGroup);
+    counts->addWidget(m_batchesEdit);
     counts->addSpacing(4);
     counts->addWidget(hint(QStringLiteral("(分几次抽取)"), page));
     counts->addStretch();
     auto *range = new QHBoxLayout;
     range->setSpacing(6);
-    range->addWidget(ComboRange);
+    range->addWidget(m_rangeCombo);
     range->addSpacing(4);
-    range->addWidget(txtRangeNum1);
-    range->addWidget(Label7);
-    range->addWidget(txtRangeNum2);
+    range->addWidget(m_rangeFromEdit);
+    range->addWidget(m_rangeDash);
+    range->addWidget(m_rangeToEdit);
     range->addStretch();
     auto *reLuck = new QHBoxLayout;
-    reLuck->addWidget(chkIsReLuck);
+    reLuck->addWidget(m_excludeWinnersCheck);
     reLuck->addWidget(hint(QStringLiteral("(禁止重复中奖)"), page));
     reLuck->addStretch();
 
@@ -106,11 +110,11 @@ QWidget *AwardEditor::buildFields() {
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setVerticalSpacing(10);
     grid->addWidget(new QLabel(QStringLiteral("奖项名称："), page), 0, 0);
-    grid->addWidget(txtJxName, 0, 1);
+    grid->addWidget(m_nameEdit, 0, 1);
     grid->addWidget(new QLabel(QStringLiteral("奖品名额："), page), 1, 0);
     grid->addLayout(counts, 1, 1);
     grid->addWidget(new QLabel(QStringLiteral("奖品名称："), page), 2, 0);
-    grid->addWidget(txtJpName, 2, 1);
+    grid->addWidget(m_prizeEdit, 2, 1);
     grid->addWidget(new QLabel(QStringLiteral("编号范围："), page), 3, 0);
     grid->addLayout(range, 3, 1);
     grid->addLayout(reLuck, 4, 1);
@@ -123,46 +127,48 @@ QWidget *AwardEditor::buildPicture() {
     auto *box = new QWidget(this);
     auto *title = new QLabel(QStringLiteral("奖品图片"), box);
     title->setProperty("role", "heading");
-    picPhoto = new QFrame(box);
-    picPhoto->setObjectName(QStringLiteral("picPhoto"));
-    picPhoto->setFixedSize(kViewerWidth + 2, kViewerHeight + 2);
-    picPhoto->setStyleSheet(
-        QStringLiteral("#picPhoto { background: white; border: 1px solid rgb(220,170,174); "
+    auto *pictureFrame = new QFrame(box);
+    pictureFrame->setObjectName(QStringLiteral("pictureFrame"));
+    pictureFrame->setFixedSize(kViewerWidth + 2, kViewerHeight + 2);
+    pictureFrame->setStyleSheet(
+        QStringLiteral("#pictureFrame { background: white; border: 1px solid rgb(220,170,174); "
                        "border-radius: 4px; }"));
-    m_emptyPicture = new QLabel(QStringLiteral("暂无奖品图片"), picPhoto);
+    m_emptyPicture = new QLabel(QStringLiteral("暂无奖品图片"), pictureFrame);
     m_emptyPicture->setProperty("role", "hint");
     m_emptyPicture->setAlignment(Qt::AlignCenter);
     m_emptyPicture->setGeometry(1, 1, kViewerWidth, kViewerHeight);
 
-    m_viewer = createStage(picPhoto);
-    imgView = m_viewer.get();
+    m_viewer = createStage(pictureFrame);
     if (QWidget *view = m_viewer->widget()) {
-        view->setParent(picPhoto);
+        view->setParent(pictureFrame);
         view->setGeometry(1, 1, kViewerWidth, kViewerHeight);
         view->show();
     }
     connect(m_viewer.get(), &Stage::commandReceived, this, &AwardEditor::onViewerCommand);
     m_viewer->loadMovie(appState().path(appState().moviePhoto));
 
-    cmdCamera = new QPushButton(QStringLiteral("拍照"), box);
-    cmdFile = new QPushButton(QStringLiteral("选择图片"), box);
-    cmdRemove = new QPushButton(QStringLiteral("删除图片"), box);
+    m_cameraButton = new QPushButton(QStringLiteral("拍照"), box);
+    m_cameraButton->setObjectName(QStringLiteral("cameraButton"));
+    m_fileButton = new QPushButton(QStringLiteral("选择图片"), box);
+    m_fileButton->setObjectName(QStringLiteral("choosePictureButton"));
+    m_removeButton = new QPushButton(QStringLiteral("删除图片"), box);
+    m_removeButton->setObjectName(QStringLiteral("removePictureButton"));
     // The camera lives with the roster; until it is registered the button stays hidden.
-    cmdCamera->setVisible(bool(awardcamera::shot()));
+    m_cameraButton->setVisible(bool(awardcamera::shot()));
     auto *tools = new QHBoxLayout;
     tools->setSpacing(6);
-    for (QPushButton *button : {cmdCamera, cmdFile, cmdRemove}) {
+    for (QPushButton *button : {m_cameraButton, m_fileButton, m_removeButton}) {
         button->setStyleSheet(QStringLiteral("padding: 4px 8px; min-width: 0;"));
         tools->addWidget(button);
     }
-    connect(cmdCamera, &QPushButton::clicked, this, &AwardEditor::takePhoto);
-    connect(cmdFile, &QPushButton::clicked, this, &AwardEditor::chooseFile);
-    connect(cmdRemove, &QPushButton::clicked, this, &AwardEditor::removePicture);
+    connect(m_cameraButton, &QPushButton::clicked, this, &AwardEditor::takePhoto);
+    connect(m_fileButton, &QPushButton::clicked, this, &AwardEditor::chooseFile);
+    connect(m_removeButton, &QPushButton::clicked, this, &AwardEditor::removePicture);
 
     auto *layout = new QVBoxLayout(box);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(title);
-    layout->addWidget(picPhoto);
+    layout->addWidget(pictureFrame);
     layout->addLayout(tools);
     return box;
 }
@@ -186,15 +192,15 @@ void AwardEditor::showPicture(const QString &path) {
 
 AwardInput AwardEditor::input() const {
     AwardInput input;
-    input.JXName = txtJxName->text();
-    input.JXNum = txtJxNum->text();
-    input.JXGroup = txtJxGroup->text();
-    input.JPName = txtJpName->text();
-    input.txtPhoto = txtPhoto->text();
-    input.isReLuck = chkIsReLuck->isChecked();
-    input.RangeType = ComboRange->currentIndex();
-    input.RangeNum1 = txtRangeNum1->text();
-    input.RangeNum2 = txtRangeNum2->text();
+    input.JXName = m_nameEdit->text();
+    input.JXNum = m_slotsEdit->text();
+    input.JXGroup = m_batchesEdit->text();
+    input.JPName = m_prizeEdit->text();
+    input.txtPhoto = m_picture;
+    input.isReLuck = m_excludeWinnersCheck->isChecked();
+    input.RangeType = m_rangeCombo->currentIndex();
+    input.RangeNum1 = m_rangeFromEdit->text();
+    input.RangeNum2 = m_rangeToEdit->text();
     return input;
 }
 
@@ -202,47 +208,51 @@ void AwardEditor::fill(const AwardRow &row) {
     if (!row.JPPhoto.trimmed().isEmpty()) {
         const QString path = appState().path(row.JPPhoto.trimmed());
         showPicture(path);
-        txtPhoto->setText(path);
+        m_picture = path;
     } else {
         showPicture(QString());
-        txtPhoto->setText(QStringLiteral("no"));
+        m_picture = QStringLiteral("no");
     }
-    txtJxName->setText(row.JXName);
-    txtJxNum->setText(QString::number(row.JXNum));
-    txtJxGroup->setText(QString::number(row.JXGroup));
-    txtJpName->setText(row.JPName);
-    chkIsReLuck->setChecked(row.isReLuck != 0);
-    ComboRange->setCurrentIndex(row.RangeType >= 0 && row.RangeType <= 4 ? row.RangeType : 0);
-    txtRangeNum1->setText(QString::number(row.RangeNum1));
-    txtRangeNum2->setText(QString::number(row.RangeNum2));
+    m_nameEdit->setText(row.JXName);
+    m_slotsEdit->setText(QString::number(row.JXNum));
+    m_batchesEdit->setText(QString::number(row.JXGroup));
+    m_prizeEdit->setText(row.JPName);
+    m_excludeWinnersCheck->setChecked(row.isReLuck != 0);
+    m_rangeCombo->setCurrentIndex(row.RangeType >= 0 && row.RangeType <= 4 ? row.RangeType : 0);
+    m_rangeFromEdit->setText(QString::number(row.RangeNum1));
+    m_rangeToEdit->setText(QString::number(row.RangeNum2));
 }
 
 void AwardEditor::clear() {
     showPicture(QString());
-    txtPhoto->setText(QStringLiteral("no"));
-    txtJxName->clear();
-    txtJpName->clear();
-    txtJxNum->setText(QStringLiteral("0"));
-    txtJxGroup->setText(QStringLiteral("0"));
+    m_picture = QStringLiteral("no");
+    m_nameEdit->clear();
+    m_prizeEdit->clear();
+    m_slotsEdit->setText(QStringLiteral("0"));
+    m_batchesEdit->setText(QStringLiteral("0"));
+}
+
+void AwardEditor::setExcludeWinners(bool exclude) {
+    m_excludeWinnersCheck->setChecked(exclude);
 }
 
 void AwardEditor::focusField(AwardField field) {
     QLineEdit *edit = nullptr;
     switch (field) {
         case AwardField::JxName:
-            edit = txtJxName;
+            edit = m_nameEdit;
             break;
         case AwardField::JxNum:
-            edit = txtJxNum;
+            edit = m_slotsEdit;
             break;
         case AwardField::JxGroup:
-            edit = txtJxGroup;
+            edit = m_batchesEdit;
             break;
         case AwardField::JpName:
-            edit = txtJpName;
+            edit = m_prizeEdit;
             break;
         case AwardField::RangeNum2:
-            edit = txtRangeNum2;
+            edit = m_rangeToEdit;
             break;
         case AwardField::None:
             return;
@@ -251,15 +261,15 @@ void AwardEditor::focusField(AwardField field) {
 }
 
 void AwardEditor::setPictureToolsEnabled(bool enabled) {
-    for (QPushButton *button : {cmdCamera, cmdFile, cmdRemove})
+    for (QPushButton *button : {m_cameraButton, m_fileButton, m_removeButton})
         button->setEnabled(enabled);
 }
 
 void AwardEditor::showRangeFields() {
-    const int type = ComboRange->currentIndex();
-    txtRangeNum1->setVisible(type >= 1);
-    Label7->setVisible(type == 4);
-    txtRangeNum2->setVisible(type == 4);
+    const int type = m_rangeCombo->currentIndex();
+    m_rangeFromEdit->setVisible(type >= 1);
+    m_rangeDash->setVisible(type == 4);
+    m_rangeToEdit->setVisible(type == 4);
 }
 
 void AwardEditor::chooseFile() {
@@ -267,12 +277,12 @@ void AwardEditor::chooseFile() {
         ui().openFile(QStringLiteral("添加奖品图片"), appState().appPath, dialogFilter(m_filter));
     if (file.trimmed().isEmpty()) return;
     showPicture(file);
-    txtPhoto->setText(file);
+    m_picture = file;
 }
 
 void AwardEditor::removePicture() {
     showPicture(QString());
-    txtPhoto->setText(QStringLiteral("no"));
+    m_picture = QStringLiteral("no");
 }
 
 void AwardEditor::takePhoto() {
@@ -282,6 +292,5 @@ void AwardEditor::takePhoto() {
     const QString file = shot(window());
     if (file.isEmpty()) return;
     showPicture(file);
-    txtPhoto->setText(file == appState().path(AwardBook::kCameraFile) ? QStringLiteral("camre")
-                                                                      : file);
+    m_picture = file == appState().path(AwardBook::kCameraFile) ? QStringLiteral("camre") : file;
 }

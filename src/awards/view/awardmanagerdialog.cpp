@@ -29,8 +29,9 @@ int idOf(const QTreeWidgetItem *item) {
                 : 0;
 }
 
-QPushButton *toolButton(const QString &caption, QWidget *parent) {
+QPushButton *toolButton(const QString &caption, const QString &name, QWidget *parent) {
     auto *button = new QPushButton(caption, parent);
+    button->setObjectName(name);
     button->setCursor(Qt::PointingHandCursor);
     return button;
 }
@@ -40,77 +41,84 @@ QPushButton *toolButton(const QString &caption, QWidget *parent) {
 AwardManagerDialog::AwardManagerDialog(QWidget *parent) : QDialog(parent) {
     setWindowTitle(QStringLiteral("奖项设置"));
     buildList();
-    frm2 = new QGroupBox(QStringLiteral("奖项编辑"), this);
-    editor = new AwardEditor(QStringLiteral("AwardManagerDialog"), kFilter, frm2);
-    cmdEdt = new QPushButton(QStringLiteral("保存编辑"), frm2);
-    cmdEdt->setProperty("role", "primary");
-    cmdEdt->setAutoDefault(false);
+    auto *editorBox = new QGroupBox(QStringLiteral("奖项编辑"), this);
+    m_editor = new AwardEditor(QStringLiteral("AwardManagerDialog"), kFilter, editorBox);
+    m_editor->setObjectName(QStringLiteral("awardEditor"));
+    m_saveButton = new QPushButton(QStringLiteral("保存编辑"), editorBox);
+    m_saveButton->setObjectName(QStringLiteral("saveEditButton"));
+    m_saveButton->setProperty("role", "primary");
+    m_saveButton->setAutoDefault(false);
     auto *save = new QHBoxLayout;
     save->addStretch();
-    save->addWidget(cmdEdt);
-    auto *frame = new QVBoxLayout(frm2);
+    save->addWidget(m_saveButton);
+    auto *frame = new QVBoxLayout(editorBox);
     frame->setContentsMargins(14, 14, 14, 12);
-    frame->addWidget(editor);
+    frame->addWidget(m_editor);
     frame->addLayout(save);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 14, 16, 16);
     layout->setSpacing(10);
     layout->addWidget(buildToolbar());
-    layout->addWidget(lstJX, 1);
-    layout->addWidget(frm2);
+    layout->addWidget(m_awardList, 1);
+    layout->addWidget(editorBox);
 
-    connect(cmdAddJx, &QPushButton::clicked, this, &AwardManagerDialog::addAward);
-    connect(cmdDelJx, &QPushButton::clicked, this, &AwardManagerDialog::deleteTicked);
-    connect(cmdDown, &QPushButton::clicked, this, [this] { moveSelected(1); });
-    connect(cmdUp, &QPushButton::clicked, this, [this] { moveSelected(-1); });
-    connect(cmdEdt, &QPushButton::clicked, this, &AwardManagerDialog::saveEdit);
-    connect(lstJX, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *item) {
+    connect(m_deleteButton, &QPushButton::clicked, this, &AwardManagerDialog::deleteTicked);
+    connect(m_moveDownButton, &QPushButton::clicked, this, [this] { moveSelected(1); });
+    connect(m_moveUpButton, &QPushButton::clicked, this, [this] { moveSelected(-1); });
+    connect(m_saveButton, &QPushButton::clicked, this, &AwardManagerDialog::saveEdit);
+    connect(m_awardList, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *item) {
         if (!m_filling) loadEditor(item);
     });
 
     resize(940, 680);
-    rdJXLst(QString());
+    showAwards();
     centerForm(this);
 }
 
 QWidget *AwardManagerDialog::buildToolbar() {
-    toolJX = new QWidget(this);
-    cmdAddJx = toolButton(QStringLiteral("＋ 增加奖项"), toolJX);
-    cmdAddJx->setProperty("role", "primary");
-    cmdDelJx = toolButton(QStringLiteral("✕ 删除奖项"), toolJX);
-    cmdDown = toolButton(QStringLiteral("↓ 向下移动"), toolJX);
-    cmdUp = toolButton(QStringLiteral("↑ 向上移动"), toolJX);
-    for (QPushButton *button : {cmdAddJx, cmdDelJx, cmdDown, cmdUp})
+    auto *toolbar = new QWidget(this);
+    auto *add =
+        toolButton(QStringLiteral("＋ 增加奖项"), QStringLiteral("addAwardButton"), toolbar);
+    add->setProperty("role", "primary");
+    connect(add, &QPushButton::clicked, this, &AwardManagerDialog::addAward);
+    m_deleteButton =
+        toolButton(QStringLiteral("✕ 删除奖项"), QStringLiteral("deleteAwardsButton"), toolbar);
+    m_moveDownButton =
+        toolButton(QStringLiteral("↓ 向下移动"), QStringLiteral("moveDownButton"), toolbar);
+    m_moveUpButton =
+        toolButton(QStringLiteral("↑ 向上移动"), QStringLiteral("moveUpButton"), toolbar);
+    for (QPushButton *button : {add, m_deleteButton, m_moveDownButton, m_moveUpButton})
         button->setAutoDefault(false);
-    auto *hint = new QLabel(QStringLiteral("勾选奖项后点“删除奖项”；抽奖按列表顺序进行"), toolJX);
+    auto *hint = new QLabel(QStringLiteral("勾选奖项后点“删除奖项”；抽奖按列表顺序进行"), toolbar);
     hint->setProperty("role", "hint");
-    auto *layout = new QHBoxLayout(toolJX);
+    auto *layout = new QHBoxLayout(toolbar);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(cmdAddJx);
-    layout->addWidget(cmdDelJx);
+    layout->addWidget(add);
+    layout->addWidget(m_deleteButton);
     layout->addSpacing(14);
-    layout->addWidget(cmdDown);
-    layout->addWidget(cmdUp);
+    layout->addWidget(m_moveDownButton);
+    layout->addWidget(m_moveUpButton);
     layout->addStretch();
     layout->addWidget(hint);
-    return toolJX;
+    return toolbar;
 }
 
 void AwardManagerDialog::buildList() {
-    lstJX = new QTreeWidget(this);
-    lstJX->setColumnCount(ColumnCount);
-    lstJX->setHeaderLabels({QString(), QStringLiteral("排序"), QStringLiteral("奖项名称"),
-                            QStringLiteral("名额"), QStringLiteral("批次"),
-                            QStringLiteral("奖品名称"), QStringLiteral("奖品图片"),
-                            QStringLiteral("重复中奖"), QStringLiteral("区分编号范围")});
-    lstJX->headerItem()->setToolTip(ColCheck, QStringLiteral("选择"));
-    lstJX->setRootIsDecorated(false);
-    lstJX->setUniformRowHeights(true);
-    lstJX->setAlternatingRowColors(true);
-    lstJX->setAllColumnsShowFocus(true);
-    lstJX->setSelectionMode(QAbstractItemView::SingleSelection);
-    lstJX->setStyleSheet(QStringLiteral(
+    m_awardList = new QTreeWidget(this);
+    m_awardList->setObjectName(QStringLiteral("awardList"));
+    m_awardList->setColumnCount(ColumnCount);
+    m_awardList->setHeaderLabels({QString(), QStringLiteral("排序"), QStringLiteral("奖项名称"),
+                                  QStringLiteral("名额"), QStringLiteral("批次"),
+                                  QStringLiteral("奖品名称"), QStringLiteral("奖品图片"),
+                                  QStringLiteral("重复中奖"), QStringLiteral("区分编号范围")});
+    m_awardList->headerItem()->setToolTip(ColCheck, QStringLiteral("选择"));
+    m_awardList->setRootIsDecorated(false);
+    m_awardList->setUniformRowHeights(true);
+    m_awardList->setAlternatingRowColors(true);
+    m_awardList->setAllColumnsShowFocus(true);
+    m_awardList->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_awardList->setStyleSheet(QStringLiteral(
         "QTreeWidget { background: white; alternate-background-color: rgb(255,247,247);"
         " border: 1px solid rgb(230,190,194); border-radius: 6px; }"
         "QTreeWidget::item { height: 30px; border: none; }"
@@ -120,61 +128,61 @@ void AwardManagerDialog::buildList() {
         " padding: 6px 6px; font-weight: bold; }"));
     const int widths[] = {40, 52, 150, 64, 64, 160, 150, 78, 0};
     for (int column = 0; column < ColRange; ++column)
-        lstJX->setColumnWidth(column, widths[column]);
-    lstJX->header()->setStretchLastSection(true);
-    lstJX->header()->setSectionsMovable(false);
+        m_awardList->setColumnWidth(column, widths[column]);
+    m_awardList->header()->setStretchLastSection(true);
+    m_awardList->header()->setSectionsMovable(false);
 }
 
 QTreeWidgetItem *AwardManagerDialog::addRow(const AwardRow &row) {
-    auto *item = new QTreeWidgetItem(lstJX);
+    auto *item = new QTreeWidgetItem(m_awardList);
     item->setData(ColCheck, Qt::UserRole, keyOf(row.ID));
     item->setCheckState(ColCheck, Qt::Unchecked);
     item->setText(ColOrder, QString::number(row.OrderNum));
     item->setText(ColName, row.JXName);
-    item->setText(ColNum, QString::number(row.JXNum));
-    item->setText(ColGroup, QString::number(row.JXGroup));
+    item->setText(ColSlots, QString::number(row.JXNum));
+    item->setText(ColBatches, QString::number(row.JXGroup));
     item->setText(ColPrize, row.JPName);
     item->setText(ColPhoto, row.JPPhoto);
-    item->setText(ColReLuck, awardtext::reLuck(row.isReLuck));
-    item->setForeground(ColReLuck, awardtext::reLuckColor(row.isReLuck));
+    item->setText(ColRepeatWins, awardtext::reLuck(row.isReLuck));
+    item->setForeground(ColRepeatWins, awardtext::reLuckColor(row.isReLuck));
     item->setText(ColRange, awardtext::range(row.RangeType, row.RangeNum1, row.RangeNum2));
     if (const QColor color = awardtext::rangeColor(row.RangeType); color.isValid())
         item->setForeground(ColRange, color);
-    for (int column : {ColOrder, ColNum, ColGroup, ColReLuck})
+    for (int column : {ColOrder, ColSlots, ColBatches, ColRepeatWins})
         item->setTextAlignment(column, Qt::AlignCenter);
     return item;
 }
 
-void AwardManagerDialog::rdJXLst(const QString &key) {
+void AwardManagerDialog::showAwards(int awardId) {
     m_filling = true;
-    lstJX->clear();
+    m_awardList->clear();
     QString error;
     const QList<AwardRow> rows = m_book.list(&error);
     if (!error.isEmpty()) ui().message(error, MsgStyle::Critical, titles::error);
     QTreeWidgetItem *chosen = nullptr;
     for (const AwardRow &row : rows) {
         QTreeWidgetItem *item = addRow(row);
-        if (!key.isEmpty() && keyOf(row.ID) == key) chosen = item;
+        if (awardId > 0 && row.ID == awardId) chosen = item;
     }
     if (rows.isEmpty()) {
         m_filling = false;
-        editor->clear();
+        m_editor->clear();
         setEditable(false);
         return;
     }
-    if (!chosen) chosen = lstJX->topLevelItem(lstJX->topLevelItemCount() - 1);
+    if (!chosen) chosen = m_awardList->topLevelItem(m_awardList->topLevelItemCount() - 1);
     setEditable(true);
-    lstJX->setCurrentItem(chosen);
-    lstJX->scrollToItem(chosen);
+    m_awardList->setCurrentItem(chosen);
+    m_awardList->scrollToItem(chosen);
     m_filling = false;
     loadEditor(chosen);
 }
 
 void AwardManagerDialog::setEditable(bool editable) {
-    editor->setEnabled(editable);
-    editor->setPictureToolsEnabled(editable);
-    cmdEdt->setEnabled(editable);
-    for (QPushButton *button : {cmdDelJx, cmdDown, cmdUp})
+    m_editor->setEnabled(editable);
+    m_editor->setPictureToolsEnabled(editable);
+    m_saveButton->setEnabled(editable);
+    for (QPushButton *button : {m_deleteButton, m_moveDownButton, m_moveUpButton})
         button->setEnabled(editable);
 }
 
@@ -185,36 +193,21 @@ void AwardManagerDialog::loadEditor(QTreeWidgetItem *item) {
         ui().message(QStringLiteral("找不到对应的名单"), MsgStyle::Critical, titles::error);
         return;
     }
-    editor->fill(*row);
+    m_editor->fill(*row);
 }
 
 int AwardManagerDialog::selectedId() const {
-    return idOf(lstJX->currentItem());
-}
-
-QTreeWidgetItem *AwardManagerDialog::itemOf(int id) const {
-    for (int i = 0; i < lstJX->topLevelItemCount(); ++i)
-        if (idOf(lstJX->topLevelItem(i)) == id) return lstJX->topLevelItem(i);
-    return nullptr;
-}
-
-void AwardManagerDialog::selectAward(int id) {
-    if (QTreeWidgetItem *item = itemOf(id)) lstJX->setCurrentItem(item);
-}
-
-void AwardManagerDialog::setTicked(int id, bool ticked) {
-    if (QTreeWidgetItem *item = itemOf(id))
-        item->setCheckState(ColCheck, ticked ? Qt::Checked : Qt::Unchecked);
+    return idOf(m_awardList->currentItem());
 }
 
 void AwardManagerDialog::saveEdit() {
     const int id = selectedId();
     if (id <= 0) return;
-    const AwardInput input = editor->input();
+    const AwardInput input = m_editor->input();
     const AwardFault fault = AwardBook::validate(input);
     if (fault.failed()) {
         ui().message(fault.message, MsgStyle::Information, titles::notice);
-        editor->focusField(fault.field);
+        m_editor->focusField(fault.field);
         return;
     }
     if (m_book.hasWinners(id) &&
@@ -227,16 +220,16 @@ void AwardManagerDialog::saveEdit() {
         ui().message(error, MsgStyle::Critical, titles::error);
         return;
     }
-    rdJXLst(keyOf(id));
+    showAwards(id);
     Q_EMIT events().awardsChanged();
     ui().message(QStringLiteral("奖项数据更新成功！"), MsgStyle::Information, titles::notice);
 }
 
 void AwardManagerDialog::deleteTicked() {
     QList<int> ids;
-    for (int i = 0; i < lstJX->topLevelItemCount(); ++i)
-        if (lstJX->topLevelItem(i)->checkState(ColCheck) == Qt::Checked)
-            ids << idOf(lstJX->topLevelItem(i));
+    for (int i = 0; i < m_awardList->topLevelItemCount(); ++i)
+        if (m_awardList->topLevelItem(i)->checkState(ColCheck) == Qt::Checked)
+            ids << idOf(m_awardList->topLevelItem(i));
     if (ids.isEmpty()) {
         ui().message(QStringLiteral("请选择需要删除的奖项!"), MsgStyle::Critical,
                      QStringLiteral("删除失败"));
@@ -247,7 +240,7 @@ void AwardManagerDialog::deleteTicked() {
         return;
     QString error;
     if (!m_book.remove(ids, &error)) ui().message(error, MsgStyle::Critical, titles::error);
-    rdJXLst(QString());
+    showAwards();
     Q_EMIT events().awardsChanged();
 }
 
@@ -255,13 +248,13 @@ void AwardManagerDialog::moveSelected(int step) {
     const int id = selectedId();
     if (id <= 0) return;
     if (m_book.move(id, step)) Q_EMIT events().awardsChanged();
-    rdJXLst(keyOf(id));
+    showAwards(id);
 }
 
 void AwardManagerDialog::addAward() {
     AddAwardDialog dialog(this);
     if (dialog.exec() != QDialog::Accepted) return;
-    rdJXLst(QString());
+    showAwards();
     Q_EMIT events().awardsChanged();
 }
 

@@ -5,7 +5,6 @@
 #include "awards/awardbook.h"
 
 class AwardEditor;
-class QGroupBox;
 class QPushButton;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -23,37 +22,14 @@ public:
         ColCheck,
         ColOrder,
         ColName,
-        ColNum,
-        ColGroup,
+        ColSlots,
+        ColBatches,
         ColPrize,
         ColPhoto,
-        ColReLuck,
+        ColRepeatWins,
         ColRange,
         ColumnCount
     };
-
-    QWidget *toolJX = nullptr;
-    QPushButton *cmdAddJx = nullptr;
-    QPushButton *cmdDelJx = nullptr;
-    QPushButton *cmdDown = nullptr;
-    QPushButton *cmdUp = nullptr;
-    QTreeWidget *lstJX = nullptr;
-    QGroupBox *frm2 = nullptr;
-    AwardEditor *editor = nullptr;
-    QPushButton *cmdEdt = nullptr;
-
-    // Reloads the list and selects the row keyed key ("K<ID>"); the last row when no row matches.
-    void rdJXLst(const QString &key);
-    // The ID of the selected award, 0 when none.
-    int selectedId() const;
-    // Selects the award's row, which loads it into the editor.
-    void selectAward(int id);
-    void setTicked(int id, bool ticked);
-
-    void saveEdit();
-    void deleteTicked();
-    void moveSelected(int step);
-    void addAward();
 
 protected:
     void done(int result) override;
@@ -62,10 +38,23 @@ private:
     QWidget *buildToolbar();
     void buildList();
     QTreeWidgetItem *addRow(const AwardRow &row);
+    // Reloads the list and selects the award awardId; the last row when no row has that ID.
+    void showAwards(int awardId = 0);
     void loadEditor(QTreeWidgetItem *item);
     void setEditable(bool editable);
-    QTreeWidgetItem *itemOf(int id) const;
+    // The ID of the selected award, 0 when none.
+    int selectedId() const;
+    void saveEdit();
+    void deleteTicked();
+    void moveSelected(int step);
+    void addAward();
 
     AwardBook m_book;
     bool m_filling = false;
+    QPushButton *m_deleteButton = nullptr;
+    QPushButton *m_moveDownButton = nullptr;
+    QPushButton *m_moveUpButton = nullptr;
+    QTreeWidget *m_awardList = nullptr;
+    AwardEditor *m_editor = nullptr;
+    QPushButton *m_saveButton = nullptr;
 };

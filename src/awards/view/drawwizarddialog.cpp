@@ -21,6 +21,9 @@
 
 namespace {
 
+// The number the mask page demonstrates on.
+const QString kSample = QStringLiteral("13800138000");
+
 QLineEdit *smallBox(QWidget *parent, int maxLength, bool digitsOnly) {
     auto *edit = new QLineEdit(parent);
     edit->setMaxLength(maxLength);
@@ -35,33 +38,37 @@ QLineEdit *smallBox(QWidget *parent, int maxLength, bool digitsOnly) {
 
 }  // namespace
 
-DrawWizardDialog::DrawWizardDialog(QWidget *parent) : QDialog(parent) {
+DrawWizardDialog::DrawWizardDialog(Purpose purpose, QWidget *parent)
+    : QDialog(parent), m_purpose(purpose) {
     setWindowTitle(QStringLiteral("抽奖向导"));
-    sTab = new QTabWidget(this);
-    sTab->addTab(buildModePage(), QStringLiteral("抽奖方式"));
-    sTab->addTab(buildMaskPage(), QStringLiteral("名单屏蔽"));
-    chkMsg = new QCheckBox(QStringLiteral("记住我的选择,下次启动抽奖时不再提示"), this);
-    cmdOk = new QPushButton(QStringLiteral("确定"), this);
-    cmdOk->setDefault(true);
-    cmdEsc = new QPushButton(QStringLiteral("退出"), this);
+    m_tabs = new QTabWidget(this);
+    m_tabs->setObjectName(QStringLiteral("tabs"));
+    m_tabs->addTab(buildModePage(), QStringLiteral("抽奖方式"));
+    m_tabs->addTab(buildMaskPage(), QStringLiteral("名单屏蔽"));
+    m_rememberCheck = new QCheckBox(QStringLiteral("记住我的选择,下次启动抽奖时不再提示"), this);
+    m_rememberCheck->setObjectName(QStringLiteral("rememberCheck"));
+    auto *ok = new QPushButton(QStringLiteral("确定"), this);
+    ok->setObjectName(QStringLiteral("okButton"));
+    ok->setDefault(true);
+    auto *cancel = new QPushButton(QStringLiteral("退出"), this);
     auto *buttons = new QHBoxLayout;
-    buttons->addWidget(chkMsg);
+    buttons->addWidget(m_rememberCheck);
     buttons->addStretch();
-    buttons->addWidget(cmdOk);
-    buttons->addWidget(cmdEsc);
+    buttons->addWidget(ok);
+    buttons->addWidget(cancel);
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(sTab);
+    layout->addWidget(m_tabs);
     layout->addLayout(buttons);
 
     loadSettings();
-    connect(chkIsHideName, &QCheckBox::toggled, this, &DrawWizardDialog::runDemo);
-    for (QLineEdit *edit : {txtLeft, txtRight, txtReStr})
+    connect(m_maskCheck, &QCheckBox::toggled, this, &DrawWizardDialog::showMaskedSample);
+    for (QLineEdit *edit : {m_keepLeftEdit, m_keepRightEdit, m_replacementEdit})
         connect(edit, &QLineEdit::textChanged, this, [this, edit] {
-            if (edit != txtReStr && edit->text().isEmpty()) return;
-            runDemo();
+            if (edit != m_replacementEdit && edit->text().isEmpty()) return;
+            showMaskedSample();
         });
-    connect(cmdOk, &QPushButton::clicked, this, &DrawWizardDialog::onOk);
-    connect(cmdEsc, &QPushButton::clicked, this, &QDialog::reject);
+    connect(ok, &QPushButton::clicked, this, &DrawWizardDialog::saveSettings);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     setMinimumWidth(460);
     adjustSize();
     centerForm(this);
@@ -69,17 +76,19 @@ DrawWizardDialog::DrawWizardDialog(QWidget *parent) : QDialog(parent) {
 
 QWidget *DrawWizardDialog::buildModePage() {
     auto *page = new QWidget(this);
-    Opt0 = new QRadioButton(QStringLiteral("文字或数字抽奖"), page);
-    Opt1 = new QRadioButton(QStringLiteral("纯图片抽奖"), page);
-    Opt2 = new QRadioButton(QStringLiteral("图片加文字抽奖"), page);
-    sldSpeed = new QSlider(Qt::Horizontal, page);
-    sldSpeed->setRange(0, 20);
+    m_textMode = new QRadioButton(QStringLiteral("文字或数字抽奖"), page);
+    m_pictureMode = new QRadioButton(QStringLiteral("纯图片抽奖"), page);
+    m_pictureAndTextMode = new QRadioButton(QStringLiteral("图片加文字抽奖"), page);
+    m_pictureAndTextMode->setObjectName(QStringLiteral("pictureAndTextMode"));
+    m_speedSlider = new QSlider(Qt::Horizontal, page);
+    m_speedSlider->setObjectName(QStringLiteral("speedSlider"));
+    m_speedSlider->setRange(0, 20);
     auto *modes = new QHBoxLayout;
-    for (QRadioButton *option : {Opt0, Opt1, Opt2})
+    for (QRadioButton *option : {m_textMode, m_pictureMode, m_pictureAndTextMode})
         modes->addWidget(option);
     auto *speed = new QHBoxLayout;
     speed->addWidget(new QLabel(QStringLiteral("慢"), page));
-    speed->addWidget(sldSpeed, 1);
+    speed->addWidget(m_speedSlider, 1);
     speed->addWidget(new QLabel(QStringLiteral("快"), page));
     auto *layout = new QVBoxLayout(page);
     auto *modeTitle = new QLabel(QStringLiteral("抽奖时滚动显示的内容"), page);
@@ -97,29 +106,33 @@ QWidget *DrawWizardDialog::buildModePage() {
 
 QWidget *DrawWizardDialog::buildMaskPage() {
     auto *page = new QWidget(this);
-    chkIsHideName = new QCheckBox(QStringLiteral("抽奖时对\"文字信息\"进行字段屏蔽"), page);
-    txtLeft = smallBox(page, 2, true);
-    txtRight = smallBox(page, 2, true);
-    txtReStr = smallBox(page, 1, false);
-    labSS = new QLabel(QStringLiteral("13800138000"), page);
-    labDemo = new QLabel(page);
-    labDemo->setProperty("role", "heading");
-    labDemo->setStyleSheet(QStringLiteral("font-size: 22px; letter-spacing: 2px;"));
+    m_maskCheck = new QCheckBox(QStringLiteral("抽奖时对\"文字信息\"进行字段屏蔽"), page);
+    m_maskCheck->setObjectName(QStringLiteral("maskCheck"));
+    m_keepLeftEdit = smallBox(page, 2, true);
+    m_keepLeftEdit->setObjectName(QStringLiteral("keepLeftEdit"));
+    m_keepRightEdit = smallBox(page, 2, true);
+    m_keepRightEdit->setObjectName(QStringLiteral("keepRightEdit"));
+    m_replacementEdit = smallBox(page, 1, false);
+    m_replacementEdit->setObjectName(QStringLiteral("replacementEdit"));
+    m_maskedSampleLabel = new QLabel(page);
+    m_maskedSampleLabel->setObjectName(QStringLiteral("maskedSampleLabel"));
+    m_maskedSampleLabel->setProperty("role", "heading");
+    m_maskedSampleLabel->setStyleSheet(QStringLiteral("font-size: 22px; letter-spacing: 2px;"));
     auto *grid = new QGridLayout;
     grid->addWidget(new QLabel(QStringLiteral("左侧保留："), page), 0, 0);
-    grid->addWidget(txtLeft, 0, 1);
+    grid->addWidget(m_keepLeftEdit, 0, 1);
     grid->addWidget(new QLabel(QStringLiteral("位"), page), 0, 2);
     grid->addWidget(new QLabel(QStringLiteral("右侧保留："), page), 0, 3);
-    grid->addWidget(txtRight, 0, 4);
+    grid->addWidget(m_keepRightEdit, 0, 4);
     grid->addWidget(new QLabel(QStringLiteral("位"), page), 0, 5);
     grid->addWidget(new QLabel(QStringLiteral("替换字符："), page), 1, 0);
-    grid->addWidget(txtReStr, 1, 1);
+    grid->addWidget(m_replacementEdit, 1, 1);
     grid->addWidget(new QLabel(QStringLiteral("演示原文∶"), page), 2, 0);
-    grid->addWidget(labSS, 2, 1, 1, 4);
-    grid->addWidget(labDemo, 3, 0, 1, 6);
+    grid->addWidget(new QLabel(kSample, page), 2, 1, 1, 4);
+    grid->addWidget(m_maskedSampleLabel, 3, 0, 1, 6);
     grid->setColumnStretch(6, 1);
     auto *layout = new QVBoxLayout(page);
-    layout->addWidget(chkIsHideName);
+    layout->addWidget(m_maskCheck);
     layout->addLayout(grid);
     layout->addStretch();
     return page;
@@ -127,47 +140,43 @@ QWidget *DrawWizardDialog::buildMaskPage() {
 
 void DrawWizardDialog::loadSettings() {
     const AppState &state = appState();
-    Opt0->setChecked(state.luckType == 0);
-    Opt1->setChecked(state.luckType == 1);
-    Opt2->setChecked(state.luckType == 2);
-    sTab->setCurrentIndex(0);
-    chkMsg->setChecked(state.guideHide == 1);
-    chkIsHideName->setChecked(state.isHideName == 1);
-    txtLeft->setText(QString::number(state.hideLeft));
-    txtRight->setText(QString::number(state.hideRight));
-    txtReStr->setText(state.hideReStr);
-    sldSpeed->setValue(20 - state.luckDelay);
-    runDemo();
+    m_textMode->setChecked(state.luckType == 0);
+    m_pictureMode->setChecked(state.luckType == 1);
+    m_pictureAndTextMode->setChecked(state.luckType == 2);
+    m_tabs->setCurrentIndex(0);
+    m_rememberCheck->setChecked(state.guideHide == 1);
+    m_maskCheck->setChecked(state.isHideName == 1);
+    m_keepLeftEdit->setText(QString::number(state.hideLeft));
+    m_keepRightEdit->setText(QString::number(state.hideRight));
+    m_replacementEdit->setText(state.hideReStr);
+    m_speedSlider->setValue(20 - state.luckDelay);
+    showMaskedSample();
 }
 
-void DrawWizardDialog::runDemo() {
-    const bool masking = chkIsHideName->isChecked();
-    for (QLineEdit *edit : {txtLeft, txtRight, txtReStr})
+void DrawWizardDialog::showMaskedSample() {
+    const bool masking = m_maskCheck->isChecked();
+    for (QLineEdit *edit : {m_keepLeftEdit, m_keepRightEdit, m_replacementEdit})
         edit->setEnabled(masking);
-    labDemo->setText(masking ? hideName(labSS->text(), txtLeft->text().toInt(),
-                                        txtRight->text().toInt(), txtReStr->text())
-                             : labSS->text());
+    m_maskedSampleLabel->setText(masking ? hideName(kSample, m_keepLeftEdit->text().toInt(),
+                                                    m_keepRightEdit->text().toInt(),
+                                                    m_replacementEdit->text())
+                                         : kSample);
 }
 
-void DrawWizardDialog::onOk() {
-    if (txtLeft->text().isEmpty()) txtLeft->setText(QStringLiteral("0"));
-    if (txtRight->text().isEmpty()) txtRight->setText(QStringLiteral("0"));
-    if (txtReStr->text().trimmed().isEmpty()) txtReStr->setText(QStringLiteral("*"));
-    const int type = Opt1->isChecked() ? 1 : Opt2->isChecked() ? 2 : 0;
+void DrawWizardDialog::saveSettings() {
+    if (m_keepLeftEdit->text().isEmpty()) m_keepLeftEdit->setText(QStringLiteral("0"));
+    if (m_keepRightEdit->text().isEmpty()) m_keepRightEdit->setText(QStringLiteral("0"));
+    if (m_replacementEdit->text().trimmed().isEmpty())
+        m_replacementEdit->setText(QStringLiteral("*"));
+    const int type = m_pictureMode->isChecked() ? 1 : m_pictureAndTextMode->isChecked() ? 2 : 0;
     settings::write(QStringLiteral("luckType"), type);
-    settings::write(QStringLiteral("guideHide"), chkMsg->isChecked() ? 1 : 0);
-    settings::write(QStringLiteral("isHideName"), chkIsHideName->isChecked() ? 1 : 0);
-    settings::write(QStringLiteral("hideLeft"), txtLeft->text().toInt());
-    settings::write(QStringLiteral("hideRight"), txtRight->text().toInt());
-    settings::write(QStringLiteral("hideReStr"), txtReStr->text());
-    settings::write(QStringLiteral("luckDelay"), 20 - sldSpeed->value());
-    const QString purpose = appState().guideFor;
-    if (purpose == QLatin1String("guidebtn")) {
+    settings::write(QStringLiteral("guideHide"), m_rememberCheck->isChecked() ? 1 : 0);
+    settings::write(QStringLiteral("isHideName"), m_maskCheck->isChecked() ? 1 : 0);
+    settings::write(QStringLiteral("hideLeft"), m_keepLeftEdit->text().toInt());
+    settings::write(QStringLiteral("hideRight"), m_keepRightEdit->text().toInt());
+    settings::write(QStringLiteral("hideReStr"), m_replacementEdit->text());
+    settings::write(QStringLiteral("luckDelay"), 20 - m_speedSlider->value());
+    if (m_purpose == Purpose::EditSettings)
         ui().message(QStringLiteral("参数保存成功!"), MsgStyle::Information, titles::notice);
-        accept();
-    } else if (purpose == QLatin1String("startbtn")) {
-        accept();
-    } else {
-        ui().message(QStringLiteral("变量传递失败"), MsgStyle::Exclamation, titles::warning);
-    }
+    accept();
 }

@@ -5,38 +5,41 @@
 class QCheckBox;
 class QLabel;
 class QLineEdit;
-class QPushButton;
 class QRadioButton;
 class QSlider;
 class QTabWidget;
 
 // The draw wizard: what scrolls on the stage, how fast, and whether names are masked. Opened as
-// settings ("guidebtn") or on the way into the draw ("startbtn"); in the second case an accepted
-// wizard means "open the draw screen now".
+// settings or on the way into the draw; in the second case an accepted wizard means "open the
+// draw screen now".
 class DrawWizardDialog : public QDialog {
     Q_OBJECT
 public:
-    explicit DrawWizardDialog(QWidget *parent = nullptr);
+    enum class Purpose {
+        EditSettings,  // from the console's tool strip: saving confirms with a message
+        StartDraw,     // before the draw screen: saving goes straight on to the draw
+    };
+    Q_ENUM(Purpose)
 
-    QTabWidget *sTab = nullptr;
-    QRadioButton *Opt0 = nullptr;
-    QRadioButton *Opt1 = nullptr;
-    QRadioButton *Opt2 = nullptr;
-    QSlider *sldSpeed = nullptr;
-    QCheckBox *chkMsg = nullptr;
-    QCheckBox *chkIsHideName = nullptr;
-    QLineEdit *txtLeft = nullptr;
-    QLineEdit *txtRight = nullptr;
-    QLineEdit *txtReStr = nullptr;
-    QLabel *labSS = nullptr;
-    QLabel *labDemo = nullptr;
-    QPushButton *cmdOk = nullptr;
-    QPushButton *cmdEsc = nullptr;
+    explicit DrawWizardDialog(Purpose purpose, QWidget *parent = nullptr);
 
 private:
     QWidget *buildModePage();
     QWidget *buildMaskPage();
     void loadSettings();
-    void runDemo();
-    void onOk();
+    void showMaskedSample();
+    void saveSettings();
+
+    Purpose m_purpose;
+    QTabWidget *m_tabs = nullptr;
+    QRadioButton *m_textMode = nullptr;
+    QRadioButton *m_pictureMode = nullptr;
+    QRadioButton *m_pictureAndTextMode = nullptr;
+    QSlider *m_speedSlider = nullptr;
+    QCheckBox *m_rememberCheck = nullptr;
+    QCheckBox *m_maskCheck = nullptr;
+    QLineEdit *m_keepLeftEdit = nullptr;
+    QLineEdit *m_keepRightEdit = nullptr;
+    QLineEdit *m_replacementEdit = nullptr;
+    QLabel *m_maskedSampleLabel = nullptr;
 };
