@@ -380,8 +380,8 @@ void TestAwardScreens::chooseAndRemovePicture() {
 
 void TestAwardScreens::cameraPhoto() {
     QString caller;
-    awardcamera::setShot([this, &caller](QWidget *) {
-        caller = appState().cameraCaller;
+    awardcamera::setShot([this, &caller](QWidget *, const QString &askedBy) {
+        caller = askedBy;
         QDir().mkpath(m_folder->path(QStringLiteral("Photos")));
         QFile file(m_folder->path(AwardBook::kCameraFile));
         return file.open(QIODevice::WriteOnly) ? file.fileName() : QString();

@@ -384,11 +384,11 @@ void TestConsole::consoleImportEndsInTheRosterManager() {
     bool generated = false;
     whenDialogOpens<NumberGeneratorDialog>(
         [this](NumberGeneratorDialog &form) {
-            form.txtEnd->setText(QStringLiteral("20"));
+            form.findChild<QLineEdit *>(QStringLiteral("endEdit"))->setText(QStringLiteral("20"));
             m_ui->answers.enqueue(true);
-            form.cmdStartClicked();
+            form.findChild<QPushButton *>(QStringLiteral("startButton"))->click();
             form.waitForJob();
-            form.cmdOk->click();
+            form.findChild<QPushButton *>(QStringLiteral("okButton"))->click();
         },
         &generated);
     bool managerShown = false;

@@ -14,7 +14,7 @@
 #include <QTreeWidget>
 #include <QtTest>
 
-#include "core/appstate.h"
+#include "childwidget.h"
 #include "core/store.h"
 #include "roster/view/excelimportdialog.h"
 #include "roster/view/numbergeneratordialog.h"
@@ -40,6 +40,28 @@ QStringList roster(QSqlDatabase db) {
     return rows;
 }
 
+QPushButton *button(const QWidget &form, const char *name) {
+    return child<QPushButton>(form, name);
+}
+
+QLineEdit *edit(const QWidget &form, const char *name) {
+    return child<QLineEdit>(form, name);
+}
+
+QString labelText(const QWidget &form, const char *name) {
+    return child<QLabel>(form, name)->text();
+}
+
+QString logText(const QWidget &form, const char *name) {
+    return child<QPlainTextEdit>(form, name)->toPlainText();
+}
+
+// Types into a box as the operator does, so that the box reports each edit.
+void typeInto(QLineEdit *box, const QString &text) {
+    box->clear();
+    QTest::keyClicks(box, text);
+}
+
 // Sends the dialog a close request, as the window's close button does.
 bool tryClose(QDialog &dialog) {
     QCloseEvent event;
@@ -59,7 +81,7 @@ private Q_SLOTS:
     void unreadableFilesEndInError_data();
     void unreadableFilesEndInError();
     void excelTemplateOpensDemo();
-    void txtImportShowsResult();
+    void textImportShowsResult();
     void closeDuringImportAsks_data();
     void closeDuringImportAsks();
     void photoDialogFlow();
@@ -81,35 +103,38 @@ void TestImportDialogs::excelPreviewAndImport() {
     QVERIFY(folder.start());
     folder.addUsers({"旧人"});
     ScriptedUi *scripted = installScriptedUi();
-    appState().excelFile = fixture(file);
-    ExcelImportDialog form;
-    QCOMPARE(form.lstTable->count(), 2);
-    QCOMPARE(form.lstTable->item(1)->text(), QStringLiteral("Sheet 2"));
-    QCOMPARE(form.lstTitle->topLevelItemCount(), 7);
-    QCOMPARE(form.lstTitle->topLevelItem(0)->text(1), QStringLiteral("F1"));
-    QVERIFY(!form.cmdStart->isEnabled());
-    form.lstTitle->topLevelItem(1)->setCheckState(0, Qt::Checked);
-    QVERIFY(form.cmdStart->isEnabled());
-    QCOMPARE(form.lstUser->topLevelItemCount(), 4);
-    QCOMPARE(form.lstUser->topLevelItem(0)->text(1), QStringLiteral("姓名 "));
-    form.chkIsTitleLine->setChecked(true);
-    QCOMPARE(form.lstUser->topLevelItem(0)->text(1), QStringLiteral("张三 "));
-    QVERIFY(form.lstUser->topLevelItem(0)->text(2).startsWith(
+    ExcelImportDialog form(fixture(file));
+    auto *sheets = child<QListWidget>(form, "sheetList");
+    auto *columns = child<QTreeWidget>(form, "columnList");
+    auto *preview = child<QTreeWidget>(form, "previewList");
+    QPushButton *start = button(form, "startButton");
+    QCOMPARE(sheets->count(), 2);
+    QCOMPARE(sheets->item(1)->text(), QStringLiteral("Sheet 2"));
+    QCOMPARE(columns->topLevelItemCount(), 7);
+    QCOMPARE(columns->topLevelItem(0)->text(1), QStringLiteral("F1"));
+    QVERIFY(!start->isEnabled());
+    columns->topLevelItem(1)->setCheckState(0, Qt::Checked);
+    QVERIFY(start->isEnabled());
+    QCOMPARE(preview->topLevelItemCount(), 4);
+    QCOMPARE(preview->topLevelItem(0)->text(1), QStringLiteral("姓名 "));
+    child<QCheckBox>(form, "headerRowBox")->setChecked(true);
+    QCOMPARE(preview->topLevelItem(0)->text(1), QStringLiteral("张三 "));
+    QVERIFY(preview->topLevelItem(0)->text(2).startsWith(
         QStringLiteral("10001 研发部 13800138000 2023-05-08 12.5 ")));
-    QCOMPARE(form.lstUser->topLevelItem(3)->text(1), QStringLiteral("以下省略更多内容..."));
+    QCOMPARE(preview->topLevelItem(3)->text(1), QStringLiteral("以下省略更多内容..."));
 
-    form.lstTable->setCurrentRow(1);
-    QCOMPARE(form.lstTitle->topLevelItemCount(), 2);
-    form.lstTitle->topLevelItem(0)->setCheckState(0, Qt::Checked);
-    form.cmdStartClicked();
+    sheets->setCurrentRow(1);
+    QCOMPARE(columns->topLevelItemCount(), 2);
+    columns->topLevelItem(0)->setCheckState(0, Qt::Checked);
+    start->click();
     QVERIFY(form.isImporting());
-    QVERIFY(!form.lstTable->isEnabled());
+    QVERIFY(!sheets->isEnabled());
     form.waitForJob();
-    QCOMPARE(form.labMsg->text(), QStringLiteral("共导入数据2条，屏蔽重复数据1条"));
-    QCOMPARE(form.Frame2->title(), QStringLiteral("重复数据"));
-    QCOMPARE(form.txtSame->toPlainText(), QStringLiteral("重复数据：陈七"));
-    QVERIFY(!form.cmdOK->isHidden());
-    QVERIFY(form.cmdStart->isHidden());
+    QCOMPARE(labelText(form, "resultLabel"), QStringLiteral("共导入数据2条，屏蔽重复数据1条"));
+    QCOMPARE(child<QGroupBox>(form, "previewBox")->title(), QStringLiteral("重复数据"));
+    QCOMPARE(logText(form, "duplicatesEdit"), QStringLiteral("重复数据：陈七"));
+    QVERIFY(!button(form, "okButton")->isHidden());
+    QVERIFY(start->isHidden());
     QCOMPARE(roster(folder.db()), (QStringList{"1|陈七|行政部|0", "2|周八|客服部|0"}));
     QCOMPARE(scripted->records.size(), 0);
 }
@@ -118,13 +143,12 @@ void TestImportDialogs::excelWarnsAboutWideSheets() {
     TempProgramFolder folder;
     QVERIFY(folder.start());
     ScriptedUi *scripted = installScriptedUi();
-    appState().excelFile = fixture(QStringLiteral("wide.xlsx"));
-    ExcelImportDialog form;
+    ExcelImportDialog form(fixture(QStringLiteral("wide.xlsx")));
     QCOMPARE(scripted->last().text,
              QStringLiteral("Excel中存在过多的列，这样会导致导入速度十分缓慢\n"
                             "建议您修改Excel文件删除无用列再进行导入！"));
     QCOMPARE(scripted->last().title, QStringLiteral("警告"));
-    QCOMPARE(form.lstTitle->topLevelItemCount(), 12);
+    QCOMPARE(child<QTreeWidget>(form, "columnList")->topLevelItemCount(), 12);
 }
 
 void TestImportDialogs::unreadableFilesEndInError_data() {
@@ -144,16 +168,14 @@ void TestImportDialogs::unreadableFilesEndInError() {
     const QStringList before = roster(folder.db());
     ScriptedUi *scripted = installScriptedUi();
     if (excel) {
-        appState().excelFile = fixture(file);
-        ExcelImportDialog form;
-        QVERIFY(!form.lstTable->isEnabled());
-        QVERIFY(!form.cmdStart->isEnabled());
+        ExcelImportDialog form(fixture(file));
+        QVERIFY(!child<QListWidget>(form, "sheetList")->isEnabled());
+        QVERIFY(!button(form, "startButton")->isEnabled());
     } else {
-        appState().txtFile = fixture(file);
-        TextImportDialog form;
-        form.cmdStartClicked();
+        TextImportDialog form(fixture(file));
+        button(form, "startButton")->click();
         QVERIFY(!form.isImporting());
-        QVERIFY(form.cmdStart->isEnabled());
+        QVERIFY(button(form, "startButton")->isEnabled());
     }
     QCOMPARE(scripted->records.size(), 1);
     QCOMPARE(scripted->last().title, QStringLiteral("错误"));
@@ -166,28 +188,26 @@ void TestImportDialogs::excelTemplateOpensDemo() {
     TempProgramFolder folder;
     QVERIFY(folder.start());
     ScriptedUi *scripted = installScriptedUi();
-    appState().excelFile = folder.path("demo.xlsx");
-    ExcelImportDialog form;
-    QCOMPARE(form.lstTable->item(0)->text(), QStringLiteral("抽奖名单"));
-    form.cmdMB->click();
+    ExcelImportDialog form(folder.path("demo.xlsx"));
+    QCOMPARE(child<QListWidget>(form, "sheetList")->item(0)->text(), QStringLiteral("抽奖名单"));
+    button(form, "templateButton")->click();
     QCOMPARE(scripted->openedUrls.size(), 1);
     QCOMPARE(scripted->openedUrls.first().toLocalFile(), folder.path("demo.xlsx"));
 }
 
-void TestImportDialogs::txtImportShowsResult() {
+void TestImportDialogs::textImportShowsResult() {
     TempProgramFolder folder;
     QVERIFY(folder.start());
     folder.addUsers({"旧人"});
     installScriptedUi();
-    appState().txtFile = fixture(QStringLiteral("utf16le-crlf.txt"));
-    TextImportDialog form;
-    QCOMPARE(form.txtJG->text(), QStringLiteral(","));
-    QVERIFY(form.opt2->isChecked());
-    form.opt1->setChecked(true);
-    form.cmdStartClicked();
+    TextImportDialog form(fixture(QStringLiteral("utf16le-crlf.txt")));
+    QCOMPARE(edit(form, "separatorEdit")->text(), QStringLiteral(","));
+    QVERIFY(child<QRadioButton>(form, "replaceButton")->isChecked());
+    child<QRadioButton>(form, "appendButton")->setChecked(true);
+    button(form, "startButton")->click();
     form.waitForJob();
-    QCOMPARE(form.labMsg->text(), QStringLiteral("共导入数据4条，屏蔽重复数据1条"));
-    QCOMPARE(form.txtSame->toPlainText(), QStringLiteral("重复数据：张三,研发部"));
+    QCOMPARE(labelText(form, "resultLabel"), QStringLiteral("共导入数据4条，屏蔽重复数据1条"));
+    QCOMPARE(logText(form, "duplicatesEdit"), QStringLiteral("重复数据：张三,研发部"));
     QCOMPARE(roster(folder.db()).size(), 5);
     QCOMPARE(roster(folder.db()).first(), QStringLiteral("1|旧人||0"));
 }
@@ -206,11 +226,11 @@ void TestImportDialogs::closeDuringImportAsks() {
     const QStringList before = roster(folder.db());
     ScriptedUi *scripted = installScriptedUi();
     NumberGeneratorDialog form;
-    form.txtEnd->setText(QStringLiteral("99999"));
+    edit(form, "endEdit")->setText(QStringLiteral("99999"));
     scripted->answers.enqueue(true);
-    form.cmdStartClicked();
+    button(form, "startButton")->click();
     QVERIFY(form.isImporting());
-    QTRY_VERIFY(form.pBar->value() > 0);
+    QTRY_VERIFY(child<QProgressBar>(form, "progressBar")->value() > 0);
     scripted->answers.enqueue(yes);
     QCOMPARE(tryClose(form), yes);
     QCOMPARE(scripted->last().text, QStringLiteral("编号正在生成当中...，确认要退出么？"));
@@ -221,7 +241,7 @@ void TestImportDialogs::closeDuringImportAsks() {
         return;
     }
     form.waitForJob();
-    QCOMPARE(form.labMsg->text(), QStringLiteral("共导入99999条，屏蔽0条"));
+    QCOMPARE(labelText(form, "resultLabel"), QStringLiteral("共导入99999条，屏蔽0条"));
     QCOMPARE(roster(folder.db()).size(), 99999);
 }
 
@@ -237,15 +257,15 @@ void TestImportDialogs::photoDialogFlow() {
     for (const QString &file : files)
         QVERIFY(image.save(file));
     PhotoImportDialog form;
-    QCOMPARE(form.labmsg->text(), QStringLiteral("请选择照片"));
-    form.sld->setValue(5);
-    QCOMPARE(form.labFW->text(), QStringLiteral("像素范围(500x500)内"));
+    QCOMPARE(labelText(form, "statusLabel"), QStringLiteral("请选择照片"));
+    child<QSlider>(form, "sizeSlider")->setValue(5);
+    QCOMPARE(labelText(form, "sizeLabel"), QStringLiteral("像素范围(500x500)内"));
     scripted->fileLists.enqueue(files);
-    form.cmdOpen->click();
-    QCOMPARE(form.labmsg->text(), QStringLiteral("共加载图片2张，请点开始导入。"));
-    form.cmdStartClicked();
+    button(form, "chooseButton")->click();
+    QCOMPARE(labelText(form, "statusLabel"), QStringLiteral("共加载图片2张，请点开始导入。"));
+    button(form, "startButton")->click();
     form.waitForJob();
-    QCOMPARE(form.txtInfo->toPlainText(), QStringLiteral("导入名单2条\n重复0条,请点确定按钮刷新"));
+    QCOMPARE(logText(form, "logEdit"), QStringLiteral("导入名单2条\n重复0条,请点确定按钮刷新"));
     QCOMPARE(roster(folder.db()), (QStringList{"1|张三|宣传部 |0", "2|李四| |0"}));
     QCOMPARE(QImage(folder.path("Photos/U1.jpg")).size(), QSize(500, 375));
 }
@@ -256,30 +276,30 @@ void TestImportDialogs::numberToolsPreviewAndQuestion() {
     folder.addUsers({"甲"});
     ScriptedUi *scripted = installScriptedUi();
     NumberGeneratorDialog form;
-    QCOMPARE(form.labYS->text(), QStringLiteral("ST0001E - ST1000E"));
-    form.txtStart->setText(QStringLiteral("99999"));
-    QVERIFY(!form.showPreview());
+    QCOMPARE(labelText(form, "sampleLabel"), QStringLiteral("ST0001E - ST1000E"));
+    typeInto(edit(form, "startEdit"), QStringLiteral("99999"));
     QCOMPARE(scripted->last().text, QStringLiteral("开始数值只能小于终止数值!"));
-    QCOMPARE(form.labYS->text(), QString());
-    form.txtStart->setText(QStringLiteral("1"));
-    form.txtEnd->setText(QStringLiteral("100"));
-    QVERIFY(form.showPreview());
-    QCOMPARE(form.labYS->text(), QStringLiteral("ST001E - ST100E"));
-    form.txtMsk->setText(QStringLiteral("4,13"));
+    QCOMPARE(labelText(form, "sampleLabel"), QString());
+    typeInto(edit(form, "startEdit"), QStringLiteral("1"));
+    typeInto(edit(form, "endEdit"), QStringLiteral("100"));
+    QCOMPARE(labelText(form, "sampleLabel"), QStringLiteral("ST001E - ST100E"));
+    edit(form, "maskEdit")->setText(QStringLiteral("4,13"));
+    QPushButton *start = button(form, "startButton");
     scripted->answers.enqueue(false);
-    form.cmdStartClicked();
+    start->click();
     QCOMPARE(scripted->last().text,
              QStringLiteral("生成数字编号将会完全覆盖原来名单\n您确认要生成编号么？"));
     QCOMPARE(scripted->last().title, QStringLiteral("重要提示"));
     QCOMPARE(roster(folder.db()), QStringList{"1|甲||0"});
     scripted->answers.enqueue(true);
-    form.cmdStartClicked();
-    QVERIFY(!form.cmdOk->isEnabled() || !form.isImporting());
+    start->click();
+    QPushButton *ok = button(form, "okButton");
+    QVERIFY(!ok->isEnabled() || !form.isImporting());
     form.waitForJob();
-    QCOMPARE(form.labMsg->text(), QStringLiteral("共导入80条，屏蔽20条"));
-    QVERIFY(
-        form.txtTJ->toPlainText().startsWith(QStringLiteral("屏蔽数据如下：\nST004E\nST013E\n")));
-    QVERIFY(form.cmdOk->isEnabled());
+    QCOMPARE(labelText(form, "resultLabel"), QStringLiteral("共导入80条，屏蔽20条"));
+    QVERIFY(logText(form, "maskedCodesEdit")
+                .startsWith(QStringLiteral("屏蔽数据如下：\nST004E\nST013E\n")));
+    QVERIFY(ok->isEnabled());
     QCOMPARE(roster(folder.db()).first(), QStringLiteral("1|ST001E||0"));
 }
 
@@ -288,11 +308,10 @@ void TestImportDialogs::blankFileChoiceStops() {
     QVERIFY(folder.start());
     ScriptedUi *scripted = installScriptedUi();
     QVERIFY(!rosterscreens::importExcel(nullptr, true));
-    QVERIFY(!rosterscreens::importTxt(nullptr, true));
+    QVERIFY(!rosterscreens::importText(nullptr, true));
     QCOMPARE(scripted->records.size(), 2);
     QCOMPARE(scripted->records.at(0).title, QStringLiteral("导入Excel文件"));
     QCOMPARE(scripted->records.at(1).title, QStringLiteral("导入Txt文件"));
-    QVERIFY(appState().excelFile.isEmpty());
 }
 
 void TestImportDialogs::dialogDestroyedMidwayRollsBack() {
@@ -302,10 +321,10 @@ void TestImportDialogs::dialogDestroyedMidwayRollsBack() {
     const QStringList before = roster(folder.db());
     ScriptedUi *scripted = installScriptedUi();
     auto form = std::make_unique<NumberGeneratorDialog>();
-    form->txtEnd->setText(QStringLiteral("99999"));
+    edit(*form, "endEdit")->setText(QStringLiteral("99999"));
     scripted->answers.enqueue(true);
-    form->cmdStartClicked();
-    QTRY_VERIFY(form->pBar->value() > 0);
+    button(*form, "startButton")->click();
+    QTRY_VERIFY(child<QProgressBar>(*form, "progressBar")->value() > 0);
     form.reset();
     QCOMPARE(roster(folder.db()), before);
 }

@@ -1,15 +1,19 @@
+#include <QAction>
+#include <QCameraDevice>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMediaDevices>
 #include <QPushButton>
 #include <QSqlQuery>
 #include <QTreeWidget>
 #include <QtTest>
 
 #include "awards/view/camerahook.h"
+#include "childwidget.h"
 #include "core/appstate.h"
 #include "core/store.h"
 #include "roster/rosterpage.h"
@@ -40,6 +44,26 @@ void fillRoster(QSqlDatabase db, int count) {
         insert.exec();
     }
     db.commit();
+}
+
+QTreeWidget *participants(const QWidget &form) {
+    return child<QTreeWidget>(form, "participantList");
+}
+
+QLineEdit *edit(const QWidget &form, const char *name) {
+    return child<QLineEdit>(form, name);
+}
+
+QPushButton *button(const QWidget &form, const char *name) {
+    return child<QPushButton>(form, name);
+}
+
+QString labelText(const QWidget &form, const char *name) {
+    return child<QLabel>(form, name)->text();
+}
+
+void trigger(const QWidget &form, const char *action) {
+    child<QAction>(form, action)->trigger();
 }
 
 // The manager after its viewer has reported "loadok".
@@ -83,14 +107,14 @@ void TestRosterManager::firstFillWaitsForViewer() {
     auto &stages = installRecordingStages();
     RosterManagerDialog form;
     QCOMPARE(stages.last()->movie, folder.path("sys/viewer.qml"));
-    QCOMPARE(form.lstUser->topLevelItemCount(), 0);
+    QCOMPARE(participants(form)->topLevelItemCount(), 0);
     stages.last()->reply(QStringLiteral("other"), QStringLiteral("yes"));
-    QCOMPARE(form.lstUser->topLevelItemCount(), 0);
+    QCOMPARE(participants(form)->topLevelItemCount(), 0);
     stages.last()->reply(proto::cmd::loadok, QStringLiteral("yes"));
-    QCOMPARE(form.lstUser->topLevelItemCount(), 2);
+    QCOMPARE(participants(form)->topLevelItemCount(), 2);
     // The row count equals the table's, so the last row is selected and loaded.
-    QCOMPARE(form.txtUserName->text(), QStringLiteral("乙"));
-    QCOMPARE(form.lstUser->topLevelItem(1)->text(1), QStringLiteral("2"));
+    QCOMPARE(edit(form, "nameEdit")->text(), QStringLiteral("乙"));
+    QCOMPARE(participants(form)->topLevelItem(1)->text(1), QStringLiteral("2"));
 }
 
 void TestRosterManager::fillsAtOnceWithoutViewer() {
@@ -99,7 +123,7 @@ void TestRosterManager::fillsAtOnceWithoutViewer() {
     folder.addUsers({"甲|一部"});
     setStageFactory([](QWidget *parent) { return std::make_unique<SilentStage>(parent); });
     RosterManagerDialog form;
-    QCOMPARE(form.lstUser->topLevelItemCount(), 1);
+    QCOMPARE(participants(form)->topLevelItemCount(), 1);
 }
 
 void TestRosterManager::fillsWhenRealViewerReports() {
@@ -108,8 +132,8 @@ void TestRosterManager::fillsWhenRealViewerReports() {
     folder.addUsers({"甲|一部"});
     setStageFactory({});
     RosterManagerDialog form;
-    QTRY_COMPARE(form.lstUser->topLevelItemCount(), 1);
-    QCOMPARE(form.txtUserName->text(), QStringLiteral("甲"));
+    QTRY_COMPARE(participants(form)->topLevelItemCount(), 1);
+    QCOMPARE(edit(form, "nameEdit")->text(), QStringLiteral("甲"));
 }
 
 void TestRosterManager::pagesAreClamped_data() {
@@ -146,13 +170,12 @@ void TestRosterManager::pagesAreClamped() {
     QVERIFY(folder.start());
     fillRoster(folder.db(), 2500);
     auto form = openManager();
-    form->rdUserLst(QString(), search, page);
-    QCOMPARE(form->currentPage(), shownPage);
-    QCOMPARE(form->lstUser->topLevelItemCount(), rows);
-    QCOMPARE(form->labPage->text(), pageText);
-    QCOMPARE(form->labInfo1->text(), total);
-    QCOMPARE(form->cmdSave->isEnabled(), rows > 0);
-    QCOMPARE(form->cmdPageUp->isEnabled(), rows > 0 && shownPage > 1);
+    form->showParticipants(search, page);
+    QCOMPARE(participants(*form)->topLevelItemCount(), rows);
+    QCOMPARE(labelText(*form, "pageLabel"), pageText);
+    QCOMPARE(labelText(*form, "totalLabel"), total);
+    QCOMPARE(button(*form, "saveButton")->isEnabled(), rows > 0);
+    QCOMPARE(button(*form, "previousPageButton")->isEnabled(), rows > 0 && shownPage > 1);
 }
 
 void TestRosterManager::sortModes_data() {
@@ -193,17 +216,17 @@ void TestRosterManager::countersAndStatusWords() {
     QVERIFY(folder.start());
     fillRoster(folder.db(), 20);
     auto form = openManager();
-    QCOMPARE(form->labInfo2->text(), QStringLiteral("已中奖人数：2"));
-    QCOMPARE(form->labinfo3->text(), QStringLiteral("弃奖∶2"));
-    QCOMPARE(form->lstUser->topLevelItem(0)->text(5), QStringLiteral("已弃奖"));
-    QCOMPARE(form->lstUser->topLevelItem(0)->foreground(5).color(), QColor(255, 0, 0));
-    QCOMPARE(form->lstUser->topLevelItem(1)->text(5), QStringLiteral("已领奖"));
-    QCOMPARE(form->lstUser->topLevelItem(9)->text(5), QStringLiteral("已中奖"));
-    QCOMPARE(form->lstUser->topLevelItem(9)->foreground(5).color(), QColor(18, 118, 0));
-    QCOMPARE(form->lstUser->topLevelItem(2)->text(5), QString());
+    QCOMPARE(labelText(*form, "wonLabel"), QStringLiteral("已中奖人数：2"));
+    QCOMPARE(labelText(*form, "gaveUpLabel"), QStringLiteral("弃奖∶2"));
+    QCOMPARE(participants(*form)->topLevelItem(0)->text(5), QStringLiteral("已弃奖"));
+    QCOMPARE(participants(*form)->topLevelItem(0)->foreground(5).color(), QColor(255, 0, 0));
+    QCOMPARE(participants(*form)->topLevelItem(1)->text(5), QStringLiteral("已领奖"));
+    QCOMPARE(participants(*form)->topLevelItem(9)->text(5), QStringLiteral("已中奖"));
+    QCOMPARE(participants(*form)->topLevelItem(9)->foreground(5).color(), QColor(18, 118, 0));
+    QCOMPARE(participants(*form)->topLevelItem(2)->text(5), QString());
     appState().selJxid = 4;
     store::exec(folder.db(), "UPDATE UserList SET UserStatus=0");
-    form->rdUserLst(QString(), QString(), 1);
+    form->showParticipants(QString(), 1);
     QCOMPARE(appState().selJxid, qint16(0));
 }
 
@@ -214,20 +237,20 @@ void TestRosterManager::saveKeepsWinAndRefusesDuplicates() {
     store::exec(folder.db(), "UPDATE UserList SET UserStatus=3, JxID='|1|' WHERE ID=2");
     ScriptedUi *scripted = installScriptedUi();
     auto form = openManager();
-    form->lstUser->setCurrentItem(form->lstUser->topLevelItem(1));
-    form->txtUserName->setText(QStringLiteral("甲"));
-    form->txtUserPart->setText(QStringLiteral("一部"));
-    form->cmdSaveClicked();
+    participants(*form)->setCurrentItem(participants(*form)->topLevelItem(1));
+    edit(*form, "nameEdit")->setText(QStringLiteral("甲"));
+    edit(*form, "remarkEdit")->setText(QStringLiteral("一部"));
+    button(*form, "saveButton")->click();
     QCOMPARE(scripted->last().text, QStringLiteral("名单重复,已经存在同样的人员信息"));
     QCOMPARE(scripted->last().title, QStringLiteral("编辑失败"));
-    form->txtDiffNum->setValidator(nullptr);
-    form->txtDiffNum->setText(QStringLiteral("x1"));
-    form->txtUserPart->setText(QStringLiteral("三部"));
-    form->cmdSaveClicked();
+    edit(*form, "diffNumEdit")->setValidator(nullptr);
+    edit(*form, "diffNumEdit")->setText(QStringLiteral("x1"));
+    edit(*form, "remarkEdit")->setText(QStringLiteral("三部"));
+    button(*form, "saveButton")->click();
     QCOMPARE(scripted->last().text, QStringLiteral("“区分编号”只能填写数字"));
-    form->txtDiffNum->setText(QStringLiteral("9"));
-    form->txtUserName->setText(QStringLiteral("甲 "));
-    form->cmdSaveClicked();
+    edit(*form, "diffNumEdit")->setText(QStringLiteral("9"));
+    edit(*form, "nameEdit")->setText(QStringLiteral("甲 "));
+    button(*form, "saveButton")->click();
     QCOMPARE(scripted->last().text, QStringLiteral("数据更新成功！"));
     QCOMPARE(store::scalar(folder.db(),
                            "SELECT UserName || '/' || UserPart || '/' || DiffNum || "
@@ -235,9 +258,9 @@ void TestRosterManager::saveKeepsWinAndRefusesDuplicates() {
                  .toString(),
              QStringLiteral("甲 /三部/9/3|1|"));
     // Saving a row unchanged is no duplicate of itself.
-    form->cmdSaveClicked();
+    button(*form, "saveButton")->click();
     QCOMPARE(scripted->last().text, QStringLiteral("数据更新成功！"));
-    QCOMPARE(form->lstUser->currentItem()->text(1), QStringLiteral("2"));
+    QCOMPARE(participants(*form)->currentItem()->text(1), QStringLiteral("2"));
 }
 
 void TestRosterManager::savePictureStates() {
@@ -249,20 +272,20 @@ void TestRosterManager::savePictureStates() {
     QTemporaryDir dir;
     const QString chosen = dir.filePath(QStringLiteral("face.png"));
     QImage(20, 20, QImage::Format_RGB32).save(chosen);
-    form->txtIsPhoto->setText(chosen);
-    form->cmdSaveClicked();
+    edit(*form, "photoStateEdit")->setText(chosen);
+    button(*form, "saveButton")->click();
     QCOMPARE(store::scalar(folder.db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
              QStringLiteral("Photos/U1.png"));
     QVERIFY(QFile::exists(folder.path("Photos/U1.png")));
-    QCOMPARE(form->txtIsPhoto->text(), QStringLiteral("yes"));
+    QCOMPARE(edit(*form, "photoStateEdit")->text(), QStringLiteral("yes"));
     QImage(30, 30, QImage::Format_RGB32).save(folder.path("Photos/camertemp.jpg"));
-    form->txtIsPhoto->setText(QStringLiteral("camre"));
-    form->cmdSaveClicked();
+    edit(*form, "photoStateEdit")->setText(QStringLiteral("camre"));
+    button(*form, "saveButton")->click();
     QCOMPARE(store::scalar(folder.db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
              QStringLiteral("Photos/U1.jpg"));
     QCOMPARE(QImage(folder.path("Photos/U1.jpg")).size(), QSize(30, 30));
-    form->txtIsPhoto->setText(QStringLiteral("no"));
-    form->cmdSaveClicked();
+    edit(*form, "photoStateEdit")->setText(QStringLiteral("no"));
+    button(*form, "saveButton")->click();
     QCOMPARE(store::scalar(folder.db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
              QString());
     QVERIFY(!QFile::exists(folder.path("Photos/U1.jpg")));
@@ -277,20 +300,21 @@ void TestRosterManager::deleteTickedRemovesPhotos() {
     QImage(5, 5, QImage::Format_RGB32).save(folder.path("Photos/U1001.jpg"));
     ScriptedUi *scripted = installScriptedUi();
     auto form = openManager();
-    form->deleteTicked();
+    trigger(*form, "deleteAction");
     QCOMPARE(scripted->last().text, QStringLiteral("请勾选需要删除的名单!"));
-    form->rdUserLst(QString(), QString(), 2);
-    form->selectAll();
-    QVERIFY(form->chkAll->isChecked());
+    form->showParticipants(QString(), 2);
+    trigger(*form, "tickAllAction");
+    QVERIFY(child<QCheckBox>(*form, "tickAllBox")->isChecked());
     scripted->answers.enqueue(false);
-    form->deleteTicked();
+    trigger(*form, "deleteAction");
     QCOMPARE(scripted->last().text, QStringLiteral("确认要删除选择的抽奖名单么?"));
     QCOMPARE(store::scalar(folder.db(), "SELECT COUNT(*) FROM UserList").toInt(), 1001);
     scripted->answers.enqueue(true);
-    form->deleteTicked();
+    trigger(*form, "deleteAction");
     QCOMPARE(store::scalar(folder.db(), "SELECT COUNT(*) FROM UserList").toInt(), 1000);
     QVERIFY(!QFile::exists(folder.path("Photos/U1001.jpg")));
-    QCOMPARE(form->currentPage(), 1);  // the emptied last page clamps to the new last one
+    // The emptied last page clamps to the new last one.
+    QCOMPARE(labelText(*form, "pageLabel"), QStringLiteral("当前第∶1页/ 共1页"));
 }
 
 void TestRosterManager::batchDistinctionNumber_data() {
@@ -316,11 +340,11 @@ void TestRosterManager::batchDistinctionNumber() {
     folder.addUsers({"甲|一部|1", "乙|二部|1"});
     ScriptedUi *scripted = installScriptedUi();
     auto form = openManager();
-    form->cmdSetDiffClicked();
+    button(*form, "setDiffNumButton")->click();
     QCOMPARE(scripted->last().text, QStringLiteral("请勾选需要设置区分编号的名单!"));
-    form->lstUser->topLevelItem(0)->setCheckState(0, Qt::Checked);
+    participants(*form)->topLevelItem(0)->setCheckState(0, Qt::Checked);
     scripted->inputs.enqueue(answer);
-    form->cmdSetDiffClicked();
+    button(*form, "setDiffNumButton")->click();
     QCOMPARE(scripted->last().text, message);
     QCOMPARE(store::scalar(folder.db(), "SELECT DiffNum FROM UserList WHERE ID=1").toInt(), stored);
     QCOMPARE(store::scalar(folder.db(), "SELECT DiffNum FROM UserList WHERE ID=2").toInt(), 1);
@@ -335,7 +359,7 @@ void TestRosterManager::exportsShownPage() {
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("out.csv"));
     scripted->files.enqueue(path);
-    form->cmdOutClicked();
+    button(*form, "exportButton")->click();
     QCOMPARE(scripted->last().text, QStringLiteral("导出完毕"));
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -344,7 +368,7 @@ void TestRosterManager::exportsShownPage() {
                  QStringLiteral("排序,抽奖名单(抽奖时滚动的内容),备注,照片,状态,区分编号\r\n"
                                 "1,\"甲,乙\",一部,,,3\r\n2,\"丙\"\"\",二部,,,0\r\n")
                      .toUtf8());
-    QVERIFY(form->cmdOut->isEnabled());
+    QVERIFY(button(*form, "exportButton")->isEnabled());
 }
 
 void TestRosterManager::addUserRules() {
@@ -354,18 +378,21 @@ void TestRosterManager::addUserRules() {
     ScriptedUi *scripted = installScriptedUi();
     installRecordingStages();
     AddParticipantDialog form;
-    QCOMPARE(form.txtDiffNum->text(), QStringLiteral("0"));
-    QVERIFY(!form.cmdOkClicked());
+    QCOMPARE(edit(form, "diffNumEdit")->text(), QStringLiteral("0"));
+    QPushButton *add = button(form, "addButton");
+    add->click();
     QCOMPARE(scripted->last().text, QStringLiteral("请输入抽奖名单!"));
-    form.txtUserName->setText(QStringLiteral(" 甲 "));
-    form.txtUserPart->setText(QStringLiteral("一部"));
-    QVERIFY(!form.cmdOkClicked());
+    edit(form, "nameEdit")->setText(QStringLiteral(" 甲 "));
+    edit(form, "remarkEdit")->setText(QStringLiteral("一部"));
+    add->click();
     QCOMPARE(scripted->last().title, QStringLiteral("新增失败"));
-    form.txtUserPart->setText(QStringLiteral("二部"));
-    form.txtDiffNum->setText(QString());
+    QCOMPARE(form.result(), int(QDialog::Rejected));
+    edit(form, "remarkEdit")->setText(QStringLiteral("二部"));
+    edit(form, "diffNumEdit")->setText(QString());
     QImage(10, 10, QImage::Format_RGB32).save(folder.path("Photos/camertemp.jpg"));
-    form.txtIsPhoto->setText(QStringLiteral("camre"));
-    QVERIFY(form.cmdOkClicked());
+    edit(form, "photoStateEdit")->setText(QStringLiteral("camre"));
+    add->click();
+    QCOMPARE(form.result(), int(QDialog::Accepted));
     QCOMPARE(form.addedId(), 2);
     QCOMPARE(store::scalar(folder.db(),
                            "SELECT UserName || '/' || UserPart || '/' || DiffNum || "
@@ -379,16 +406,19 @@ void TestRosterManager::cameraMissing() {
     TempProgramFolder folder;
     QVERIFY(folder.start());
     CameraCaptureDialog camera;
+    QLabel *status = child<QLabel>(camera, "statusLabel");
+    QPushButton *capture = button(camera, "captureButton");
     QCOMPARE(camera.windowTitle(), QStringLiteral("拍照"));
-    QCOMPARE(camera.labInfo->text(), QStringLiteral("正在开启摄像头..."));
-    QVERIFY(!camera.cmdOk->isEnabled());
-    if (camera.openCamera()) QSKIP("this machine has a camera");
-    QCOMPARE(camera.labInfo->text(), QStringLiteral("打开摄像头失败..."));
-    QCOMPARE(camera.cmdOk->text(), QStringLiteral("拍照"));
-    QVERIFY(!camera.cmdOk->isEnabled());
+    QCOMPARE(status->text(), QStringLiteral("正在开启摄像头..."));
+    QVERIFY(!capture->isEnabled());
+    if (!QMediaDevices::defaultVideoInput().isNull()) QSKIP("this machine has a camera");
+    QTRY_COMPARE(status->text(), QStringLiteral("打开摄像头失败..."));
+    QCOMPARE(capture->text(), QStringLiteral("拍照"));
+    QVERIFY(!capture->isEnabled());
     camera.show();
-    QCOMPARE(camera.cmdEsc->text(), QStringLiteral("取消"));
-    camera.cmdEsc->click();
+    QPushButton *cancel = button(camera, "cancelButton");
+    QCOMPARE(cancel->text(), QStringLiteral("取消"));
+    cancel->click();
     QVERIFY(!camera.isVisible());
     QCOMPARE(camera.result(), int(QDialog::Rejected));
 }
@@ -400,12 +430,13 @@ void TestRosterManager::cameraSaveHandsOver() {
     QImage frame(640, 480, QImage::Format_RGB32);
     frame.fill(Qt::red);
     camera.freeze(frame);
-    QCOMPARE(camera.cmdOk->text(), QStringLiteral("保存"));
-    QCOMPARE(camera.cmdEsc->text(), QStringLiteral("重拍"));
+    QPushButton *capture = button(camera, "captureButton");
+    QCOMPARE(capture->text(), QStringLiteral("保存"));
+    QCOMPARE(button(camera, "cancelButton")->text(), QStringLiteral("重拍"));
     QString handed;
     connect(&camera, &CameraCaptureDialog::saved, this,
             [&handed](const QString &path) { handed = path; });
-    camera.cmdOk->click();
+    capture->click();
     QCOMPARE(handed, folder.path("Photos/camertemp.jpg"));
     QCOMPARE(QImage(handed).size(), QSize(640, 480));
     QCOMPARE(camera.result(), int(QDialog::Accepted));

@@ -3,16 +3,18 @@
 // temporary folder: either way every screen is laid out and painted once.
 #include <QCheckBox>
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPainter>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QSqlQuery>
 #include <QTreeWidget>
 #include <QtTest>
 
+#include "childwidget.h"
 #include "chrome/widgethelpers.h"
-#include "core/appstate.h"
 #include "core/fonts.h"
 #include "roster/view/addparticipantdialog.h"
 #include "roster/view/cameracapturedialog.h"
@@ -124,10 +126,11 @@ void TestRosterScreens::rosterManager() {
     setStageFactory({});  // the real picture viewer
     RosterManagerDialog form;
     form.show();  // laid out first: the viewer decodes at the size it is shown
-    QTRY_COMPARE(form.lstUser->topLevelItemCount(), 26);
-    form.lstUser->setCurrentItem(form.lstUser->topLevelItem(24));
-    form.lstUser->topLevelItem(2)->setCheckState(0, Qt::Checked);
-    form.lstUser->topLevelItem(3)->setCheckState(0, Qt::Checked);
+    auto *list = child<QTreeWidget>(form, "participantList");
+    QTRY_COMPARE(list->topLevelItemCount(), 26);
+    list->setCurrentItem(list->topLevelItem(24));
+    list->topLevelItem(2)->setCheckState(0, Qt::Checked);
+    list->topLevelItem(3)->setCheckState(0, Qt::Checked);
     QTest::qWait(1500);  // the viewer decodes the picture asynchronously
     shots.take(form, QStringLiteral("roster-manager"));
 }
@@ -142,7 +145,9 @@ void TestRosterScreens::editorsAndCamera() {
     QTest::qWait(300);
     shots.take(add, QStringLiteral("roster-add-user"));
     CameraCaptureDialog camera;
-    camera.openCamera();
+    auto *status = child<QLabel>(camera, "statusLabel");
+    // The camera opens once the event loop runs: failed (no camera) or live (label hidden).
+    QTRY_VERIFY(status->text() != QStringLiteral("正在开启摄像头...") || status->isHidden());
     shots.take(camera, QStringLiteral("roster-camera-missing"));
 }
 
@@ -152,24 +157,23 @@ void TestRosterScreens::excelImport() {
     installScriptedUi();
     Shots shots;
     QTemporaryDir dir;
-    appState().excelFile = fixture(QStringLiteral("libreoffice.xlsx"));
-    ExcelImportDialog form;
-    form.lstTitle->topLevelItem(1)->setCheckState(0, Qt::Checked);
-    form.chkIsTitleLine->setChecked(true);
+    ExcelImportDialog form(fixture(QStringLiteral("libreoffice.xlsx")));
+    child<QTreeWidget>(form, "columnList")->topLevelItem(1)->setCheckState(0, Qt::Checked);
+    child<QCheckBox>(form, "headerRowBox")->setChecked(true);
     shots.take(form, QStringLiteral("import-excel-preview"));
-    form.cmdStartClicked();
+    child<QPushButton>(form, "startButton")->click();
     form.waitForJob();
     shots.take(form, QStringLiteral("import-excel-finished"));
 
     QList<QStringList> rows{{QStringLiteral("姓名"), QStringLiteral("部门")}};
     for (int i = 0; i < 60000; ++i)
         rows << QStringList{QStringLiteral("员工%1").arg(i), QStringLiteral("部门%1").arg(i % 9)};
-    appState().excelFile = dir.filePath(QStringLiteral("big.xlsx"));
-    QVERIFY(testxlsx::write(appState().excelFile, QStringLiteral("全体员工"), rows));
-    ExcelImportDialog big;
-    big.lstTitle->topLevelItem(0)->setCheckState(0, Qt::Checked);
-    big.chkIsTitleLine->setChecked(true);
-    big.cmdStartClicked();
+    const QString bigFile = dir.filePath(QStringLiteral("big.xlsx"));
+    QVERIFY(testxlsx::write(bigFile, QStringLiteral("全体员工"), rows));
+    ExcelImportDialog big(bigFile);
+    child<QTreeWidget>(big, "columnList")->topLevelItem(0)->setCheckState(0, Qt::Checked);
+    child<QCheckBox>(big, "headerRowBox")->setChecked(true);
+    child<QPushButton>(big, "startButton")->click();
     grabMidway(big, shots, QStringLiteral("import-excel-midway"));
     big.waitForJob();
 }
@@ -188,9 +192,8 @@ void TestRosterScreens::textImport() {
         bytes += QStringLiteral("员工%1,部门%2\r\n").arg(i % 119990).arg(i % 9).toUtf8();
     file.write(bytes);
     file.close();
-    appState().txtFile = path;
-    TextImportDialog form;
-    form.cmdStartClicked();
+    TextImportDialog form(path);
+    child<QPushButton>(form, "startButton")->click();
     grabMidway(form, shots, QStringLiteral("import-txt-midway"));
     form.waitForJob();
     shots.take(form, QStringLiteral("import-txt-finished"));
@@ -199,7 +202,7 @@ void TestRosterScreens::textImport() {
 void TestRosterScreens::photoImport() {
     TempProgramFolder folder;
     QVERIFY(folder.start());
-    installScriptedUi();
+    ScriptedUi *scripted = installScriptedUi();
     Shots shots;
     QTemporaryDir dir;
     QStringList files;
@@ -211,9 +214,10 @@ void TestRosterScreens::photoImport() {
     }
     files << dir.filePath(QStringLiteral("员工1,宣传部.jpg"));
     PhotoImportDialog form;
-    form.setFiles(files);
+    scripted->fileLists.enqueue(files);
+    child<QPushButton>(form, "chooseButton")->click();
     shots.take(form, QStringLiteral("import-photos-chosen"));
-    form.cmdStartClicked();
+    child<QPushButton>(form, "startButton")->click();
     grabMidway(form, shots, QStringLiteral("import-photos-midway"));
     form.waitForJob();
     shots.take(form, QStringLiteral("import-photos-finished"));
@@ -225,12 +229,13 @@ void TestRosterScreens::numberGenerator() {
     ScriptedUi *scripted = installScriptedUi();
     Shots shots;
     NumberGeneratorDialog form;
-    form.txtEnd->setText(QStringLiteral("99999"));
-    form.txtMsk->setText(QStringLiteral("4,13"));
-    form.showPreview();
+    child<QLineEdit>(form, "maskEdit")->setText(QStringLiteral("4,13"));
+    QLineEdit *end = child<QLineEdit>(form, "endEdit");
+    end->clear();
+    QTest::keyClicks(end, QStringLiteral("99999"));  // typed, so the sample follows
     shots.take(form, QStringLiteral("numbers-setup"));
     scripted->answers.enqueue(true);
-    form.cmdStartClicked();
+    child<QPushButton>(form, "startButton")->click();
     grabMidway(form, shots, QStringLiteral("numbers-midway"));
     form.waitForJob();
     shots.take(form, QStringLiteral("numbers-finished"));

@@ -288,8 +288,7 @@ void AwardEditor::removePicture() {
 void AwardEditor::takePhoto() {
     const awardcamera::Shot &shot = awardcamera::shot();
     if (!shot) return;
-    appState().cameraCaller = m_caller;
-    const QString file = shot(window());
+    const QString file = shot(window(), m_caller);
     if (file.isEmpty()) return;
     showPicture(file);
     m_picture = file == appState().path(AwardBook::kCameraFile) ? QStringLiteral("camre") : file;

@@ -17,30 +17,35 @@
 
 AddParticipantDialog::AddParticipantDialog(QWidget *parent) : QDialog(parent) {
     setWindowTitle(QStringLiteral("新增 - 抽奖名单"));
-    txtUserName = new QLineEdit(this);
-    txtUserName->setMaxLength(255);
-    txtUserPart = new QLineEdit(this);
-    txtUserPart->setMaxLength(255);
-    txtDiffNum = new QLineEdit(QStringLiteral("0"), this);
-    txtDiffNum->setToolTip(QStringLiteral("用于对抽奖条件进行筛选的标识号码"));
-    editorparts::makeDigitsOnly(txtDiffNum);
-    txtIsPhoto = new QLineEdit(QStringLiteral("no"), this);
-    txtIsPhoto->hide();
-    imgViewBox = new PictureBox(this);
-    toolPhoto = editorparts::makePhotoToolbar(
-        this, imgViewBox, txtIsPhoto, QStringLiteral("AddParticipantDialog"),
+    m_nameEdit = new QLineEdit(this);
+    m_nameEdit->setObjectName(QStringLiteral("nameEdit"));
+    m_nameEdit->setMaxLength(255);
+    m_remarkEdit = new QLineEdit(this);
+    m_remarkEdit->setObjectName(QStringLiteral("remarkEdit"));
+    m_remarkEdit->setMaxLength(255);
+    m_diffNumEdit = new QLineEdit(QStringLiteral("0"), this);
+    m_diffNumEdit->setObjectName(QStringLiteral("diffNumEdit"));
+    m_diffNumEdit->setToolTip(QStringLiteral("用于对抽奖条件进行筛选的标识号码"));
+    editorparts::makeDigitsOnly(m_diffNumEdit);
+    m_photoStateEdit = new QLineEdit(QStringLiteral("no"), this);
+    m_photoStateEdit->setObjectName(QStringLiteral("photoStateEdit"));
+    m_photoStateEdit->hide();
+    m_pictureBox = new PictureBox(this);
+    m_photoToolbar = editorparts::makePhotoToolbar(
+        this, m_pictureBox, m_photoStateEdit, QStringLiteral("AddParticipantDialog"),
         QStringLiteral("图片文件 (*.jpg *.gif *.bmp *.jpeg *.png)"));
-    cmdOk = new QPushButton(QStringLiteral("添加"), this);
-    cmdEsc = new QPushButton(QStringLiteral("取消"), this);
-    cmdOk->setDefault(true);
+    m_addButton = new QPushButton(QStringLiteral("添加"), this);
+    m_addButton->setObjectName(QStringLiteral("addButton"));
+    m_cancelButton = new QPushButton(QStringLiteral("取消"), this);
+    m_addButton->setDefault(true);
 
     auto *form = new QFormLayout;
-    form->addRow(QStringLiteral("抽奖名单："), txtUserName);
-    form->addRow(QStringLiteral("备注信息："), txtUserPart);
-    form->addRow(QStringLiteral("区分编号："), txtDiffNum);
+    form->addRow(QStringLiteral("抽奖名单："), m_nameEdit);
+    form->addRow(QStringLiteral("备注信息："), m_remarkEdit);
+    form->addRow(QStringLiteral("区分编号："), m_diffNumEdit);
     auto *picture = new QVBoxLayout;
-    picture->addWidget(imgViewBox);
-    picture->addWidget(toolPhoto);
+    picture->addWidget(m_pictureBox);
+    picture->addWidget(m_photoToolbar);
     auto *top = new QHBoxLayout;
     top->addLayout(form, 1);
     top->addLayout(picture);
@@ -48,45 +53,43 @@ AddParticipantDialog::AddParticipantDialog(QWidget *parent) : QDialog(parent) {
     hint->setStyleSheet(QStringLiteral("color:#8a5a00;"));
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(hint, 1);
-    buttons->addWidget(cmdOk);
-    buttons->addWidget(cmdEsc);
+    buttons->addWidget(m_addButton);
+    buttons->addWidget(m_cancelButton);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(top);
     layout->addLayout(buttons);
-    connect(cmdOk, &QPushButton::clicked, this, &AddParticipantDialog::cmdOkClicked);
-    connect(cmdEsc, &QPushButton::clicked, this, &QDialog::reject);
-    imgViewBox->start();
+    connect(m_addButton, &QPushButton::clicked, this, &AddParticipantDialog::addParticipant);
+    connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    m_pictureBox->start();
 }
 
-bool AddParticipantDialog::cmdOkClicked() {
-    const QString name = txtUserName->text().trimmed();
-    const QString part = txtUserPart->text().trimmed();
+void AddParticipantDialog::addParticipant() {
+    const QString name = m_nameEdit->text().trimmed();
+    const QString remark = m_remarkEdit->text().trimmed();
     if (name.isEmpty()) {
         ui().message(QStringLiteral("请输入抽奖名单!"), MsgStyle::Information, titles::notice);
-        txtUserName->setFocus();
-        return false;
+        m_nameEdit->setFocus();
+        return;
     }
     if (store::isDuplicate(QStringLiteral("UserList"), QStringLiteral("UserName"),
-                           QStringLiteral("UserPart"), name, part, 0)) {
+                           QStringLiteral("UserPart"), name, remark, 0)) {
         ui().message(QStringLiteral("名单重复,已经存在同样的人员信息"), MsgStyle::Critical,
                      QStringLiteral("新增失败"));
-        return false;
+        return;
     }
-    QSqlDatabase db = store::mainConn();
     const int id = store::getNextID(QStringLiteral("UserList"), QStringLiteral("ID"));
-    const QString diff = txtDiffNum->text().trimmed();
+    const QString diff = m_diffNumEdit->text().trimmed();
     const int diffNum = roster::isNumeric(diff) ? diff.toInt() : 0;
-    const QString photo = roster::settlePhoto(id, txtIsPhoto->text(), QString());
+    const QString photo = roster::settlePhoto(id, m_photoStateEdit->text(), QString());
     QString error;
-    if (!store::exec(db,
+    if (!store::exec(store::mainConn(),
                      QStringLiteral("INSERT INTO UserList (ID, UserName, UserPart, UserPhoto, "
                                     "DiffNum, UserStatus) VALUES (?, ?, ?, ?, ?, 0)"),
-                     {id, name, part, photo, diffNum}, &error)) {
+                     {id, name, remark, photo, diffNum}, &error)) {
         ui().message(error, MsgStyle::Critical, titles::error);
-        return false;
+        return;
     }
     m_addedId = id;
     emit events().rosterChanged();
     accept();
-    return true;
 }

@@ -13,20 +13,20 @@ class AddParticipantDialog : public QDialog {
 public:
     explicit AddParticipantDialog(QWidget *parent = nullptr);
 
-    QLineEdit *txtUserName = nullptr;
-    QLineEdit *txtUserPart = nullptr;
-    QLineEdit *txtDiffNum = nullptr;
-    QLineEdit *txtIsPhoto = nullptr;  // hidden picture state
-    PictureBox *imgViewBox = nullptr;
-    QToolBar *toolPhoto = nullptr;
-    QPushButton *cmdOk = nullptr;
-    QPushButton *cmdEsc = nullptr;
-
-    // "添加": validates, stores the participant and closes; false when something stopped it.
-    bool cmdOkClicked();
     // The ID of the participant just added (0 before).
     int addedId() const { return m_addedId; }
 
 private:
+    // "添加": validates, stores the participant and closes; stays open when something stops it.
+    void addParticipant();
+
+    QLineEdit *m_nameEdit = nullptr;
+    QLineEdit *m_remarkEdit = nullptr;
+    QLineEdit *m_diffNumEdit = nullptr;
+    QLineEdit *m_photoStateEdit = nullptr;  // hidden: "no", "camre" or a chosen file
+    PictureBox *m_pictureBox = nullptr;
+    QToolBar *m_photoToolbar = nullptr;
+    QPushButton *m_addButton = nullptr;
+    QPushButton *m_cancelButton = nullptr;
     int m_addedId = 0;
 };

@@ -16,6 +16,7 @@
 #include <QVideoWidget>
 
 #include "core/appstate.h"
+#include "core/logging.h"
 #include "roster/photoimport.h"
 
 namespace {
@@ -23,36 +24,41 @@ const QString kTake = QStringLiteral("拍照");
 const QString kSave = QStringLiteral("保存");
 const QString kCancel = QStringLiteral("取消");
 const QString kRetake = QStringLiteral("重拍");
+const QString kOpening = QStringLiteral("正在开启摄像头...");
+constexpr QSize kScreenSize(600, 450);
 }  // namespace
 
 CameraCaptureDialog::CameraCaptureDialog(QWidget *parent) : QDialog(parent) {
     setWindowTitle(QStringLiteral("拍照"));
-    picPhoto = new QWidget(this);
-    picPhoto->setFixedSize(600, 450);
-    picPhoto->setStyleSheet(QStringLiteral("background:#202024;"));
-    auto *stack = new QStackedLayout(picPhoto);
+    m_screen = new QWidget(this);
+    m_screen->setFixedSize(kScreenSize);
+    m_screen->setStyleSheet(QStringLiteral("background:#202024;"));
+    auto *stack = new QStackedLayout(m_screen);
     stack->setStackingMode(QStackedLayout::StackAll);
-    labInfo = new QLabel(QStringLiteral("正在开启摄像头..."), picPhoto);
-    labInfo->setAlignment(Qt::AlignCenter);
-    labInfo->setStyleSheet(QStringLiteral("color:#e8e8ee; font-size:16px;"));
-    picBox = new QLabel(picPhoto);
-    picBox->setAlignment(Qt::AlignCenter);
-    picBox->hide();
-    stack->addWidget(labInfo);
-    stack->addWidget(picBox);
+    m_statusLabel = new QLabel(kOpening, m_screen);
+    m_statusLabel->setObjectName(QStringLiteral("statusLabel"));
+    m_statusLabel->setAlignment(Qt::AlignCenter);
+    m_statusLabel->setStyleSheet(QStringLiteral("color:#e8e8ee; font-size:16px;"));
+    m_frozenLabel = new QLabel(m_screen);
+    m_frozenLabel->setAlignment(Qt::AlignCenter);
+    m_frozenLabel->hide();
+    stack->addWidget(m_statusLabel);
+    stack->addWidget(m_frozenLabel);
 
-    cmdOk = new QPushButton(kTake, this);
-    cmdEsc = new QPushButton(kCancel, this);
-    cmdOk->setEnabled(false);
+    m_captureButton = new QPushButton(kTake, this);
+    m_captureButton->setObjectName(QStringLiteral("captureButton"));
+    m_cancelButton = new QPushButton(kCancel, this);
+    m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
+    m_captureButton->setEnabled(false);
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
-    buttons->addWidget(cmdOk);
-    buttons->addWidget(cmdEsc);
+    buttons->addWidget(m_captureButton);
+    buttons->addWidget(m_cancelButton);
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(picPhoto);
+    layout->addWidget(m_screen);
     layout->addLayout(buttons);
-    connect(cmdOk, &QPushButton::clicked, this, &CameraCaptureDialog::cmdOkClicked);
-    connect(cmdEsc, &QPushButton::clicked, this, &CameraCaptureDialog::cmdEscClicked);
+    connect(m_captureButton, &QPushButton::clicked, this, &CameraCaptureDialog::captureOrSave);
+    connect(m_cancelButton, &QPushButton::clicked, this, &CameraCaptureDialog::cancelOrRetake);
     QTimer::singleShot(0, this, &CameraCaptureDialog::openCamera);
 }
 
@@ -60,8 +66,9 @@ CameraCaptureDialog::~CameraCaptureDialog() {
     closeCamera();
 }
 
-QString CameraCaptureDialog::takePhoto(QWidget *parent) {
+QString CameraCaptureDialog::takePhoto(QWidget *parent, const QString &caller) {
     CameraCaptureDialog camera(parent);
+    camera.m_caller = caller;
     QString saved;
     connect(&camera, &CameraCaptureDialog::saved, &camera,
             [&saved](const QString &path) { saved = path; });
@@ -73,87 +80,99 @@ bool CameraCaptureDialog::openCamera() {
     closeCamera();
     const QCameraDevice device = QMediaDevices::defaultVideoInput();
     if (device.isNull()) {
-        labInfo->setText(QStringLiteral("打开摄像头失败..."));
-        labInfo->show();
+        showCameraFailure();
         return false;
     }
-    session = new QMediaCaptureSession(this);
-    camera = new QCamera(device, this);
-    capture = new QImageCapture(this);
-    preview = new QVideoWidget(picPhoto);
-    preview->setGeometry(0, 0, 600, 450);
-    session->setCamera(camera);
-    session->setImageCapture(capture);
-    session->setVideoOutput(preview);
-    connect(camera, &QCamera::errorOccurred, this, [this] {
-        labInfo->setText(QStringLiteral("打开摄像头失败..."));
-        labInfo->show();
-        cmdOk->setEnabled(false);
+    m_session = new QMediaCaptureSession(this);
+    m_camera = new QCamera(device, this);
+    m_capture = new QImageCapture(this);
+    m_preview = new QVideoWidget(m_screen);
+    m_preview->setGeometry(QRect(QPoint(0, 0), kScreenSize));
+    m_session->setCamera(m_camera);
+    m_session->setImageCapture(m_capture);
+    m_session->setVideoOutput(m_preview);
+    connect(m_camera, &QCamera::errorOccurred, this, [this](QCamera::Error, const QString &text) {
+        qCWarning(lcRoster) << "camera failed:" << text;
+        showCameraFailure();
     });
-    connect(capture, &QImageCapture::imageCaptured, this,
+    connect(m_capture, &QImageCapture::errorOccurred, this,
+            [](int, QImageCapture::Error, const QString &text) {
+                qCWarning(lcRoster) << "photo capture failed:" << text;
+            });
+    connect(m_capture, &QImageCapture::imageCaptured, this,
             [this](int, const QImage &image) { freeze(image); });
-    camera->start();
-    preview->show();
-    labInfo->hide();
-    cmdOk->setEnabled(true);
+    m_camera->start();
+    m_preview->show();
+    m_statusLabel->hide();
+    m_captureButton->setEnabled(true);
     return true;
+}
+
+void CameraCaptureDialog::showCameraFailure() {
+    m_statusLabel->setText(QStringLiteral("打开摄像头失败..."));
+    m_statusLabel->show();
+    m_captureButton->setEnabled(false);
 }
 
 void CameraCaptureDialog::playShutter() {
     const QString sound = appState().path(QStringLiteral("sys/1.wav"));
     if (!QFile::exists(sound)) return;
-    if (!shutter) shutter = new QSoundEffect(this);
-    shutter->setSource(QUrl::fromLocalFile(sound));
-    shutter->play();
+    if (!m_shutterSound) m_shutterSound = new QSoundEffect(this);
+    m_shutterSound->setSource(QUrl::fromLocalFile(sound));
+    m_shutterSound->play();
 }
 
 void CameraCaptureDialog::closeCamera() {
-    if (camera) camera->stop();
-    delete preview;
-    delete capture;
-    delete camera;
-    delete session;
-    preview = nullptr;
-    capture = nullptr;
-    camera = nullptr;
-    session = nullptr;
+    if (m_camera) m_camera->stop();
+    delete m_preview;
+    delete m_capture;
+    delete m_camera;
+    delete m_session;
+    m_preview = nullptr;
+    m_capture = nullptr;
+    m_camera = nullptr;
+    m_session = nullptr;
 }
 
 void CameraCaptureDialog::freeze(const QImage &frame) {
-    frozen = frame;
+    m_frozen = frame;
     closeCamera();
-    picBox->setPixmap(
-        QPixmap::fromImage(frame.scaled(600, 450, Qt::KeepAspectRatio, Qt::SmoothTransformation)));
-    picBox->show();
-    labInfo->hide();
-    cmdOk->setText(kSave);
-    cmdOk->setEnabled(true);
-    cmdEsc->setText(kRetake);
+    m_frozenLabel->setPixmap(QPixmap::fromImage(
+        frame.scaled(kScreenSize, Qt::KeepAspectRatio, Qt::SmoothTransformation)));
+    m_frozenLabel->show();
+    m_statusLabel->hide();
+    m_captureButton->setText(kSave);
+    m_captureButton->setEnabled(true);
+    m_cancelButton->setText(kRetake);
 }
 
-void CameraCaptureDialog::cmdOkClicked() {
-    if (cmdOk->text() == kTake) {
-        if (capture && capture->isReadyForCapture()) {
+void CameraCaptureDialog::captureOrSave() {
+    if (m_captureButton->text() == kTake) {
+        if (m_capture && m_capture->isReadyForCapture()) {
             playShutter();
-            cmdOk->setEnabled(false);
-            capture->capture();
+            m_captureButton->setEnabled(false);
+            m_capture->capture();
         }
         return;
     }
     const QString path = appState().path(QStringLiteral("Photos/camertemp.jpg"));
-    if (!photoimport::saveJpeg(frozen, path)) return;
+    if (!photoimport::saveJpeg(m_frozen, path)) {
+        qCWarning(lcRoster) << "cannot save the camera photo to" << path;
+        return;
+    }
+    qCDebug(lcRoster) << "camera photo saved for" << m_caller;
     emit saved(path);
     accept();
 }
 
-void CameraCaptureDialog::cmdEscClicked() {
-    if (cmdEsc->text() == kRetake) {
-        cmdOk->setText(kTake);
-        cmdEsc->setText(kCancel);
-        cmdOk->setEnabled(false);
-        picBox->hide();
-        labInfo->setText(QStringLiteral("正在开启摄像头..."));
-        labInfo->show();
+void CameraCaptureDialog::cancelOrRetake() {
+    if (m_cancelButton->text() == kRetake) {
+        m_captureButton->setText(kTake);
+        m_cancelButton->setText(kCancel);
+        m_captureButton->setEnabled(false);
+        m_frozenLabel->hide();
+        m_statusLabel->setText(kOpening);
+        m_statusLabel->show();
         QTimer::singleShot(0, this, &CameraCaptureDialog::openCamera);
         return;
     }

@@ -20,35 +20,38 @@ public:
     explicit CameraCaptureDialog(QWidget *parent = nullptr);
     ~CameraCaptureDialog() override;
 
-    // Runs the dialog modally for appState().cameraCaller; the saved file, or an empty text when
-    // no photo was taken.
-    static QString takePhoto(QWidget *parent);
+    // Runs the dialog modally for the screen named by caller; the saved file, or an empty text
+    // when no photo was taken.
+    static QString takePhoto(QWidget *parent, const QString &caller);
 
-    QPushButton *cmdOk = nullptr;
-    QPushButton *cmdEsc = nullptr;
-    QLabel *labInfo = nullptr;
-    QLabel *picBox = nullptr;
-
-    // Starts the camera (as the dialog's timer does once it is shown); false without one.
-    bool openCamera();
-    // The frozen frame, as the capture handed it over (tests put one here).
+    // Shows a captured frame and offers to save it (the capture calls this; tests hand one in).
     void freeze(const QImage &frame);
 
 Q_SIGNALS:
     void saved(const QString &path);
 
 private:
-    void cmdOkClicked();
-    void cmdEscClicked();
+    // Starts the camera, once the dialog is shown or after "重拍"; false without one.
+    bool openCamera();
     void closeCamera();
+    void showCameraFailure();
+    // "拍照" takes a frame, "保存" stores the frozen one.
+    void captureOrSave();
+    // "取消" closes, "重拍" drops the frozen frame and opens the camera again.
+    void cancelOrRetake();
     // The shutter sound, when the program folder has one.
     void playShutter();
 
-    QWidget *picPhoto = nullptr;
-    QVideoWidget *preview = nullptr;
-    QCamera *camera = nullptr;
-    QImageCapture *capture = nullptr;
-    QMediaCaptureSession *session = nullptr;
-    QSoundEffect *shutter = nullptr;
-    QImage frozen;
+    QWidget *m_screen = nullptr;
+    QLabel *m_statusLabel = nullptr;
+    QLabel *m_frozenLabel = nullptr;
+    QPushButton *m_captureButton = nullptr;
+    QPushButton *m_cancelButton = nullptr;
+    QVideoWidget *m_preview = nullptr;
+    QCamera *m_camera = nullptr;
+    QImageCapture *m_capture = nullptr;
+    QMediaCaptureSession *m_session = nullptr;
+    QSoundEffect *m_shutterSound = nullptr;
+    QImage m_frozen;
+    QString m_caller;
 };

@@ -4,7 +4,6 @@
 #include <QRegularExpressionValidator>
 #include <QToolBar>
 
-#include "core/appstate.h"
 #include "core/ui.h"
 #include "roster/view/cameracapturedialog.h"
 #include "roster/view/picturebox.h"
@@ -19,12 +18,11 @@ void makeDigitsOnly(QLineEdit *edit) {
 QToolBar *makePhotoToolbar(QWidget *owner, PictureBox *viewer, QLineEdit *photoState,
                            const QString &caller, const QString &fileFilter) {
     auto *bar = new QToolBar(owner);
-    bar->setObjectName(QStringLiteral("toolPhoto"));
+    bar->setObjectName(QStringLiteral("photoToolbar"));
     bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
     QObject::connect(bar->addAction(QStringLiteral("拍照")), &QAction::triggered, owner,
                      [owner, viewer, photoState, caller] {
-                         appState().cameraCaller = caller;
-                         const QString path = CameraCaptureDialog::takePhoto(owner);
+                         const QString path = CameraCaptureDialog::takePhoto(owner, caller);
                          if (path.isEmpty()) return;
                          viewer->showPicture(path);
                          photoState->setText(QStringLiteral("camre"));

@@ -14,7 +14,8 @@ namespace editorparts {
 void makeDigitsOnly(QLineEdit *edit);
 
 // The picture toolbar: "拍照" (camera), "选择照片" (file), "清除照片". photoState is the hidden
-// picture state ("no", "yes", "camre" or a chosen file), kept up to date by the toolbar.
+// picture state ("no", "yes", "camre" or a chosen file), kept up to date by the toolbar; caller
+// is the editor's name, told to the camera.
 QToolBar *makePhotoToolbar(QWidget *owner, PictureBox *viewer, QLineEdit *photoState,
                            const QString &caller, const QString &fileFilter);
 

@@ -16,103 +16,120 @@
 #include <QVBoxLayout>
 
 #include "core/appstate.h"
+#include "core/logging.h"
 #include "core/ui.h"
 
-ExcelImportDialog::ExcelImportDialog(QWidget *parent)
+ExcelImportDialog::ExcelImportDialog(const QString &path, QWidget *parent)
     : ImportDialog(QStringLiteral("文件正在导入中，确认要退出么？"), parent) {
     setWindowTitle(QStringLiteral("导入Excel"));
     resize(760, 560);
-    labFileName = new QLabel(this);
-    labFileName->setWordWrap(true);
-    lstTable = new QListWidget(this);
-    lstTitle = new QTreeWidget(this);
-    lstTitle->setHeaderLabels({QStringLiteral("选择"), QStringLiteral("字段")});
-    lstTitle->setRootIsDecorated(false);
-    chkIsTitleLine = new QCheckBox(QStringLiteral("导入的表格中第一行包含了标题"), this);
-    auto *titleHint = new QLabel(QStringLiteral("（勾选后将从Excel第2行开始导入）"), this);
-    txtAndKey = new QLineEdit(QStringLiteral(" "), this);
-    txtAndKey->setMaxLength(3);
-    txtAndKey->setFixedWidth(60);
-    opt1 = new QRadioButton(QStringLiteral("导入的名单追加到原有名单之后"), this);
-    opt2 = new QRadioButton(QStringLiteral("完全替换原有名单"), this);
-    opt2->setChecked(true);
-    Frame2 = new QGroupBox(QStringLiteral("导入后信息样式（演示前3条记录）"), this);
-    lstUser = new QTreeWidget(Frame2);
-    lstUser->setHeaderLabels({QStringLiteral("排序"), QStringLiteral("抽奖名单(抽奖时滚动的内容)"),
-                              QStringLiteral("备注")});
-    lstUser->setRootIsDecorated(false);
-    lstUser->setColumnWidth(0, 50);
-    lstUser->setColumnWidth(1, 260);
-    txtSame = new QPlainTextEdit(Frame2);
-    txtSame->setReadOnly(true);
-    txtSame->hide();
-    auto *frameLayout = new QVBoxLayout(Frame2);
-    frameLayout->addWidget(lstUser);
-    frameLayout->addWidget(txtSame);
-    labMsg = new QLabel(this);
-    labMsg->hide();
-    cmdStart = new QPushButton(QStringLiteral("开始导入"), this);
-    cmdCancel = new QPushButton(QStringLiteral("取消"), this);
-    cmdOK = new QPushButton(QStringLiteral("确定"), this);
-    cmdOK->hide();
-    cmdMB = new QPushButton(QStringLiteral("打开excel模板"), this);
-    cmdStart->setEnabled(false);
+    m_fileLabel = new QLabel(path, this);
+    m_fileLabel->setWordWrap(true);
+    m_sheetList = new QListWidget(this);
+    m_sheetList->setObjectName(QStringLiteral("sheetList"));
+    m_columnList = new QTreeWidget(this);
+    m_columnList->setObjectName(QStringLiteral("columnList"));
+    m_columnList->setHeaderLabels({QStringLiteral("选择"), QStringLiteral("字段")});
+    m_columnList->setRootIsDecorated(false);
+    m_headerRowBox = new QCheckBox(QStringLiteral("导入的表格中第一行包含了标题"), this);
+    m_headerRowBox->setObjectName(QStringLiteral("headerRowBox"));
+    m_headerRowHint = new QLabel(QStringLiteral("（勾选后将从Excel第2行开始导入）"), this);
+    m_separatorEdit = new QLineEdit(QStringLiteral(" "), this);
+    m_separatorEdit->setMaxLength(3);
+    m_separatorEdit->setFixedWidth(60);
+    m_appendButton = new QRadioButton(QStringLiteral("导入的名单追加到原有名单之后"), this);
+    m_replaceButton = new QRadioButton(QStringLiteral("完全替换原有名单"), this);
+    m_replaceButton->setChecked(true);
+    m_previewBox = new QGroupBox(QStringLiteral("导入后信息样式（演示前3条记录）"), this);
+    m_previewBox->setObjectName(QStringLiteral("previewBox"));
+    m_previewList = new QTreeWidget(m_previewBox);
+    m_previewList->setObjectName(QStringLiteral("previewList"));
+    m_previewList->setHeaderLabels({QStringLiteral("排序"),
+                                    QStringLiteral("抽奖名单(抽奖时滚动的内容)"),
+                                    QStringLiteral("备注")});
+    m_previewList->setRootIsDecorated(false);
+    m_previewList->setColumnWidth(0, 50);
+    m_previewList->setColumnWidth(1, 260);
+    m_duplicatesEdit = new QPlainTextEdit(m_previewBox);
+    m_duplicatesEdit->setObjectName(QStringLiteral("duplicatesEdit"));
+    m_duplicatesEdit->setReadOnly(true);
+    m_duplicatesEdit->hide();
+    m_resultLabel = new QLabel(this);
+    m_resultLabel->setObjectName(QStringLiteral("resultLabel"));
+    m_resultLabel->hide();
+    m_startButton = new QPushButton(QStringLiteral("开始导入"), this);
+    m_startButton->setObjectName(QStringLiteral("startButton"));
+    m_cancelButton = new QPushButton(QStringLiteral("取消"), this);
+    m_okButton = new QPushButton(QStringLiteral("确定"), this);
+    m_okButton->setObjectName(QStringLiteral("okButton"));
+    m_okButton->hide();
+    m_templateButton = new QPushButton(QStringLiteral("打开excel模板"), this);
+    m_templateButton->setObjectName(QStringLiteral("templateButton"));
+    m_startButton->setEnabled(false);
+    buildLayout();
 
+    connect(m_sheetList, &QListWidget::currentRowChanged, this, &ExcelImportDialog::chooseSheet);
+    connect(m_columnList, &QTreeWidget::itemChanged, this, &ExcelImportDialog::preview);
+    connect(m_headerRowBox, &QCheckBox::toggled, this, &ExcelImportDialog::preview);
+    connect(m_separatorEdit, &QLineEdit::textChanged, this, &ExcelImportDialog::preview);
+    connect(m_startButton, &QPushButton::clicked, this, &ExcelImportDialog::startImport);
+    connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_okButton, &QPushButton::clicked, this, &QDialog::accept);
+    connect(m_templateButton, &QPushButton::clicked, this, [] {
+        const QUrl demo = QUrl::fromLocalFile(appState().path(QStringLiteral("demo.xlsx")));
+        if (!ui().openUrl(demo)) qCWarning(lcRoster) << "cannot open the workbook template" << demo;
+    });
+    openWorkbook(path);
+}
+
+void ExcelImportDialog::buildLayout() {
     auto *grid = new QGridLayout;
     grid->addWidget(new QLabel(QStringLiteral("工作表："), this), 0, 0);
     grid->addWidget(new QLabel(QStringLiteral("勾选组成抽奖名单的列（其余列合并为备注）："), this),
                     0, 1);
-    grid->addWidget(lstTable, 1, 0);
-    grid->addWidget(lstTitle, 1, 1);
+    grid->addWidget(m_sheetList, 1, 0);
+    grid->addWidget(m_columnList, 1, 1);
     grid->setColumnStretch(1, 2);
     auto *options = new QGridLayout;
-    options->addWidget(chkIsTitleLine, 0, 0);
-    options->addWidget(titleHint, 0, 1);
+    options->addWidget(m_headerRowBox, 0, 0);
+    options->addWidget(m_headerRowHint, 0, 1);
     options->addWidget(new QLabel(QStringLiteral("多列信息合并后中间穿插字符："), this), 1, 0);
-    options->addWidget(txtAndKey, 1, 1, Qt::AlignLeft);
-    options->addWidget(opt1, 2, 0);
-    options->addWidget(opt2, 2, 1);
+    options->addWidget(m_separatorEdit, 1, 1, Qt::AlignLeft);
+    options->addWidget(m_appendButton, 2, 0);
+    options->addWidget(m_replaceButton, 2, 1);
+    auto *previewLayout = new QVBoxLayout(m_previewBox);
+    previewLayout->addWidget(m_previewList);
+    previewLayout->addWidget(m_duplicatesEdit);
     auto *buttons = new QHBoxLayout;
-    buttons->addWidget(cmdMB);
-    buttons->addWidget(labMsg, 1);
+    buttons->addWidget(m_templateButton);
+    buttons->addWidget(m_resultLabel, 1);
     buttons->addStretch();
-    buttons->addWidget(cmdStart);
-    buttons->addWidget(cmdCancel);
-    buttons->addWidget(cmdOK);
+    buttons->addWidget(m_startButton);
+    buttons->addWidget(m_cancelButton);
+    buttons->addWidget(m_okButton);
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(labFileName);
+    layout->addWidget(m_fileLabel);
     layout->addLayout(grid, 2);
     layout->addLayout(options);
-    layout->addWidget(Frame2, 3);
-    layout->addWidget(pBar);
+    layout->addWidget(m_previewBox, 3);
+    layout->addWidget(progressBar());
     layout->addLayout(buttons);
+}
 
-    connect(lstTable, &QListWidget::currentRowChanged, this, &ExcelImportDialog::chooseSheet);
-    connect(lstTitle, &QTreeWidget::itemChanged, this, &ExcelImportDialog::preview);
-    connect(chkIsTitleLine, &QCheckBox::toggled, this, &ExcelImportDialog::preview);
-    connect(txtAndKey, &QLineEdit::textChanged, this, &ExcelImportDialog::preview);
-    connect(cmdStart, &QPushButton::clicked, this, &ExcelImportDialog::cmdStartClicked);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cmdMB, &QPushButton::clicked, this, [] {
-        ui().openUrl(QUrl::fromLocalFile(appState().path(QStringLiteral("demo.xlsx"))));
-    });
-
-    const QString path = appState().excelFile;
-    labFileName->setText(path);
+void ExcelImportDialog::openWorkbook(const QString &path) {
     QString error;
     if (!m_book.open(path, &error)) {
         ui().message(error, MsgStyle::Critical, titles::error);
-        lstTable->setEnabled(false);
-        lstTitle->setEnabled(false);
+        m_sheetList->setEnabled(false);
+        m_columnList->setEnabled(false);
         return;
     }
-    lstTable->addItems(m_book.sheetNames());
-    if (lstTable->count() == 0) {
-        lstTable->setEnabled(false);
-        lstTitle->setEnabled(false);
+    m_sheetList->addItems(m_book.sheetNames());
+    if (m_sheetList->count() == 0) {
+        m_sheetList->setEnabled(false);
+        m_columnList->setEnabled(false);
     } else {
-        lstTable->setCurrentRow(0);
+        m_sheetList->setCurrentRow(0);
     }
 }
 
@@ -127,55 +144,57 @@ void ExcelImportDialog::chooseSheet(int index) {
         ui().message(QStringLiteral("Excel中存在过多的列，这样会导致导入速度十分缓慢\n"
                                     "建议您修改Excel文件删除无用列再进行导入！"),
                      MsgStyle::Exclamation, titles::warning);
-    const QSignalBlocker blocker(lstTitle);
-    lstTitle->clear();
+    const QSignalBlocker blocker(m_columnList);
+    m_columnList->clear();
     for (int column = 0; column < m_sheet.columns; ++column) {
-        auto *item = new QTreeWidgetItem(lstTitle);
+        auto *item = new QTreeWidgetItem(m_columnList);
         item->setCheckState(0, Qt::Unchecked);
         item->setText(1, QStringLiteral("F%1").arg(column + 1));
         item->setData(0, Qt::UserRole, QStringLiteral("K%1").arg(column));
     }
-    lstUser->clear();
-    cmdStart->setEnabled(false);
+    m_previewList->clear();
+    m_startButton->setEnabled(false);
 }
 
 QList<bool> ExcelImportDialog::nameColumns() const {
     QList<bool> ticks;
-    for (int i = 0; i < lstTitle->topLevelItemCount(); ++i)
-        ticks << (lstTitle->topLevelItem(i)->checkState(0) == Qt::Checked);
+    for (int i = 0; i < m_columnList->topLevelItemCount(); ++i)
+        ticks << (m_columnList->topLevelItem(i)->checkState(0) == Qt::Checked);
     return ticks;
 }
 
 void ExcelImportDialog::preview() {
-    lstUser->clear();
-    const int skip = chkIsTitleLine->isChecked() ? 1 : 0;
+    m_previewList->clear();
+    const int skip = m_headerRowBox->isChecked() ? 1 : 0;
     const QList<bool> ticks = nameColumns();
     bool anyName = false;
     for (int i = skip; i < qMin<qsizetype>(m_sheet.rows.size(), 3 + skip); ++i) {
         QString name;
         QString part;
-        ExcelImport::mergeRow(m_sheet.rows.at(i), ticks, txtAndKey->text(), &name, &part);
+        ExcelImport::mergeRow(m_sheet.rows.at(i), ticks, m_separatorEdit->text(), &name, &part);
         anyName = anyName || !name.trimmed().isEmpty();
-        auto *item = new QTreeWidgetItem(lstUser);
+        auto *item = new QTreeWidgetItem(m_previewList);
         item->setText(0, QString::number(i - skip + 1));
         item->setText(1, name);
         item->setText(2, part);
     }
-    auto *more = new QTreeWidgetItem(lstUser);
+    auto *more = new QTreeWidgetItem(m_previewList);
     more->setText(1, QStringLiteral("以下省略更多内容..."));
-    cmdStart->setEnabled(anyName);
+    m_startButton->setEnabled(anyName);
 }
 
 void ExcelImportDialog::setInputsEnabled(bool enabled) {
-    for (QWidget *w : QList<QWidget *>{lstTable, lstTitle, chkIsTitleLine, txtAndKey, opt1, opt2,
-                                       cmdStart, cmdCancel, cmdMB})
+    for (QWidget *w : QList<QWidget *>{m_sheetList, m_columnList, m_headerRowBox, m_separatorEdit,
+                                       m_appendButton, m_replaceButton, m_startButton,
+                                       m_cancelButton, m_templateButton})
         w->setEnabled(enabled);
 }
 
-void ExcelImportDialog::cmdStartClicked() {
+void ExcelImportDialog::startImport() {
     setInputsEnabled(false);
-    if (!runJob(std::make_unique<ExcelImport>(m_sheet.rows, nameColumns(), txtAndKey->text(),
-                                              chkIsTitleLine->isChecked(), opt2->isChecked())))
+    if (!runJob(std::make_unique<ExcelImport>(m_sheet.rows, nameColumns(), m_separatorEdit->text(),
+                                              m_headerRowBox->isChecked(),
+                                              m_replaceButton->isChecked())))
         setInputsEnabled(true);
 }
 
@@ -185,16 +204,16 @@ void ExcelImportDialog::jobFinished(RosterImport::Outcome outcome) {
         return;
     }
     if (!job()->log().isEmpty()) {
-        txtSame->setPlainText(job()->log().mid(1));
-        txtSame->show();
-        lstUser->hide();
+        m_duplicatesEdit->setPlainText(job()->log().mid(1));
+        m_duplicatesEdit->show();
+        m_previewList->hide();
     }
-    if (job()->duplicates() > 0) Frame2->setTitle(QStringLiteral("重复数据"));
-    labMsg->setText(QStringLiteral("共导入数据%1条，屏蔽重复数据%2条")
-                        .arg(job()->imported())
-                        .arg(job()->duplicates()));
-    labMsg->show();
-    cmdOK->show();
-    cmdStart->hide();
-    cmdCancel->hide();
+    if (job()->duplicates() > 0) m_previewBox->setTitle(QStringLiteral("重复数据"));
+    m_resultLabel->setText(QStringLiteral("共导入数据%1条，屏蔽重复数据%2条")
+                               .arg(job()->imported())
+                               .arg(job()->duplicates()));
+    m_resultLabel->show();
+    m_okButton->show();
+    m_startButton->hide();
+    m_cancelButton->hide();
 }

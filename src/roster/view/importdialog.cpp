@@ -9,9 +9,10 @@
 
 ImportDialog::ImportDialog(const QString &closeQuestion, QWidget *parent)
     : QDialog(parent), m_closeQuestion(closeQuestion) {
-    pBar = new QProgressBar(this);
-    pBar->setTextVisible(true);
-    pBar->hide();
+    m_progressBar = new QProgressBar(this);
+    m_progressBar->setObjectName(QStringLiteral("progressBar"));
+    m_progressBar->setTextVisible(true);
+    m_progressBar->hide();
 }
 
 ImportDialog::~ImportDialog() {
@@ -26,18 +27,18 @@ bool ImportDialog::runJob(std::unique_ptr<RosterImport> job) {
     m_job = std::move(job);
     connect(m_job.get(), &RosterImport::progress, this, [this](qint64 done, qint64 total) {
         // The bar counts in thousandths, so a million rows fit its int range.
-        pBar->setValue(total > 0 ? static_cast<int>(done * 1000 / total) : 1000);
+        m_progressBar->setValue(total > 0 ? static_cast<int>(done * 1000 / total) : 1000);
     });
     connect(m_job.get(), &RosterImport::finished, this, [this](RosterImport::Outcome outcome) {
-        pBar->setValue(pBar->maximum());
+        m_progressBar->setValue(m_progressBar->maximum());
         if (outcome == RosterImport::Outcome::Finished) emit events().rosterChanged();
         if (outcome == RosterImport::Outcome::Failed)
             showFailure(QStringLiteral("导入发生错误,错误原因如下\n") + m_job->errorText());
         jobFinished(outcome);
     });
-    pBar->setRange(0, 1000);
-    pBar->setValue(0);
-    pBar->show();
+    m_progressBar->setRange(0, 1000);
+    m_progressBar->setValue(0);
+    m_progressBar->show();
     QString error;
     if (!m_job->start(&error)) {
         showFailure(error);

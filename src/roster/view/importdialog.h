@@ -20,9 +20,9 @@ public:
     // Waits on the event loop until the running job ends (tests, screenshots).
     void waitForJob();
 
-    QProgressBar *pBar = nullptr;
-
 protected:
+    // The job's progress, for the derived dialog's layout (hidden until a job starts).
+    QProgressBar *progressBar() const { return m_progressBar; }
     // Starts the job; a job that cannot start shows its message and returns false.
     bool runJob(std::unique_ptr<RosterImport> job);
     virtual void jobFinished(RosterImport::Outcome outcome) = 0;
@@ -32,6 +32,7 @@ protected:
     void showFailure(const QString &text);
 
 private:
+    QProgressBar *m_progressBar = nullptr;
     std::unique_ptr<RosterImport> m_job;
     QString m_closeQuestion;
 };

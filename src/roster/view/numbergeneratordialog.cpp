@@ -15,93 +15,110 @@
 #include "core/ui.h"
 #include "roster/view/editorparts.h"
 
+namespace {
+const QString kMaskedHeading = QStringLiteral("屏蔽数据如下：\n");
+}  // namespace
+
 NumberGeneratorDialog::NumberGeneratorDialog(QWidget *parent)
     : ImportDialog(QStringLiteral("编号正在生成当中...，确认要退出么？"), parent) {
     setWindowTitle(QStringLiteral("编号生成"));
     resize(520, 480);
-    auto *Frame1 = new QGroupBox(QStringLiteral("编号选项参数"), this);
-    txtS1 = new QLineEdit(QStringLiteral("ST"), Frame1);
-    txtS1->setToolTip(QStringLiteral("如不需前缀可不填写，保留为空"));
-    txtS2 = new QLineEdit(QStringLiteral("E"), Frame1);
-    txtS2->setToolTip(QStringLiteral("如不需后缀可不填写，保留为空"));
-    txtStart = new QLineEdit(QStringLiteral("1"), Frame1);
-    txtEnd = new QLineEdit(QStringLiteral("1000"), Frame1);
-    for (QLineEdit *edit : {txtStart, txtEnd}) {
-        edit->setMaxLength(5);
-        editorparts::makeDigitsOnly(edit);
-    }
-    chkB = new QCheckBox(QStringLiteral("编号位数不足则补充字符"), Frame1);
-    chkB->setChecked(true);
-    txtB = new QLineEdit(QStringLiteral("0"), Frame1);
-    txtB->setMaxLength(1);
-    txtB->setFixedWidth(40);
-    txtMsk = new QLineEdit(Frame1);
-    txtMsk->setToolTip(QStringLiteral("生成的编号中将不包含此处录入的数字"));
-    auto *label7 = new QLabel(QStringLiteral("提示：多组屏蔽数字可以用逗号隔开 如(4,13)"), Frame1);
-    label7->setStyleSheet(QStringLiteral("color:#8a5a00;"));
-    labYS = new QLabel(Frame1);
-    labYS->setStyleSheet(QStringLiteral("font-weight:bold; color:#1d4f91;"));
-    auto *pad = new QHBoxLayout;
-    pad->addWidget(chkB);
-    pad->addWidget(txtB);
-    pad->addStretch();
-    auto *form = new QFormLayout(Frame1);
-    form->addRow(QStringLiteral("编号前缀："), txtS1);
-    form->addRow(QStringLiteral("编号后缀："), txtS2);
-    form->addRow(QStringLiteral("开始数值："), txtStart);
-    form->addRow(QStringLiteral("结束数值："), txtEnd);
-    form->addRow(pad);
-    form->addRow(QStringLiteral("屏蔽数字："), txtMsk);
-    form->addRow(label7);
-    form->addRow(QStringLiteral("效果演示："), labYS);
+    QWidget *optionsBox = buildOptions();
 
-    picShow = new QWidget(this);
-    txtTJ = new QPlainTextEdit(picShow);
-    txtTJ->setReadOnly(true);
-    auto *show = new QVBoxLayout(picShow);
-    show->setContentsMargins(0, 0, 0, 0);
-    show->addWidget(txtTJ);
-    show->addWidget(pBar);
-    picShow->hide();
-    labMsg = new QLabel(this);
-    labMsg->hide();
-    cmdStart = new QPushButton(QStringLiteral("开始生成"), this);
-    cmdExit = new QPushButton(QStringLiteral("取消"), this);
-    cmdOk = new QPushButton(QStringLiteral("确定"), this);
-    cmdOk->hide();
+    m_progressPanel = new QWidget(this);
+    m_maskedCodesEdit = new QPlainTextEdit(m_progressPanel);
+    m_maskedCodesEdit->setObjectName(QStringLiteral("maskedCodesEdit"));
+    m_maskedCodesEdit->setReadOnly(true);
+    auto *progress = new QVBoxLayout(m_progressPanel);
+    progress->setContentsMargins(0, 0, 0, 0);
+    progress->addWidget(m_maskedCodesEdit);
+    progress->addWidget(progressBar());
+    m_progressPanel->hide();
+    m_resultLabel = new QLabel(this);
+    m_resultLabel->setObjectName(QStringLiteral("resultLabel"));
+    m_resultLabel->hide();
+    m_startButton = new QPushButton(QStringLiteral("开始生成"), this);
+    m_startButton->setObjectName(QStringLiteral("startButton"));
+    m_cancelButton = new QPushButton(QStringLiteral("取消"), this);
+    m_okButton = new QPushButton(QStringLiteral("确定"), this);
+    m_okButton->setObjectName(QStringLiteral("okButton"));
+    m_okButton->hide();
     auto *buttons = new QHBoxLayout;
-    buttons->addWidget(labMsg, 1);
-    buttons->addWidget(cmdStart);
-    buttons->addWidget(cmdExit);
-    buttons->addWidget(cmdOk);
+    buttons->addWidget(m_resultLabel, 1);
+    buttons->addWidget(m_startButton);
+    buttons->addWidget(m_cancelButton);
+    buttons->addWidget(m_okButton);
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(Frame1);
-    layout->addWidget(picShow, 1);
+    layout->addWidget(optionsBox);
+    layout->addWidget(m_progressPanel, 1);
     layout->addStretch();
     layout->addLayout(buttons);
 
-    for (QLineEdit *edit : {txtS1, txtS2, txtB})
-        connect(edit, &QLineEdit::textEdited, this, &NumberGeneratorDialog::showPreview);
-    connect(txtStart, &QLineEdit::textEdited, this,
-            [this] { boundEdited(txtStart, QStringLiteral("起始数值不能为空")); });
-    connect(txtEnd, &QLineEdit::textEdited, this,
-            [this] { boundEdited(txtEnd, QStringLiteral("终止数值不能为空！")); });
-    connect(chkB, &QCheckBox::toggled, txtB, &QLineEdit::setEnabled);
-    connect(cmdStart, &QPushButton::clicked, this, &NumberGeneratorDialog::cmdStartClicked);
-    connect(cmdExit, &QPushButton::clicked, this, &QDialog::reject);
-    connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
-    showPreview();
+    for (QLineEdit *edit : {m_prefixEdit, m_suffixEdit, m_padEdit})
+        connect(edit, &QLineEdit::textEdited, this, &NumberGeneratorDialog::showSample);
+    connect(m_startEdit, &QLineEdit::textEdited, this,
+            [this] { boundEdited(m_startEdit, QStringLiteral("起始数值不能为空")); });
+    connect(m_endEdit, &QLineEdit::textEdited, this,
+            [this] { boundEdited(m_endEdit, QStringLiteral("终止数值不能为空！")); });
+    connect(m_padBox, &QCheckBox::toggled, m_padEdit, &QLineEdit::setEnabled);
+    connect(m_startButton, &QPushButton::clicked, this, &NumberGeneratorDialog::startGenerating);
+    connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_okButton, &QPushButton::clicked, this, &QDialog::accept);
+    showSample();
+}
+
+QWidget *NumberGeneratorDialog::buildOptions() {
+    auto *box = new QGroupBox(QStringLiteral("编号选项参数"), this);
+    m_prefixEdit = new QLineEdit(QStringLiteral("ST"), box);
+    m_prefixEdit->setToolTip(QStringLiteral("如不需前缀可不填写，保留为空"));
+    m_suffixEdit = new QLineEdit(QStringLiteral("E"), box);
+    m_suffixEdit->setToolTip(QStringLiteral("如不需后缀可不填写，保留为空"));
+    m_startEdit = new QLineEdit(QStringLiteral("1"), box);
+    m_startEdit->setObjectName(QStringLiteral("startEdit"));
+    m_endEdit = new QLineEdit(QStringLiteral("1000"), box);
+    m_endEdit->setObjectName(QStringLiteral("endEdit"));
+    for (QLineEdit *edit : {m_startEdit, m_endEdit}) {
+        edit->setMaxLength(5);
+        editorparts::makeDigitsOnly(edit);
+    }
+    m_padBox = new QCheckBox(QStringLiteral("编号位数不足则补充字符"), box);
+    m_padBox->setChecked(true);
+    m_padEdit = new QLineEdit(QStringLiteral("0"), box);
+    m_padEdit->setMaxLength(1);
+    m_padEdit->setFixedWidth(40);
+    m_maskEdit = new QLineEdit(box);
+    m_maskEdit->setObjectName(QStringLiteral("maskEdit"));
+    m_maskEdit->setToolTip(QStringLiteral("生成的编号中将不包含此处录入的数字"));
+    auto *maskHint = new QLabel(QStringLiteral("提示：多组屏蔽数字可以用逗号隔开 如(4,13)"), box);
+    maskHint->setStyleSheet(QStringLiteral("color:#8a5a00;"));
+    m_sampleLabel = new QLabel(box);
+    m_sampleLabel->setObjectName(QStringLiteral("sampleLabel"));
+    m_sampleLabel->setStyleSheet(QStringLiteral("font-weight:bold; color:#1d4f91;"));
+    auto *pad = new QHBoxLayout;
+    pad->addWidget(m_padBox);
+    pad->addWidget(m_padEdit);
+    pad->addStretch();
+    auto *form = new QFormLayout(box);
+    form->addRow(QStringLiteral("编号前缀："), m_prefixEdit);
+    form->addRow(QStringLiteral("编号后缀："), m_suffixEdit);
+    form->addRow(QStringLiteral("开始数值："), m_startEdit);
+    form->addRow(QStringLiteral("结束数值："), m_endEdit);
+    form->addRow(pad);
+    form->addRow(QStringLiteral("屏蔽数字："), m_maskEdit);
+    form->addRow(maskHint);
+    form->addRow(QStringLiteral("效果演示："), m_sampleLabel);
+    return box;
 }
 
 numbergen::Options NumberGeneratorDialog::options() const {
     numbergen::Options o;
-    o.prefix = txtS1->text();
-    o.suffix = txtS2->text();
-    o.startText = txtStart->text();
-    o.endText = txtEnd->text();
-    o.pad = chkB->isChecked();
-    o.padText = txtB->text();
-    o.mask = txtMsk->text();
+    o.prefix = m_prefixEdit->text();
+    o.suffix = m_suffixEdit->text();
+    o.startText = m_startEdit->text();
+    o.endText = m_endEdit->text();
+    o.pad = m_padBox->isChecked();
+    o.padText = m_padEdit->text();
+    o.mask = m_maskEdit->text();
     return o;
 }
 
@@ -111,12 +128,12 @@ void NumberGeneratorDialog::boundEdited(QLineEdit *edit, const QString &emptyMes
         edit->setFocus();
         return;
     }
-    showPreview();
+    showSample();
 }
 
-bool NumberGeneratorDialog::showPreview() {
+bool NumberGeneratorDialog::showSample() {
     const QString text = numbergen::previewText(options());
-    labYS->setText(text);
+    m_sampleLabel->setText(text);
     if (text.isEmpty()) {
         ui().message(QStringLiteral("开始数值只能小于终止数值!"), MsgStyle::Critical,
                      titles::error);
@@ -125,35 +142,41 @@ bool NumberGeneratorDialog::showPreview() {
     return true;
 }
 
-void NumberGeneratorDialog::cmdStartClicked() {
+void NumberGeneratorDialog::startGenerating() {
     if (numbergen::previewText(options()).isEmpty()) {
-        showPreview();
+        showSample();
         return;
     }
     if (!ui().question(QStringLiteral("生成数字编号将会完全覆盖原来名单\n您确认要生成编号么？"),
                        QStringLiteral("重要提示")))
         return;
-    for (QWidget *w : QList<QWidget *>{txtS1, txtS2, txtStart, txtEnd, chkB, txtB, txtMsk})
+    for (QWidget *w : QList<QWidget *>{m_prefixEdit, m_suffixEdit, m_startEdit, m_endEdit, m_padBox,
+                                       m_padEdit, m_maskEdit})
         w->setEnabled(false);
-    cmdStart->hide();
-    cmdExit->hide();
-    cmdOk->show();
-    cmdOk->setEnabled(false);
-    txtTJ->setPlainText(QStringLiteral("屏蔽数据如下：\n"));
-    picShow->show();
+    m_startButton->hide();
+    m_cancelButton->hide();
+    m_okButton->show();
+    m_okButton->setEnabled(false);
+    m_maskedCodesEdit->setPlainText(kMaskedHeading);
+    m_progressPanel->show();
     auto generation = std::make_unique<NumberGeneration>(options());
     connect(generation.get(), &RosterImport::progress, this, [this] {
-        txtTJ->setPlainText(QStringLiteral("屏蔽数据如下：\n") + job()->log());
-        txtTJ->verticalScrollBar()->setValue(txtTJ->verticalScrollBar()->maximum());
+        showMaskedCodes();
+        m_maskedCodesEdit->verticalScrollBar()->setValue(
+            m_maskedCodesEdit->verticalScrollBar()->maximum());
     });
     runJob(std::move(generation));
 }
 
+void NumberGeneratorDialog::showMaskedCodes() {
+    m_maskedCodesEdit->setPlainText(kMaskedHeading + job()->log());
+}
+
 void NumberGeneratorDialog::jobFinished(RosterImport::Outcome outcome) {
-    cmdOk->setEnabled(true);
+    m_okButton->setEnabled(true);
     if (outcome != RosterImport::Outcome::Finished) return;
-    txtTJ->setPlainText(QStringLiteral("屏蔽数据如下：\n") + job()->log());
-    labMsg->setText(
+    showMaskedCodes();
+    m_resultLabel->setText(
         QStringLiteral("共导入%1条，屏蔽%2条").arg(job()->imported()).arg(job()->duplicates()));
-    labMsg->show();
+    m_resultLabel->show();
 }

@@ -4,7 +4,6 @@
 #include "roster/view/importdialog.h"
 
 class QCheckBox;
-class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
@@ -17,29 +16,30 @@ class NumberGeneratorDialog : public ImportDialog {
 public:
     explicit NumberGeneratorDialog(QWidget *parent = nullptr);
 
-    // Shows the first and the last code; false (after the message) when the range is wrong.
-    bool showPreview();
-    void cmdStartClicked();
-    numbergen::Options options() const;
-
-    QLineEdit *txtS1 = nullptr;
-    QLineEdit *txtS2 = nullptr;
-    QLineEdit *txtStart = nullptr;
-    QLineEdit *txtEnd = nullptr;
-    QCheckBox *chkB = nullptr;
-    QLineEdit *txtB = nullptr;
-    QLineEdit *txtMsk = nullptr;
-    QLabel *labYS = nullptr;
-    QPlainTextEdit *txtTJ = nullptr;
-    QWidget *picShow = nullptr;
-    QLabel *labMsg = nullptr;
-    QPushButton *cmdStart = nullptr;
-    QPushButton *cmdExit = nullptr;
-    QPushButton *cmdOk = nullptr;
-
 protected:
     void jobFinished(RosterImport::Outcome outcome) override;
 
 private:
+    QWidget *buildOptions();
+    numbergen::Options options() const;
+    // Shows the first and the last code; false (after the message) when the range is wrong.
+    bool showSample();
     void boundEdited(QLineEdit *edit, const QString &emptyMessage);
+    void startGenerating();
+    void showMaskedCodes();
+
+    QLineEdit *m_prefixEdit = nullptr;
+    QLineEdit *m_suffixEdit = nullptr;
+    QLineEdit *m_startEdit = nullptr;
+    QLineEdit *m_endEdit = nullptr;
+    QCheckBox *m_padBox = nullptr;
+    QLineEdit *m_padEdit = nullptr;
+    QLineEdit *m_maskEdit = nullptr;
+    QLabel *m_sampleLabel = nullptr;
+    QWidget *m_progressPanel = nullptr;
+    QPlainTextEdit *m_maskedCodesEdit = nullptr;
+    QLabel *m_resultLabel = nullptr;
+    QPushButton *m_startButton = nullptr;
+    QPushButton *m_cancelButton = nullptr;
+    QPushButton *m_okButton = nullptr;
 };

@@ -19,117 +19,122 @@ PhotoImportDialog::PhotoImportDialog(QWidget *parent)
     : ImportDialog(QStringLiteral("文件正在导入中，确认要退出么？"), parent) {
     setWindowTitle(QStringLiteral("导入照片"));
     resize(560, 440);
-    auto *frm1 = new QGroupBox(QStringLiteral("选择照片目录"), this);
-    cmdOpen = new QPushButton(QStringLiteral("选择.."), frm1);
-    auto *label1 = new QLabel(QStringLiteral("可以按CTRL+A全选要导入的照片"), frm1);
-    auto *label3 = new QLabel(QStringLiteral("参考格式：(张三.jpg 或 张三,宣传部.jpg) "), frm1);
-    label3->setStyleSheet(QStringLiteral("color:#8a5a00;"));
-    auto *open = new QGridLayout(frm1);
-    open->addWidget(cmdOpen, 0, 0);
-    open->addWidget(label1, 0, 1);
-    open->addWidget(label3, 1, 1);
+    auto *chooseBox = new QGroupBox(QStringLiteral("选择照片目录"), this);
+    m_chooseButton = new QPushButton(QStringLiteral("选择.."), chooseBox);
+    m_chooseButton->setObjectName(QStringLiteral("chooseButton"));
+    auto *selectAllHint = new QLabel(QStringLiteral("可以按CTRL+A全选要导入的照片"), chooseBox);
+    auto *namingHint =
+        new QLabel(QStringLiteral("参考格式：(张三.jpg 或 张三,宣传部.jpg) "), chooseBox);
+    namingHint->setStyleSheet(QStringLiteral("color:#8a5a00;"));
+    auto *choose = new QGridLayout(chooseBox);
+    choose->addWidget(m_chooseButton, 0, 0);
+    choose->addWidget(selectAllHint, 0, 1);
+    choose->addWidget(namingHint, 1, 1);
 
-    chkYS = new QCheckBox(QStringLiteral("启用智能图片压缩"), this);
-    chkYS->setChecked(true);
-    auto *lab = new QLabel(QStringLiteral("(如果您的图片较大,建议启用)"), this);
-    sld = new QSlider(Qt::Horizontal, this);
-    sld->setRange(1, 10);
-    sld->setValue(8);
-    labFW = new QLabel(QStringLiteral("像素范围(800x800)内"), this);
-    auto *label2 = new QLabel(QStringLiteral("如果您导入的照片未经处理,建议启用压缩"), this);
-    label2->setStyleSheet(QStringLiteral("color:#8a5a00;"));
-    opt1 = new QRadioButton(QStringLiteral("追加名单"), this);
-    opt1->setToolTip(QStringLiteral("导入的名单将追加到原有名单之后"));
-    opt1->setChecked(true);
-    opt2 = new QRadioButton(QStringLiteral("覆盖名单"), this);
-    opt2->setToolTip(QStringLiteral("导入的名单将完全替换原有名单"));
-    txtInfo = new QPlainTextEdit(this);
-    txtInfo->setReadOnly(true);
-    txtInfo->hide();
-    labmsg = new QLabel(QStringLiteral("请选择照片"), this);
-    cmdStart = new QPushButton(QStringLiteral("开始"), this);
-    cmdExit = new QPushButton(QStringLiteral("取消"), this);
-    cmdOk = new QPushButton(QStringLiteral("确定"), this);
-    cmdOk->hide();
-    cmdStart->setEnabled(false);
+    m_shrinkBox = new QCheckBox(QStringLiteral("启用智能图片压缩"), this);
+    m_shrinkBox->setChecked(true);
+    m_shrinkHint = new QLabel(QStringLiteral("(如果您的图片较大,建议启用)"), this);
+    m_sizeSlider = new QSlider(Qt::Horizontal, this);
+    m_sizeSlider->setObjectName(QStringLiteral("sizeSlider"));
+    m_sizeSlider->setRange(1, 10);
+    m_sizeSlider->setValue(8);
+    m_sizeLabel = new QLabel(QStringLiteral("像素范围(800x800)内"), this);
+    m_sizeLabel->setObjectName(QStringLiteral("sizeLabel"));
+    m_rawPhotosHint = new QLabel(QStringLiteral("如果您导入的照片未经处理,建议启用压缩"), this);
+    m_rawPhotosHint->setStyleSheet(QStringLiteral("color:#8a5a00;"));
+    m_appendButton = new QRadioButton(QStringLiteral("追加名单"), this);
+    m_appendButton->setToolTip(QStringLiteral("导入的名单将追加到原有名单之后"));
+    m_appendButton->setChecked(true);
+    m_replaceButton = new QRadioButton(QStringLiteral("覆盖名单"), this);
+    m_replaceButton->setToolTip(QStringLiteral("导入的名单将完全替换原有名单"));
+    m_logEdit = new QPlainTextEdit(this);
+    m_logEdit->setObjectName(QStringLiteral("logEdit"));
+    m_logEdit->setReadOnly(true);
+    m_logEdit->hide();
+    m_statusLabel = new QLabel(QStringLiteral("请选择照片"), this);
+    m_statusLabel->setObjectName(QStringLiteral("statusLabel"));
+    m_startButton = new QPushButton(QStringLiteral("开始"), this);
+    m_startButton->setObjectName(QStringLiteral("startButton"));
+    m_cancelButton = new QPushButton(QStringLiteral("取消"), this);
+    m_okButton = new QPushButton(QStringLiteral("确定"), this);
+    m_okButton->hide();
+    m_startButton->setEnabled(false);
+    buildLayout(chooseBox);
 
-    auto *compress = new QGridLayout;
-    compress->addWidget(chkYS, 0, 0);
-    compress->addWidget(lab, 0, 1);
-    compress->addWidget(sld, 1, 0);
-    compress->addWidget(labFW, 1, 1);
-    compress->addWidget(label2, 2, 0, 1, 2);
-    auto *choice = new QHBoxLayout;
-    choice->addWidget(opt1);
-    choice->addWidget(opt2);
-    choice->addStretch();
-    auto *buttons = new QHBoxLayout;
-    buttons->addWidget(labmsg, 1);
-    buttons->addWidget(cmdStart);
-    buttons->addWidget(cmdExit);
-    buttons->addWidget(cmdOk);
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(frm1);
-    layout->addLayout(compress);
-    layout->addLayout(choice);
-    layout->addWidget(txtInfo, 1);
-    layout->addStretch();
-    layout->addWidget(pBar);
-    layout->addLayout(buttons);
-
-    connect(chkYS, &QCheckBox::toggled, sld, &QSlider::setEnabled);
-    connect(sld, &QSlider::valueChanged, this, [this](int value) {
-        labFW->setText(QStringLiteral("像素范围(%1x%1)内").arg(value * 100));
+    connect(m_shrinkBox, &QCheckBox::toggled, m_sizeSlider, &QSlider::setEnabled);
+    connect(m_sizeSlider, &QSlider::valueChanged, this, [this](int value) {
+        m_sizeLabel->setText(QStringLiteral("像素范围(%1x%1)内").arg(value * 100));
     });
-    connect(cmdOpen, &QPushButton::clicked, this, &PhotoImportDialog::cmdOpenClicked);
-    connect(cmdStart, &QPushButton::clicked, this, &PhotoImportDialog::cmdStartClicked);
-    connect(cmdExit, &QPushButton::clicked, this, &QDialog::reject);
-    connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
+    connect(m_chooseButton, &QPushButton::clicked, this, &PhotoImportDialog::chooseFiles);
+    connect(m_startButton, &QPushButton::clicked, this, &PhotoImportDialog::startImport);
+    connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_okButton, &QPushButton::clicked, this, &QDialog::accept);
 }
 
-void PhotoImportDialog::cmdOpenClicked() {
+void PhotoImportDialog::buildLayout(QWidget *chooseBox) {
+    auto *shrink = new QGridLayout;
+    shrink->addWidget(m_shrinkBox, 0, 0);
+    shrink->addWidget(m_shrinkHint, 0, 1);
+    shrink->addWidget(m_sizeSlider, 1, 0);
+    shrink->addWidget(m_sizeLabel, 1, 1);
+    shrink->addWidget(m_rawPhotosHint, 2, 0, 1, 2);
+    auto *choice = new QHBoxLayout;
+    choice->addWidget(m_appendButton);
+    choice->addWidget(m_replaceButton);
+    choice->addStretch();
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(m_statusLabel, 1);
+    buttons->addWidget(m_startButton);
+    buttons->addWidget(m_cancelButton);
+    buttons->addWidget(m_okButton);
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(chooseBox);
+    layout->addLayout(shrink);
+    layout->addLayout(choice);
+    layout->addWidget(m_logEdit, 1);
+    layout->addStretch();
+    layout->addWidget(progressBar());
+    layout->addLayout(buttons);
+}
+
+void PhotoImportDialog::chooseFiles() {
     const QStringList files = ui().openFiles(
         QStringLiteral("导入照片"), QString(),
         QStringLiteral("所有图片文件 (*.jpg *.gif *.jpeg *.png);;JPG Files(*.jpg *.jpeg);;"
                        "GIF Files(*.gif);;PNG Files(*.png)"));
-    if (!files.isEmpty()) setFiles(files);
-}
-
-void PhotoImportDialog::setFiles(const QStringList &files) {
+    if (files.isEmpty()) return;
     m_files = files;
-    labmsg->setText(QStringLiteral("共加载图片%1张，请点开始导入。").arg(files.size()));
-    cmdStart->setEnabled(!files.isEmpty());
+    m_statusLabel->setText(QStringLiteral("共加载图片%1张，请点开始导入。").arg(files.size()));
+    m_startButton->setEnabled(true);
 }
 
-void PhotoImportDialog::cmdStartClicked() {
-    cmdStart->hide();
-    cmdExit->hide();
-    cmdOpen->hide();
-    cmdOk->show();
-    cmdOk->setEnabled(false);
-    txtInfo->show();
-    chkYS->setEnabled(false);
-    sld->setEnabled(false);
-    opt1->setEnabled(false);
-    opt2->setEnabled(false);
-    auto photos =
-        std::make_unique<PhotoImport>(m_files, chkYS->isChecked(), sld->value(), opt2->isChecked());
+void PhotoImportDialog::startImport() {
+    m_startButton->hide();
+    m_cancelButton->hide();
+    m_chooseButton->hide();
+    m_okButton->show();
+    m_okButton->setEnabled(false);
+    m_logEdit->show();
+    for (QWidget *w : QList<QWidget *>{m_shrinkBox, m_sizeSlider, m_appendButton, m_replaceButton})
+        w->setEnabled(false);
+    auto photos = std::make_unique<PhotoImport>(
+        m_files, m_shrinkBox->isChecked(), m_sizeSlider->value(), m_replaceButton->isChecked());
     connect(photos.get(), &RosterImport::progress, this, [this](qint64 done, qint64 total) {
-        labmsg->setText(QStringLiteral("导入数据中......,完成%1/%2").arg(done).arg(total));
-        txtInfo->setPlainText(job()->log().mid(1));
+        m_statusLabel->setText(QStringLiteral("导入数据中......,完成%1/%2").arg(done).arg(total));
+        m_logEdit->setPlainText(job()->log().mid(1));
     });
     runJob(std::move(photos));
 }
 
 void PhotoImportDialog::jobFinished(RosterImport::Outcome outcome) {
-    cmdOk->setEnabled(true);
+    m_okButton->setEnabled(true);
     if (outcome != RosterImport::Outcome::Finished) return;
     QString text = job()->log().mid(1);
     if (!text.isEmpty()) text += QLatin1Char('\n');
     text += QStringLiteral("导入名单%1条\n重复%2条,请点确定按钮刷新")
                 .arg(job()->imported())
                 .arg(job()->duplicates());
-    txtInfo->setPlainText(text);
-    txtInfo->verticalScrollBar()->setValue(txtInfo->verticalScrollBar()->maximum());
-    labmsg->hide();
+    m_logEdit->setPlainText(text);
+    m_logEdit->verticalScrollBar()->setValue(m_logEdit->verticalScrollBar()->maximum());
+    m_statusLabel->hide();
 }

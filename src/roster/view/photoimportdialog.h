@@ -16,25 +16,26 @@ class PhotoImportDialog : public ImportDialog {
 public:
     explicit PhotoImportDialog(QWidget *parent = nullptr);
 
-    void cmdOpenClicked();
-    void setFiles(const QStringList &files);
-    void cmdStartClicked();
-
-    QPushButton *cmdOpen = nullptr;
-    QCheckBox *chkYS = nullptr;
-    QSlider *sld = nullptr;
-    QLabel *labFW = nullptr;
-    QRadioButton *opt1 = nullptr;
-    QRadioButton *opt2 = nullptr;
-    QPlainTextEdit *txtInfo = nullptr;
-    QLabel *labmsg = nullptr;
-    QPushButton *cmdStart = nullptr;
-    QPushButton *cmdExit = nullptr;
-    QPushButton *cmdOk = nullptr;
-
 protected:
     void jobFinished(RosterImport::Outcome outcome) override;
 
 private:
+    void buildLayout(QWidget *chooseBox);
+    void chooseFiles();
+    void startImport();
+
+    QPushButton *m_chooseButton = nullptr;
+    QCheckBox *m_shrinkBox = nullptr;
+    QLabel *m_shrinkHint = nullptr;
+    QSlider *m_sizeSlider = nullptr;
+    QLabel *m_sizeLabel = nullptr;
+    QLabel *m_rawPhotosHint = nullptr;
+    QRadioButton *m_appendButton = nullptr;
+    QRadioButton *m_replaceButton = nullptr;
+    QPlainTextEdit *m_logEdit = nullptr;
+    QLabel *m_statusLabel = nullptr;
+    QPushButton *m_startButton = nullptr;
+    QPushButton *m_cancelButton = nullptr;
+    QPushButton *m_okButton = nullptr;
     QStringList m_files;
 };

@@ -6,6 +6,7 @@
 
 #include "core/appstate.h"
 #include "core/helpers.h"
+#include "core/logging.h"
 #include "stage/protocol.h"
 #include "stage/view/stagefactory.h"
 
@@ -26,7 +27,10 @@ PictureBox::~PictureBox() = default;
 bool PictureBox::start() {
     // The fallback stage never reports "loadok"; waiting for it would leave screens empty.
     if (qobject_cast<SilentStage *>(m_stage.get())) return false;
-    return m_stage->loadMovie(appState().path(appState().moviePhoto));
+    const QString movie = appState().path(appState().moviePhoto);
+    if (m_stage->loadMovie(movie)) return true;
+    qCWarning(lcRoster) << "cannot load the picture viewer" << movie;
+    return false;
 }
 
 void PictureBox::showPicture(const QString &path) {

@@ -19,7 +19,6 @@ public:
     // Shows a picture (a path relative to the program folder or absolute), or nothing.
     void showPicture(const QString &path);
     void clearPicture();
-    Stage *stage() const { return m_stage.get(); }
 
 Q_SIGNALS:
     void loaded();

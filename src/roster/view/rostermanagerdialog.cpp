@@ -15,8 +15,8 @@
 #include <QVBoxLayout>
 
 #include "chrome/widgethelpers.h"
-#include "core/appstate.h"
 #include "core/events.h"
+#include "core/logging.h"
 #include "core/settings.h"
 #include "core/store.h"
 #include "core/ui.h"
@@ -46,9 +46,9 @@ RosterManagerDialog::RosterManagerDialog(QWidget *parent) : QDialog(parent) {
     layout->addWidget(buildEditor());
     setEditorEnabled(false);
     // The first fill waits for the viewer's "loadok", as its picture follows the selection.
-    connect(imgViewBox, &PictureBox::loaded, this,
-            [this] { rdUserLst(QString(), QString(), m_page); });
-    if (!imgViewBox->start()) rdUserLst(QString(), QString(), m_page);
+    connect(m_pictureBox, &PictureBox::loaded, this,
+            [this] { showParticipants(QString(), m_page); });
+    if (!m_pictureBox->start()) showParticipants(QString(), m_page);
 }
 
 RosterManagerDialog::~RosterManagerDialog() = default;
@@ -59,155 +59,182 @@ void RosterManagerDialog::showManager(QWidget *parent) {
     emit events().rosterChanged();
 }
 
-QWidget *RosterManagerDialog::buildList() {
-    auto *panel = new QWidget(this);
-    Toolbar = new QToolBar(panel);
-    Toolbar->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    const QList<QPair<QString, void (RosterManagerDialog::*)()>> actions{
-        {QStringLiteral("  全选"), &RosterManagerDialog::selectAll},
-        {QStringLiteral("增加名单"), &RosterManagerDialog::addUser},
-        {QStringLiteral("删除名单"), &RosterManagerDialog::deleteTicked},
-        {QString(), nullptr},
-        {QStringLiteral("导入Excel"), &RosterManagerDialog::importExcel},
-        {QStringLiteral("导入txt   "), &RosterManagerDialog::importTxt},
-        {QStringLiteral("导入照片"), &RosterManagerDialog::importPhotos},
-        {QStringLiteral("生成编号"), &RosterManagerDialog::generateNumbers}};
-    for (const auto &action : actions) {
-        if (!action.second) {
-            Toolbar->addSeparator();
+QToolBar *RosterManagerDialog::buildToolbar(QWidget *parent) {
+    struct ToolAction {
+        QString text;
+        const char *name;
+        void (RosterManagerDialog::*handler)();
+    };
+    const QList<ToolAction> actions{
+        {QStringLiteral("  全选"), "tickAllAction", &RosterManagerDialog::toggleAllTicks},
+        {QStringLiteral("增加名单"), "addAction", &RosterManagerDialog::addParticipant},
+        {QStringLiteral("删除名单"), "deleteAction", &RosterManagerDialog::deleteTicked},
+        {QString(), nullptr, nullptr},
+        {QStringLiteral("导入Excel"), "importExcelAction", &RosterManagerDialog::importExcel},
+        {QStringLiteral("导入txt   "), "importTextAction", &RosterManagerDialog::importText},
+        {QStringLiteral("导入照片"), "importPhotosAction", &RosterManagerDialog::importPhotos},
+        {QStringLiteral("生成编号"), "generateNumbersAction",
+         &RosterManagerDialog::generateNumbers}};
+    auto *toolbar = new QToolBar(parent);
+    toolbar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    for (const ToolAction &action : actions) {
+        if (!action.handler) {
+            toolbar->addSeparator();
             continue;
         }
-        connect(Toolbar->addAction(action.first), &QAction::triggered, this, action.second);
+        QAction *added = toolbar->addAction(action.text);
+        added->setObjectName(QLatin1String(action.name));
+        connect(added, &QAction::triggered, this, action.handler);
     }
+    return toolbar;
+}
 
-    txtKey = new QLineEdit(panel);
-    txtKey->setPlaceholderText(QStringLiteral("输入名单关键字"));
-    cmdCancelKey = new QPushButton(QStringLiteral("×"), panel);
-    cmdCancelKey->setToolTip(QStringLiteral("清除查询关键字"));
-    cmdCancelKey->setFixedWidth(28);
-    cmdSearch = new QPushButton(QStringLiteral("查找名单"), panel);
-    comboType = new QComboBox(panel);
-    comboType->addItems({QStringLiteral("默认排序"), QStringLiteral("按备注信息排序"),
-                         QStringLiteral("按区分编号排序"), QStringLiteral("按状态排序")});
+QWidget *RosterManagerDialog::buildList() {
+    auto *panel = new QWidget(this);
+    QToolBar *toolbar = buildToolbar(panel);
+
+    m_searchEdit = new QLineEdit(panel);
+    m_searchEdit->setObjectName(QStringLiteral("searchEdit"));
+    m_searchEdit->setPlaceholderText(QStringLiteral("输入名单关键字"));
+    m_clearSearchButton = new QPushButton(QStringLiteral("×"), panel);
+    m_clearSearchButton->setToolTip(QStringLiteral("清除查询关键字"));
+    m_clearSearchButton->setFixedWidth(28);
+    m_searchButton = new QPushButton(QStringLiteral("查找名单"), panel);
+    m_searchButton->setObjectName(QStringLiteral("searchButton"));
+    m_sortCombo = new QComboBox(panel);
+    m_sortCombo->setObjectName(QStringLiteral("sortCombo"));
+    m_sortCombo->addItems({QStringLiteral("默认排序"), QStringLiteral("按备注信息排序"),
+                           QStringLiteral("按区分编号排序"), QStringLiteral("按状态排序")});
     auto *search = new QHBoxLayout;
-    search->addWidget(txtKey, 1);
-    search->addWidget(cmdCancelKey);
-    search->addWidget(cmdSearch);
-    search->addWidget(comboType);
+    search->addWidget(m_searchEdit, 1);
+    search->addWidget(m_clearSearchButton);
+    search->addWidget(m_searchButton);
+    search->addWidget(m_sortCombo);
 
-    lstUser = new QTreeWidget(panel);
-    lstUser->setHeaderLabels(kHeaders);
-    lstUser->setRootIsDecorated(false);
-    lstUser->setUniformRowHeights(true);
-    lstUser->setAlternatingRowColors(true);
-    lstUser->header()->setStretchLastSection(true);
-    lstUser->setColumnWidth(ColTick, 44);
-    lstUser->setColumnWidth(ColPlace, 50);
-    lstUser->setColumnWidth(ColName, 200);
-    lstUser->setColumnWidth(ColPart, 130);
-    lstUser->setColumnWidth(ColPhoto, 120);
-    lstUser->setColumnWidth(ColStatus, 70);
-    lstUser->setColumnWidth(ColDiff, 80);
+    m_participantList = new QTreeWidget(panel);
+    m_participantList->setObjectName(QStringLiteral("participantList"));
+    m_participantList->setHeaderLabels(kHeaders);
+    m_participantList->setRootIsDecorated(false);
+    m_participantList->setUniformRowHeights(true);
+    m_participantList->setAlternatingRowColors(true);
+    m_participantList->header()->setStretchLastSection(true);
+    m_participantList->setColumnWidth(ColTick, 44);
+    m_participantList->setColumnWidth(ColPlace, 50);
+    m_participantList->setColumnWidth(ColName, 200);
+    m_participantList->setColumnWidth(ColPart, 130);
+    m_participantList->setColumnWidth(ColPhoto, 120);
+    m_participantList->setColumnWidth(ColStatus, 70);
+    m_participantList->setColumnWidth(ColDiff, 80);
 
-    labInfo1 = new QLabel(panel);
-    labInfo2 = new QLabel(panel);
-    labinfo3 = new QLabel(panel);
-    labPage = new QLabel(panel);
-    chkAll = new QCheckBox(QStringLiteral("全选"), panel);
-    cmdPageUp = new QPushButton(QStringLiteral("上一页"), panel);
-    cmdPageDown = new QPushButton(QStringLiteral("下一页"), panel);
-    cmdSetDiff = new QPushButton(QStringLiteral("批量设置区分编号"), panel);
-    cmdOut = new QPushButton(QStringLiteral("导出"), panel);
+    m_totalLabel = new QLabel(panel);
+    m_totalLabel->setObjectName(QStringLiteral("totalLabel"));
+    m_wonLabel = new QLabel(panel);
+    m_wonLabel->setObjectName(QStringLiteral("wonLabel"));
+    m_gaveUpLabel = new QLabel(panel);
+    m_gaveUpLabel->setObjectName(QStringLiteral("gaveUpLabel"));
+    m_pageLabel = new QLabel(panel);
+    m_pageLabel->setObjectName(QStringLiteral("pageLabel"));
+    m_tickAllBox = new QCheckBox(QStringLiteral("全选"), panel);
+    m_tickAllBox->setObjectName(QStringLiteral("tickAllBox"));
+    m_previousPageButton = new QPushButton(QStringLiteral("上一页"), panel);
+    m_previousPageButton->setObjectName(QStringLiteral("previousPageButton"));
+    m_nextPageButton = new QPushButton(QStringLiteral("下一页"), panel);
+    m_nextPageButton->setObjectName(QStringLiteral("nextPageButton"));
+    m_setDiffNumButton = new QPushButton(QStringLiteral("批量设置区分编号"), panel);
+    m_setDiffNumButton->setObjectName(QStringLiteral("setDiffNumButton"));
+    m_exportButton = new QPushButton(QStringLiteral("导出"), panel);
+    m_exportButton->setObjectName(QStringLiteral("exportButton"));
     auto *counters = new QHBoxLayout;
-    for (QWidget *w : {static_cast<QWidget *>(chkAll), static_cast<QWidget *>(labInfo1),
-                       static_cast<QWidget *>(labInfo2), static_cast<QWidget *>(labinfo3)})
+    for (QWidget *w : QList<QWidget *>{m_tickAllBox, m_totalLabel, m_wonLabel, m_gaveUpLabel})
         counters->addWidget(w);
     counters->addStretch();
-    counters->addWidget(labPage);
-    counters->addWidget(cmdPageUp);
-    counters->addWidget(cmdPageDown);
-    counters->addWidget(cmdSetDiff);
-    counters->addWidget(cmdOut);
+    counters->addWidget(m_pageLabel);
+    counters->addWidget(m_previousPageButton);
+    counters->addWidget(m_nextPageButton);
+    counters->addWidget(m_setDiffNumButton);
+    counters->addWidget(m_exportButton);
 
     auto *layout = new QVBoxLayout(panel);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(Toolbar);
+    layout->addWidget(toolbar);
     layout->addLayout(search);
-    layout->addWidget(lstUser, 1);
+    layout->addWidget(m_participantList, 1);
     layout->addLayout(counters);
 
-    connect(cmdPageUp, &QPushButton::clicked, this,
-            [this] { rdUserLst(QString(), txtKey->text().trimmed(), m_page - 1); });
-    connect(cmdPageDown, &QPushButton::clicked, this,
-            [this] { rdUserLst(QString(), txtKey->text().trimmed(), m_page + 1); });
-    connect(cmdSearch, &QPushButton::clicked, this, [this] {
-        rdUserLst(QString(), txtKey->text().trimmed(), m_page);
-        lstUser->setFocus();
+    connect(m_previousPageButton, &QPushButton::clicked, this,
+            [this] { showParticipants(m_searchEdit->text().trimmed(), m_page - 1); });
+    connect(m_nextPageButton, &QPushButton::clicked, this,
+            [this] { showParticipants(m_searchEdit->text().trimmed(), m_page + 1); });
+    connect(m_searchButton, &QPushButton::clicked, this, [this] {
+        refresh();
+        m_participantList->setFocus();
     });
-    connect(txtKey, &QLineEdit::returnPressed, cmdSearch, &QPushButton::click);
-    connect(cmdCancelKey, &QPushButton::clicked, this, [this] {
-        txtKey->clear();
-        reload();
+    connect(m_searchEdit, &QLineEdit::returnPressed, m_searchButton, &QPushButton::click);
+    connect(m_clearSearchButton, &QPushButton::clicked, this, [this] {
+        m_searchEdit->clear();
+        refresh();
     });
-    connect(comboType, &QComboBox::currentIndexChanged, this, [this] { reload(); });
-    connect(lstUser, &QTreeWidget::currentItemChanged, this,
+    connect(m_sortCombo, &QComboBox::currentIndexChanged, this, [this] { refresh(); });
+    connect(m_participantList, &QTreeWidget::currentItemChanged, this,
             [this](QTreeWidgetItem *item) { loadEditor(item); });
-    connect(chkAll, &QCheckBox::clicked, this, [this](bool checked) {
-        for (int i = 0; i < lstUser->topLevelItemCount(); ++i)
-            lstUser->topLevelItem(i)->setCheckState(ColTick, checked ? Qt::Checked : Qt::Unchecked);
-    });
-    connect(cmdSetDiff, &QPushButton::clicked, this, &RosterManagerDialog::cmdSetDiffClicked);
-    connect(cmdOut, &QPushButton::clicked, this, &RosterManagerDialog::cmdOutClicked);
+    connect(m_tickAllBox, &QCheckBox::clicked, this, &RosterManagerDialog::setAllTicks);
+    connect(m_setDiffNumButton, &QPushButton::clicked, this,
+            &RosterManagerDialog::setDiffNumOfTicked);
+    connect(m_exportButton, &QPushButton::clicked, this, &RosterManagerDialog::exportPage);
     return panel;
 }
 
 QWidget *RosterManagerDialog::buildEditor() {
-    frm = new QGroupBox(QStringLiteral("名单编辑"), this);
-    frm->setFixedWidth(240);
-    imgViewBox = new PictureBox(frm);
-    txtIsPhoto = new QLineEdit(QStringLiteral("no"), frm);
-    txtIsPhoto->hide();
-    toolPhoto = editorparts::makePhotoToolbar(
-        this, imgViewBox, txtIsPhoto, QStringLiteral("RosterManagerDialog"),
+    auto *editorBox = new QGroupBox(QStringLiteral("名单编辑"), this);
+    editorBox->setFixedWidth(240);
+    m_pictureBox = new PictureBox(editorBox);
+    m_photoStateEdit = new QLineEdit(QStringLiteral("no"), editorBox);
+    m_photoStateEdit->setObjectName(QStringLiteral("photoStateEdit"));
+    m_photoStateEdit->hide();
+    m_photoToolbar = editorparts::makePhotoToolbar(
+        this, m_pictureBox, m_photoStateEdit, QStringLiteral("RosterManagerDialog"),
         QStringLiteral("图片文件(*.jpg *.gif *.bmp *.jpeg *.png)"));
-    txtUserName = new QLineEdit(frm);
-    txtUserPart = new QLineEdit(frm);
-    txtDiffNum = new QLineEdit(frm);
-    txtDiffNum->setToolTip(QStringLiteral("用于对抽奖条件进行筛选的标识号码"));
-    editorparts::makeDigitsOnly(txtDiffNum);
-    cmdSave = new QPushButton(QStringLiteral("编辑"), frm);
-    auto *layout = new QVBoxLayout(frm);
-    layout->addWidget(imgViewBox, 0, Qt::AlignHCenter);
-    layout->addWidget(toolPhoto, 0, Qt::AlignHCenter);
+    m_nameEdit = new QLineEdit(editorBox);
+    m_nameEdit->setObjectName(QStringLiteral("nameEdit"));
+    m_remarkEdit = new QLineEdit(editorBox);
+    m_remarkEdit->setObjectName(QStringLiteral("remarkEdit"));
+    m_diffNumEdit = new QLineEdit(editorBox);
+    m_diffNumEdit->setObjectName(QStringLiteral("diffNumEdit"));
+    m_diffNumEdit->setToolTip(QStringLiteral("用于对抽奖条件进行筛选的标识号码"));
+    editorparts::makeDigitsOnly(m_diffNumEdit);
+    m_saveButton = new QPushButton(QStringLiteral("编辑"), editorBox);
+    m_saveButton->setObjectName(QStringLiteral("saveButton"));
+    auto *layout = new QVBoxLayout(editorBox);
+    layout->addWidget(m_pictureBox, 0, Qt::AlignHCenter);
+    layout->addWidget(m_photoToolbar, 0, Qt::AlignHCenter);
     auto *form = new QFormLayout;
     form->setRowWrapPolicy(QFormLayout::WrapAllRows);
-    form->addRow(QStringLiteral("抽奖名单："), txtUserName);
-    form->addRow(QStringLiteral("备注信息："), txtUserPart);
-    form->addRow(QStringLiteral("区分编号："), txtDiffNum);
+    form->addRow(QStringLiteral("抽奖名单："), m_nameEdit);
+    form->addRow(QStringLiteral("备注信息："), m_remarkEdit);
+    form->addRow(QStringLiteral("区分编号："), m_diffNumEdit);
     layout->addLayout(form);
-    layout->addWidget(cmdSave);
+    layout->addWidget(m_saveButton);
     layout->addStretch();
-    connect(cmdSave, &QPushButton::clicked, this, &RosterManagerDialog::cmdSaveClicked);
-    return frm;
+    connect(m_saveButton, &QPushButton::clicked, this, &RosterManagerDialog::saveParticipant);
+    return editorBox;
 }
 
-void RosterManagerDialog::reload() {
-    rdUserLst(QString(), txtKey->text().trimmed(), m_page);
+void RosterManagerDialog::refresh() {
+    showParticipants(m_searchEdit->text().trimmed(), m_page);
 }
 
 void RosterManagerDialog::setEditorEnabled(bool enabled) {
-    for (QWidget *w : {static_cast<QWidget *>(txtUserName), static_cast<QWidget *>(txtUserPart),
-                       static_cast<QWidget *>(txtDiffNum), static_cast<QWidget *>(cmdSave),
-                       static_cast<QWidget *>(toolPhoto)})
+    for (QWidget *w :
+         QList<QWidget *>{m_nameEdit, m_remarkEdit, m_diffNumEdit, m_saveButton, m_photoToolbar})
         w->setEnabled(enabled);
 }
 
 void RosterManagerDialog::clearEditor() {
-    imgViewBox->clearPicture();
-    txtUserName->clear();
-    txtUserPart->clear();
-    txtDiffNum->clear();
-    txtIsPhoto->setText(QStringLiteral("no"));
+    m_pictureBox->clearPicture();
+    m_nameEdit->clear();
+    m_remarkEdit->clear();
+    m_diffNumEdit->clear();
+    m_photoStateEdit->setText(QStringLiteral("no"));
 }
 
 void RosterManagerDialog::addRow(int place, const roster::Participant &p) {
@@ -222,112 +249,107 @@ void RosterManagerDialog::addRow(int place, const roster::Participant &p) {
     const QColor colour = roster::statusColor(p.status);
     if (colour.isValid()) item->setForeground(ColStatus, colour);
     item->setText(ColDiff, roster::diffNumText(p.diffNum));
-    lstUser->addTopLevelItem(item);
+    m_participantList->addTopLevelItem(item);
 }
 
-void RosterManagerDialog::rdUserLst(const QString &key, const QString &search, int page) {
-    const QSignalBlocker blocker(lstUser);
-    lstUser->clear();
+void RosterManagerDialog::showParticipants(const QString &search, int page, int selectId) {
+    const QSignalBlocker blocker(m_participantList);
+    m_participantList->clear();
     roster::Page result;
     QString error;
-    if (!roster::readPage(store::mainConn(), search, comboType->currentIndex(), page, &result,
+    if (!roster::readPage(store::mainConn(), search, m_sortCombo->currentIndex(), page, &result,
                           &error)) {
         ui().message(error, MsgStyle::Critical, titles::error);
         return;
     }
-    if (search.trimmed().isEmpty()) txtKey->clear();
+    if (search.trimmed().isEmpty()) m_searchEdit->clear();
     m_page = result.page;
     QTreeWidgetItem *selected = nullptr;
     int place = 0;
     for (const roster::Participant &participant : std::as_const(result.rows)) {
         addRow(++place, participant);
-        QTreeWidgetItem *item = lstUser->topLevelItem(place - 1);
-        if (!selected && key == QStringLiteral("K") + QString::number(participant.id))
-            selected = item;
-        else if (!selected && key.isEmpty() && place == result.recordCount)
-            selected = item;
+        const bool wanted = selectId > 0 ? participant.id == selectId : place == result.recordCount;
+        if (!selected && wanted) selected = m_participantList->topLevelItem(place - 1);
     }
-    if (result.rows.isEmpty()) {
-        clearEditor();
-        setEditorEnabled(false);
-    } else {
-        setEditorEnabled(true);
-    }
-    cmdPageUp->setEnabled(result.pageCount > 0 && m_page > 1);
-    cmdPageDown->setEnabled(m_page < result.pageCount);
+    if (result.rows.isEmpty()) clearEditor();
+    setEditorEnabled(!result.rows.isEmpty());
+    m_previousPageButton->setEnabled(result.pageCount > 0 && m_page > 1);
+    m_nextPageButton->setEnabled(m_page < result.pageCount);
     if (selected) {
-        lstUser->setCurrentItem(selected);
-        lstUser->scrollToItem(selected);
+        m_participantList->setCurrentItem(selected);
+        m_participantList->scrollToItem(selected);
         loadEditor(selected);
     }
-    labInfo1->setText(QStringLiteral("总计人数：%1").arg(result.recordCount));
-    labInfo2->setText(QStringLiteral("已中奖人数：%1").arg(result.won));
-    labinfo3->setText(QStringLiteral("弃奖∶%1").arg(result.gaveUp));
-    labPage->setText(QStringLiteral("当前第∶%1页/ 共%2页").arg(m_page).arg(result.pageCount));
+    updateCounters(result.recordCount, result.won, result.gaveUp, result.pageCount);
     if (result.won == 0) settings::write(QStringLiteral("selJxid"), 0);
+}
+
+void RosterManagerDialog::updateCounters(int total, int won, int gaveUp, int pageCount) {
+    m_totalLabel->setText(QStringLiteral("总计人数：%1").arg(total));
+    m_wonLabel->setText(QStringLiteral("已中奖人数：%1").arg(won));
+    m_gaveUpLabel->setText(QStringLiteral("弃奖∶%1").arg(gaveUp));
+    m_pageLabel->setText(QStringLiteral("当前第∶%1页/ 共%2页").arg(m_page).arg(pageCount));
 }
 
 void RosterManagerDialog::loadEditor(QTreeWidgetItem *item) {
     if (!item) return;
-    imgViewBox->clearPicture();
+    m_pictureBox->clearPicture();
     roster::Participant participant;
     if (!roster::loadParticipant(store::mainConn(), item->data(ColTick, kIdRole).toInt(),
                                  &participant)) {
         ui().message(QStringLiteral("找不到对应的名单"), MsgStyle::Critical, titles::error);
         return;
     }
-    if (!participant.photo.trimmed().isEmpty()) {
-        imgViewBox->showPicture(participant.photo);
-        txtIsPhoto->setText(QStringLiteral("yes"));
-    } else {
-        txtIsPhoto->setText(QStringLiteral("no"));
-    }
-    txtUserName->setText(participant.name);
-    txtUserPart->setText(participant.part);
-    txtDiffNum->setText(roster::diffNumText(participant.diffNum));
+    const bool hasPhoto = !participant.photo.trimmed().isEmpty();
+    if (hasPhoto) m_pictureBox->showPicture(participant.photo);
+    m_photoStateEdit->setText(hasPhoto ? QStringLiteral("yes") : QStringLiteral("no"));
+    m_nameEdit->setText(participant.name);
+    m_remarkEdit->setText(participant.part);
+    m_diffNumEdit->setText(roster::diffNumText(participant.diffNum));
 }
 
-void RosterManagerDialog::cmdSaveClicked() {
-    const QString diff = txtDiffNum->text().trimmed();
+void RosterManagerDialog::saveParticipant() {
+    const QString diff = m_diffNumEdit->text().trimmed();
     if (!diff.isEmpty() && !roster::isNumeric(diff)) {
         ui().message(QStringLiteral("“区分编号”只能填写数字"), MsgStyle::Exclamation,
                      titles::warning);
-        txtDiffNum->setFocus();
-        selectAllText(txtDiffNum);
+        m_diffNumEdit->setFocus();
+        selectAllText(m_diffNumEdit);
         return;
     }
-    QTreeWidgetItem *item = lstUser->currentItem();
+    QTreeWidgetItem *item = m_participantList->currentItem();
     if (!item) return;
     const int id = item->data(ColTick, kIdRole).toInt();
     if (store::isDuplicate(QStringLiteral("UserList"), QStringLiteral("UserName"),
-                           QStringLiteral("UserPart"), txtUserName->text().trimmed(),
-                           txtUserPart->text().trimmed(), id)) {
+                           QStringLiteral("UserPart"), m_nameEdit->text().trimmed(),
+                           m_remarkEdit->text().trimmed(), id)) {
         ui().message(QStringLiteral("名单重复,已经存在同样的人员信息"), MsgStyle::Critical,
                      QStringLiteral("编辑失败"));
         return;
     }
     roster::Participant stored;
-    roster::loadParticipant(store::mainConn(), id, &stored);
-    const QString photo = roster::settlePhoto(id, txtIsPhoto->text(), stored.photo);
+    if (!roster::loadParticipant(store::mainConn(), id, &stored))
+        qCWarning(lcRoster) << "cannot read the stored photo of participant" << id;
+    const QString photo = roster::settlePhoto(id, m_photoStateEdit->text(), stored.photo);
     QString error;
     if (!store::exec(store::mainConn(),
                      QStringLiteral("UPDATE UserList SET UserName=?, UserPart=?, DiffNum=?, "
                                     "UserPhoto=? WHERE ID=?"),
-                     {txtUserName->text(), txtUserPart->text(),
+                     {m_nameEdit->text(), m_remarkEdit->text(),
                       diff.isEmpty() ? QVariant() : QVariant(diff.toLongLong()), photo, id},
                      &error)) {
         ui().message(error, MsgStyle::Critical, titles::error);
         return;
     }
     ui().message(QStringLiteral("数据更新成功！"), MsgStyle::Information, titles::notice);
-    rdUserLst(QStringLiteral("K") + QString::number(id), txtKey->text().trimmed(), m_page);
-    lstUser->setFocus();
+    showParticipants(m_searchEdit->text().trimmed(), m_page, id);
+    m_participantList->setFocus();
 }
 
 QList<int> RosterManagerDialog::tickedIds(QStringList *photos) const {
     QList<int> ids;
-    for (int i = 0; i < lstUser->topLevelItemCount(); ++i) {
-        const QTreeWidgetItem *item = lstUser->topLevelItem(i);
+    for (int i = 0; i < m_participantList->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem *item = m_participantList->topLevelItem(i);
         if (item->checkState(ColTick) != Qt::Checked) continue;
         ids << item->data(ColTick, kIdRole).toInt();
         if (photos) *photos << item->text(ColPhoto);
@@ -349,17 +371,21 @@ void RosterManagerDialog::deleteTicked() {
         ui().message(error, MsgStyle::Critical, titles::error);
         return;
     }
-    rdUserLst(QString(), QString(), m_page);
+    showParticipants(QString(), m_page);
 }
 
-void RosterManagerDialog::selectAll() {
-    chkAll->setChecked(!chkAll->isChecked());
-    for (int i = 0; i < lstUser->topLevelItemCount(); ++i)
-        lstUser->topLevelItem(i)->setCheckState(ColTick,
-                                                chkAll->isChecked() ? Qt::Checked : Qt::Unchecked);
+void RosterManagerDialog::setAllTicks(bool ticked) {
+    for (int i = 0; i < m_participantList->topLevelItemCount(); ++i)
+        m_participantList->topLevelItem(i)->setCheckState(ColTick,
+                                                          ticked ? Qt::Checked : Qt::Unchecked);
 }
 
-void RosterManagerDialog::cmdSetDiffClicked() {
+void RosterManagerDialog::toggleAllTicks() {
+    m_tickAllBox->setChecked(!m_tickAllBox->isChecked());
+    setAllTicks(m_tickAllBox->isChecked());
+}
+
+void RosterManagerDialog::setDiffNumOfTicked() {
     const QList<int> ids = tickedIds();
     if (ids.isEmpty()) {
         ui().message(QStringLiteral("请勾选需要设置区分编号的名单!"), MsgStyle::Critical,
@@ -383,22 +409,22 @@ void RosterManagerDialog::cmdSetDiffClicked() {
         return;
     }
     ui().message(QStringLiteral("数据更新成功！"), MsgStyle::Information, titles::notice);
-    reload();
+    refresh();
 }
 
-void RosterManagerDialog::cmdOutClicked() {
-    cmdOut->setEnabled(false);
+void RosterManagerDialog::exportPage() {
+    m_exportButton->setEnabled(false);
     const QString path = ui().saveFile(QStringLiteral("导出文件"), QStringLiteral("抽奖名单.csv"),
                                        QStringLiteral("Text Files (*.csv)"));
     if (path.isEmpty()) {
-        cmdOut->setEnabled(true);
+        m_exportButton->setEnabled(true);
         return;
     }
     QList<QStringList> lines{kHeaders.mid(1)};
-    for (int i = 0; i < lstUser->topLevelItemCount(); ++i) {
+    for (int i = 0; i < m_participantList->topLevelItemCount(); ++i) {
         QStringList fields;
         for (int column = ColPlace; column <= ColDiff; ++column)
-            fields << lstUser->topLevelItem(i)->text(column);
+            fields << m_participantList->topLevelItem(i)->text(column);
         lines << fields;
     }
     QString error;
@@ -406,29 +432,28 @@ void RosterManagerDialog::cmdOutClicked() {
         ui().message(QStringLiteral("导出完毕"), MsgStyle::Information, titles::notice);
     else
         ui().message(error, MsgStyle::Critical, titles::error);
-    cmdOut->setEnabled(true);
+    m_exportButton->setEnabled(true);
 }
 
-void RosterManagerDialog::addUser() {
+void RosterManagerDialog::addParticipant() {
     AddParticipantDialog form(this);
-    if (form.exec() == QDialog::Accepted)
-        rdUserLst(QStringLiteral("K") + QString::number(form.addedId()), QString(), 1);
+    if (form.exec() == QDialog::Accepted) showParticipants(QString(), 1, form.addedId());
 }
 
 void RosterManagerDialog::importExcel() {
-    if (rosterscreens::importExcel(this, false)) rdUserLst(QString(), QString(), 1);
+    if (rosterscreens::importExcel(this, false)) showParticipants(QString(), 1);
 }
 
-void RosterManagerDialog::importTxt() {
-    if (rosterscreens::importTxt(this, false)) rdUserLst(QString(), QString(), 1);
+void RosterManagerDialog::importText() {
+    if (rosterscreens::importText(this, false)) showParticipants(QString(), 1);
 }
 
 void RosterManagerDialog::importPhotos() {
     rosterscreens::importPhotos(this, false);
-    rdUserLst(QString(), QString(), 1);
+    showParticipants(QString(), 1);
 }
 
 void RosterManagerDialog::generateNumbers() {
     rosterscreens::generateNumbers(this, false);
-    rdUserLst(QString(), QString(), 1);
+    showParticipants(QString(), 1);
 }

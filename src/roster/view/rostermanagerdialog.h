@@ -4,7 +4,6 @@
 
 class QCheckBox;
 class QComboBox;
-class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -28,55 +27,57 @@ public:
     // Opens the manager modally over parent (the console's roster page calls this).
     static void showManager(QWidget *parent);
 
-    // Fills the list: key "K<ID>" selects that row, search looks in the names, page is clamped.
-    void rdUserLst(const QString &key, const QString &search, int page);
-    int currentPage() const { return m_page; }
-
-    // Handlers, public so the console and tests can drive them.
-    void cmdSaveClicked();
-    void deleteTicked();
-    void selectAll();
-    void cmdSetDiffClicked();
-    void cmdOutClicked();
-    void addUser();
-    void importExcel();
-    void importTxt();
-    void importPhotos();
-    void generateNumbers();
-    void loadEditor(QTreeWidgetItem *item);
-
-    QToolBar *Toolbar = nullptr;
-    QLineEdit *txtKey = nullptr;
-    QPushButton *cmdCancelKey = nullptr;
-    QPushButton *cmdSearch = nullptr;
-    QComboBox *comboType = nullptr;
-    QTreeWidget *lstUser = nullptr;
-    QCheckBox *chkAll = nullptr;
-    QPushButton *cmdPageUp = nullptr;
-    QPushButton *cmdPageDown = nullptr;
-    QPushButton *cmdSetDiff = nullptr;
-    QPushButton *cmdOut = nullptr;
-    QLabel *labInfo1 = nullptr;
-    QLabel *labInfo2 = nullptr;
-    QLabel *labinfo3 = nullptr;
-    QLabel *labPage = nullptr;
-    QGroupBox *frm = nullptr;
-    PictureBox *imgViewBox = nullptr;
-    QToolBar *toolPhoto = nullptr;
-    QLineEdit *txtUserName = nullptr;
-    QLineEdit *txtUserPart = nullptr;
-    QLineEdit *txtDiffNum = nullptr;
-    QLineEdit *txtIsPhoto = nullptr;
-    QPushButton *cmdSave = nullptr;
+    // Fills the list with the page of the participants whose names contain search (the page is
+    // clamped) and selects the participant selectId, or by default the roster's last row when
+    // it is on the page.
+    void showParticipants(const QString &search, int page, int selectId = 0);
 
 private:
     QWidget *buildList();
+    QToolBar *buildToolbar(QWidget *parent);
     QWidget *buildEditor();
     void addRow(int place, const roster::Participant &participant);
     QList<int> tickedIds(QStringList *photos = nullptr) const;
+    void setAllTicks(bool ticked);
     void setEditorEnabled(bool enabled);
     void clearEditor();
-    void reload();
+    void loadEditor(QTreeWidgetItem *item);
+    // The current page again, with the search as typed.
+    void refresh();
+    void updateCounters(int total, int won, int gaveUp, int pageCount);
+
+    void saveParticipant();
+    void toggleAllTicks();
+    void deleteTicked();
+    void setDiffNumOfTicked();
+    void exportPage();
+    void addParticipant();
+    void importExcel();
+    void importText();
+    void importPhotos();
+    void generateNumbers();
+
+    QLineEdit *m_searchEdit = nullptr;
+    QPushButton *m_clearSearchButton = nullptr;
+    QPushButton *m_searchButton = nullptr;
+    QComboBox *m_sortCombo = nullptr;
+    QTreeWidget *m_participantList = nullptr;
+    QCheckBox *m_tickAllBox = nullptr;
+    QPushButton *m_previousPageButton = nullptr;
+    QPushButton *m_nextPageButton = nullptr;
+    QPushButton *m_setDiffNumButton = nullptr;
+    QPushButton *m_exportButton = nullptr;
+    QLabel *m_totalLabel = nullptr;
+    QLabel *m_wonLabel = nullptr;
+    QLabel *m_gaveUpLabel = nullptr;
+    QLabel *m_pageLabel = nullptr;
+    PictureBox *m_pictureBox = nullptr;
+    QToolBar *m_photoToolbar = nullptr;
+    QLineEdit *m_nameEdit = nullptr;
+    QLineEdit *m_remarkEdit = nullptr;
+    QLineEdit *m_diffNumEdit = nullptr;
+    QLineEdit *m_photoStateEdit = nullptr;  // hidden: "no", "yes", "camre" or a chosen file
+    QPushButton *m_saveButton = nullptr;
 
     int m_page = 1;
 };

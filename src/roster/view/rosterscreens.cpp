@@ -1,8 +1,6 @@
 #include "roster/view/rosterscreens.h"
 
 #include "awards/view/camerahook.h"
-#include "core/appstate.h"
-#include "core/events.h"
 #include "core/ui.h"
 #include "roster/view/cameracapturedialog.h"
 #include "roster/view/excelimportdialog.h"
@@ -30,32 +28,26 @@ bool importExcel(QWidget *parent, bool fromConsole) {
     const QString file = ui().openFile(QStringLiteral("导入Excel文件"), QString(),
                                        QStringLiteral("Excel文件 (*.xls *.xlsx)"));
     if (file.trimmed().isEmpty()) return false;
-    appState().excelFile = file;
-    appState().importFromConsole = fromConsole;
-    ExcelImportDialog form(parent);
+    ExcelImportDialog form(file, parent);
     runImport(form, parent, fromConsole);
     return true;
 }
 
-bool importTxt(QWidget *parent, bool fromConsole) {
+bool importText(QWidget *parent, bool fromConsole) {
     const QString file =
         ui().openFile(QStringLiteral("导入Txt文件"), QString(), QStringLiteral("文本文件 (*.txt)"));
     if (file.trimmed().isEmpty()) return false;
-    appState().txtFile = file;
-    appState().importFromConsole = fromConsole;
-    TextImportDialog form(parent);
+    TextImportDialog form(file, parent);
     runImport(form, parent, fromConsole);
     return true;
 }
 
 void importPhotos(QWidget *parent, bool fromConsole) {
-    appState().importFromConsole = fromConsole;
     PhotoImportDialog form(parent);
     runImport(form, parent, fromConsole);
 }
 
 void generateNumbers(QWidget *parent, bool fromConsole) {
-    appState().importFromConsole = fromConsole;
     NumberGeneratorDialog form(parent);
     runImport(form, parent, fromConsole);
 }
@@ -73,7 +65,7 @@ void openRosterAction(int index, QWidget *parent) {
             importExcel(parent, true);
             break;
         case 2:
-            importTxt(parent, true);
+            importText(parent, true);
             break;
         case 3:
             importPhotos(parent, true);

@@ -4,13 +4,14 @@ class QWidget;
 
 // The ways into the roster screens, for the console's roster page and the roster manager. Each
 // opens its dialog modally over parent; the imports first ask for their file where they need one
-// (a blank choice stops). fromConsole tells the import whom to refresh at the end.
+// (a blank choice stops). fromConsole: the import was started from the console, which then
+// shows the roster manager once the operator confirms the result.
 namespace rosterscreens {
 
 void openManager(QWidget *parent);
 // True when the dialog was opened (a file was chosen).
 bool importExcel(QWidget *parent, bool fromConsole);
-bool importTxt(QWidget *parent, bool fromConsole);
+bool importText(QWidget *parent, bool fromConsole);
 void importPhotos(QWidget *parent, bool fromConsole);
 void generateNumbers(QWidget *parent, bool fromConsole);
 

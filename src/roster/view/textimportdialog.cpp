@@ -13,83 +13,91 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "core/appstate.h"
 #include "core/ui.h"
 
-TextImportDialog::TextImportDialog(QWidget *parent)
-    : ImportDialog(QStringLiteral("文件正在导入中，确认要退出么？"), parent) {
+TextImportDialog::TextImportDialog(const QString &path, QWidget *parent)
+    : ImportDialog(QStringLiteral("文件正在导入中，确认要退出么？"), parent), m_path(path) {
     setWindowTitle(QStringLiteral("导入txt文件"));
     resize(560, 420);
-    labFileName = new QLabel(appState().txtFile, this);
-    labFileName->setWordWrap(true);
-    txtJG = new QLineEdit(QStringLiteral(","), this);
-    txtJG->setMaxLength(1);
-    txtJG->setFixedWidth(40);
-    txtJG->installEventFilter(this);
-    opt1 = new QRadioButton(QStringLiteral("导入的名单追加到原有名单之后"), this);
-    opt2 = new QRadioButton(QStringLiteral("完全替换原有名单"), this);
-    opt2->setChecked(true);
-    frame = new QGroupBox(QStringLiteral("导入信息"), this);
-    txtSame = new QPlainTextEdit(frame);
-    txtSame->setReadOnly(true);
-    txtSame->hide();
+    auto *fileLabel = new QLabel(path, this);
+    fileLabel->setWordWrap(true);
+    m_separatorEdit = new QLineEdit(QStringLiteral(","), this);
+    m_separatorEdit->setObjectName(QStringLiteral("separatorEdit"));
+    m_separatorEdit->setMaxLength(1);
+    m_separatorEdit->setFixedWidth(40);
+    m_separatorEdit->installEventFilter(this);
+    m_appendButton = new QRadioButton(QStringLiteral("导入的名单追加到原有名单之后"), this);
+    m_appendButton->setObjectName(QStringLiteral("appendButton"));
+    m_replaceButton = new QRadioButton(QStringLiteral("完全替换原有名单"), this);
+    m_replaceButton->setObjectName(QStringLiteral("replaceButton"));
+    m_replaceButton->setChecked(true);
+    m_resultBox = new QGroupBox(QStringLiteral("导入信息"), this);
+    m_duplicatesEdit = new QPlainTextEdit(m_resultBox);
+    m_duplicatesEdit->setObjectName(QStringLiteral("duplicatesEdit"));
+    m_duplicatesEdit->setReadOnly(true);
+    m_duplicatesEdit->hide();
     auto *hint = new QLabel(QStringLiteral("提示：\"间隔符号\"是用来将文本中一行信息前后分开\n"
                                            "分别导入到 抽奖名单 和 备注栏中"),
-                            frame);
+                            m_resultBox);
     hint->setStyleSheet(QStringLiteral("color:#8a5a00;"));
-    auto *frameLayout = new QVBoxLayout(frame);
-    frameLayout->addWidget(hint);
-    frameLayout->addWidget(txtSame, 1);
-    labMsg = new QLabel(this);
-    labMsg->hide();
-    cmdStart = new QPushButton(QStringLiteral("开始导入"), this);
-    cmdCancel = new QPushButton(QStringLiteral("取消"), this);
-    cmdOK = new QPushButton(QStringLiteral("确定"), this);
-    cmdOK->hide();
+    auto *resultLayout = new QVBoxLayout(m_resultBox);
+    resultLayout->addWidget(hint);
+    resultLayout->addWidget(m_duplicatesEdit, 1);
+    m_resultLabel = new QLabel(this);
+    m_resultLabel->setObjectName(QStringLiteral("resultLabel"));
+    m_resultLabel->hide();
+    m_startButton = new QPushButton(QStringLiteral("开始导入"), this);
+    m_startButton->setObjectName(QStringLiteral("startButton"));
+    m_cancelButton = new QPushButton(QStringLiteral("取消"), this);
+    m_okButton = new QPushButton(QStringLiteral("确定"), this);
+    m_okButton->hide();
 
     auto *form = new QFormLayout;
-    form->addRow(QStringLiteral("文件："), labFileName);
-    form->addRow(QStringLiteral("Txt文件中信息间隔符号："), txtJG);
+    form->addRow(QStringLiteral("文件："), fileLabel);
+    form->addRow(QStringLiteral("Txt文件中信息间隔符号："), m_separatorEdit);
     auto *choice = new QHBoxLayout;
-    choice->addWidget(opt1);
-    choice->addWidget(opt2);
+    choice->addWidget(m_appendButton);
+    choice->addWidget(m_replaceButton);
     auto *buttons = new QHBoxLayout;
-    buttons->addWidget(labMsg, 1);
-    buttons->addWidget(cmdStart);
-    buttons->addWidget(cmdCancel);
-    buttons->addWidget(cmdOK);
+    buttons->addWidget(m_resultLabel, 1);
+    buttons->addWidget(m_startButton);
+    buttons->addWidget(m_cancelButton);
+    buttons->addWidget(m_okButton);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(form);
     layout->addLayout(choice);
-    layout->addWidget(frame, 1);
-    layout->addWidget(pBar);
+    layout->addWidget(m_resultBox, 1);
+    layout->addWidget(progressBar());
     layout->addLayout(buttons);
-    connect(cmdStart, &QPushButton::clicked, this, &TextImportDialog::cmdStartClicked);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+    connect(m_startButton, &QPushButton::clicked, this, &TextImportDialog::startImport);
+    connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_okButton, &QPushButton::clicked, this, &QDialog::accept);
 }
 
 bool TextImportDialog::eventFilter(QObject *watched, QEvent *event) {
-    if (watched == txtJG && event->type() == QEvent::FocusIn)
-        QTimer::singleShot(0, txtJG, &QLineEdit::selectAll);
+    // The separator is one character: focusing the box selects it, so typing replaces it.
+    if (watched == m_separatorEdit && event->type() == QEvent::FocusIn)
+        QTimer::singleShot(0, m_separatorEdit, &QLineEdit::selectAll);
     return ImportDialog::eventFilter(watched, event);
 }
 
 void TextImportDialog::setInputsEnabled(bool enabled) {
-    for (QWidget *w : QList<QWidget *>{txtJG, opt1, opt2, cmdStart, cmdCancel})
+    for (QWidget *w : QList<QWidget *>{m_separatorEdit, m_appendButton, m_replaceButton,
+                                       m_startButton, m_cancelButton})
         w->setEnabled(enabled);
 }
 
-void TextImportDialog::cmdStartClicked() {
+void TextImportDialog::startImport() {
     setInputsEnabled(false);
     QStringList lines;
     QString error;
-    if (!TxtImport::readLines(appState().txtFile, &lines, &error)) {
+    if (!TxtImport::readLines(m_path, &lines, &error)) {
         showFailure(error);
         setInputsEnabled(true);
         return;
     }
-    if (!runJob(std::make_unique<TxtImport>(lines, txtJG->text(), opt2->isChecked())))
+    if (!runJob(std::make_unique<TxtImport>(lines, m_separatorEdit->text(),
+                                            m_replaceButton->isChecked())))
         setInputsEnabled(true);
 }
 
@@ -99,15 +107,15 @@ void TextImportDialog::jobFinished(RosterImport::Outcome outcome) {
         return;
     }
     if (job()->duplicates() > 0) {
-        frame->setTitle(QStringLiteral("重复数据"));
-        txtSame->setPlainText(job()->log().mid(1));
-        txtSame->show();
+        m_resultBox->setTitle(QStringLiteral("重复数据"));
+        m_duplicatesEdit->setPlainText(job()->log().mid(1));
+        m_duplicatesEdit->show();
     }
-    labMsg->setText(QStringLiteral("共导入数据%1条，屏蔽重复数据%2条")
-                        .arg(job()->imported())
-                        .arg(job()->duplicates()));
-    labMsg->show();
-    cmdOK->show();
-    cmdStart->hide();
-    cmdCancel->hide();
+    m_resultLabel->setText(QStringLiteral("共导入数据%1条，屏蔽重复数据%2条")
+                               .arg(job()->imported())
+                               .arg(job()->duplicates()));
+    m_resultLabel->show();
+    m_okButton->show();
+    m_startButton->hide();
+    m_cancelButton->hide();
 }

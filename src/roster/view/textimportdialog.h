@@ -9,30 +9,29 @@ class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
 
-// Fills the roster from a text file (path in appState().txtFile), one participant a line:
-// name, remark, photo path and distinction number split by the separator.
+// Fills the roster from the text file at path, one participant a line: name, remark, photo path
+// and distinction number split by the separator.
 class TextImportDialog : public ImportDialog {
     Q_OBJECT
 public:
-    explicit TextImportDialog(QWidget *parent = nullptr);
-
-    void cmdStartClicked();
-
-    QLabel *labFileName = nullptr;
-    QLineEdit *txtJG = nullptr;
-    QRadioButton *opt1 = nullptr;
-    QRadioButton *opt2 = nullptr;
-    QGroupBox *frame = nullptr;
-    QPlainTextEdit *txtSame = nullptr;
-    QLabel *labMsg = nullptr;
-    QPushButton *cmdStart = nullptr;
-    QPushButton *cmdCancel = nullptr;
-    QPushButton *cmdOK = nullptr;
+    explicit TextImportDialog(const QString &path, QWidget *parent = nullptr);
 
 protected:
     void jobFinished(RosterImport::Outcome outcome) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void startImport();
     void setInputsEnabled(bool enabled);
+
+    QString m_path;
+    QLineEdit *m_separatorEdit = nullptr;
+    QRadioButton *m_appendButton = nullptr;
+    QRadioButton *m_replaceButton = nullptr;
+    QGroupBox *m_resultBox = nullptr;
+    QPlainTextEdit *m_duplicatesEdit = nullptr;
+    QLabel *m_resultLabel = nullptr;
+    QPushButton *m_startButton = nullptr;
+    QPushButton *m_cancelButton = nullptr;
+    QPushButton *m_okButton = nullptr;
 };
