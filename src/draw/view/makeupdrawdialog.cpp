@@ -193,10 +193,10 @@ void MakeUpDrawDialog::saveNewAward() {
     const draw::MakeupFault fault = draw::checkNewAward(award);
     if (fault.failed()) {
         ui().message(fault.message, MsgStyle::Information, titles::notice);
-        QLineEdit *field = fault.field == draw::MakeupField::JxName    ? m_awardNameEdit
-                           : fault.field == draw::MakeupField::JxNum   ? m_slotCountEdit
-                           : fault.field == draw::MakeupField::JxGroup ? m_batchCountEdit
-                                                                       : m_prizeNameEdit;
+        QLineEdit *field = fault.field == draw::MakeupField::AwardName    ? m_awardNameEdit
+                           : fault.field == draw::MakeupField::SlotCount  ? m_slotCountEdit
+                           : fault.field == draw::MakeupField::BatchCount ? m_batchCountEdit
+                                                                          : m_prizeNameEdit;
         field->setFocus();
         return;
     }
