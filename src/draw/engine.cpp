@@ -12,14 +12,13 @@
 #include "core/settings.h"
 #include "core/store.h"
 #include "core/ui.h"
+#include "draw/winners.h"
 #include "stage/protocol.h"
 #include "stage/stage.h"
 
 namespace draw {
 
 namespace {
-
-const QString kNamesGap = QStringLiteral("   ");
 
 QString idText(const std::vector<qint64> &ids) {
     QStringList parts;
@@ -63,38 +62,7 @@ void warn(const QString &text) {
 
 }  // namespace
 
-int countAwardWinners(QSqlDatabase db, int id) {
-    // "JxID > ''" lets the JxID index skip the participants without any win.
-    return store::scalar(db,
-                         QStringLiteral("SELECT COUNT(*) FROM UserList WHERE JxID > '' AND JxID "
-                                        "LIKE ?"),
-                         {store::awardPattern(id)})
-        .toInt();
-}
-
-QString winnersText(QSqlDatabase db, int id) {
-    QSqlQuery query(db);
-    query.setForwardOnly(true);
-    // The + keeps the planner on the JxID index (the winners) instead of walking the whole
-    // roster in UpdateTime order.
-    query.prepare(
-        QStringLiteral("SELECT UserName FROM UserList WHERE JxID > '' AND JxID LIKE ? "
-                       "ORDER BY +UpdateTime DESC, ID ASC"));
-    query.addBindValue(store::awardPattern(id));
-    query.exec();
-    const AppState &state = appState();
-    QString names;
-    while (query.next()) {
-        QString name = query.value(0).toString();
-        if (state.isHideName == 1)
-            name = ::hideName(name, state.hideLeft, state.hideRight, state.hideReStr);
-        names += name + kNamesGap;
-    }
-    return names;
-}
-
-DrawEngine::DrawEngine(Stage &stage, DrawSession &session, QObject *parent)
-    : QObject(parent), m_stage(stage), m_session(session) {}
+DrawEngine::DrawEngine(Stage &stage, QObject *parent) : QObject(parent), m_stage(stage) {}
 
 void DrawEngine::setBlockStyle(std::function<QString(int)> blockStyle) {
     m_blockStyle = std::move(blockStyle);
@@ -108,9 +76,10 @@ QString DrawEngine::luckTypePrefix() const {
     return QString::number(appState().luckType) + proto::kSep;
 }
 
-bool DrawEngine::loadJx(int id, bool resetButtons) {
+bool DrawEngine::loadAward(int id, bool resetButtons) {
     QSqlDatabase db = store::mainConn();
-    const int have = countAwardWinners(db, id);
+    const QList<AwardWinner> winners = awardWinners(db, id);
+    const int have = int(winners.size());
     QSqlQuery query(db);
     query.prepare(
         QStringLiteral("SELECT OrderNum, JXName, JXNum, JXGroup, JPName, JPPhoto, "
@@ -136,7 +105,7 @@ bool DrawEngine::loadJx(int id, bool resetButtons) {
          QStringList{award.name, QString::number(plan.slotCount), QString::number(plan.batches),
                      QString::number(plan.remaining), award.prizeName, award.picturePath}
              .join(proto::kSep));
-    const QString names = winnersText(db, id);
+    const QString names = winnersText(winners);
     send(proto::updateLuckLst,
          names.isEmpty() ? QStringLiteral("当前奖项暂无获奖名单...")
                          : QStringLiteral("恭喜∶") + names + QStringLiteral("获得") + award.name);
@@ -158,18 +127,18 @@ bool DrawEngine::loadJx(int id, bool resetButtons) {
     return true;
 }
 
-void DrawEngine::reFrashJx(bool hideBlocks, bool resetButtons) {
-    loadJx(m_session.award.id, resetButtons);
+void DrawEngine::reloadAward(bool hideBlocks, bool resetButtons) {
+    loadAward(m_session.award.id, resetButtons);
     if (hideBlocks) send(proto::vbShowBlock, proto::falseText);
 }
 
-void DrawEngine::defulteJx(bool resetButtons) {
+void DrawEngine::loadDefaultAward(bool resetButtons) {
     send(proto::vbShowBlock, proto::falseText);
     const int selected = appState().selJxid;
     const QVariant found = store::scalar(
         store::mainConn(), QStringLiteral("SELECT ID FROM JPList WHERE ID=? LIMIT 1"), {selected});
     if (found.isValid())
-        loadJx(selected, resetButtons);
+        loadAward(selected, resetButtons);
     else
         firstOpenAward(resetButtons);
 }
@@ -184,7 +153,7 @@ void DrawEngine::firstOpenAward(bool resetButtons) {
         any = true;
         const int id = query.value(0).toInt();
         if (query.value(1).toInt() - countAwardWinners(db, id) > 0) {
-            loadJx(id, resetButtons);
+            loadAward(id, resetButtons);
             return;
         }
     }
@@ -204,7 +173,7 @@ void DrawEngine::stepAward(bool forward, bool wrap) {
                                                "ORDER BY OrderNum DESC LIMIT 1"),
                       {m_session.award.orderNum});
     if (next.isValid())
-        loadJx(next.toInt(), false);
+        loadAward(next.toInt(), false);
     else if (wrap)
         firstOpenAward(false);
 }
@@ -335,7 +304,7 @@ bool DrawEngine::recordWinners() {
         return false;
     }
 
-    loadJx(awardId, false);
+    loadAward(awardId, false);
     m_session.canCancel = true;
     settings::write(QStringLiteral("selJxid"), awardId);
     Q_EMIT batchRecorded();
@@ -370,7 +339,7 @@ bool DrawEngine::cancelLastBatch() {
     if (!db.commit()) db.rollback();
     keepRosterAfterOwnWrite(rosterCurrent);
 
-    loadJx(m_session.award.id, false);
+    loadAward(m_session.award.id, false);
     m_session.canCancel = false;
     send(proto::vbShowBlock, proto::falseText);
     send(proto::changBtn, proto::buttons::defulte);
@@ -385,8 +354,22 @@ bool DrawEngine::restartDraw(const WinnerExporter &exportWinners) {
     const QString snapshot = historySnapshotPath(appState().appPath, QDateTime::currentDateTime());
     if (!exportWinners || !exportWinners(snapshot)) return false;
     if (!clearAllWins(store::mainConn())) return false;
-    defulteJx(true);
+    loadDefaultAward(true);
     return true;
+}
+
+void DrawEngine::clearDraw() {
+    send(proto::changBtn, proto::buttons::clear);
+    send(proto::vbShowBlock, proto::falseText);
+    m_session.drawState = Idle;
+}
+
+void DrawEngine::beginParade() {
+    m_session.drawState = Playback;
+}
+
+void DrawEngine::resetToIdle() {
+    m_session.drawState = Idle;
 }
 
 }  // namespace draw

@@ -13,32 +13,35 @@ class Stage;
 
 namespace draw {
 
-// The number of participants holding a win of award id.
-int countAwardWinners(QSqlDatabase db, int id);
-// The names of an award's winners, newest batch first, each followed by three blanks; masked
-// when names are hidden. Empty when nobody has won it.
-QString winnersText(QSqlDatabase db, int id);
-
-// The draw without its window: loads awards, draws, records and undoes, and tells the stage. The
-// draw screen owns the session and the stage, forwards the stage's events here, and reacts to
-// the signals with what belongs to a window (music, timers, the end-of-draw prompt).
+// The draw without its window: loads awards, draws, records and undoes, and tells the stage. It
+// alone changes the draw's session and state; the draw screen forwards the stage's events here,
+// asks for the state, and reacts to the signals with what belongs to a window (music, timers,
+// the end-of-draw prompt).
 class DrawEngine : public QObject {
     Q_OBJECT
 public:
     enum class StartOutcome { Stepped, Empty, Drawn };
 
-    DrawEngine(Stage &stage, DrawSession &session, QObject *parent = nullptr);
+    explicit DrawEngine(Stage &stage, QObject *parent = nullptr);
+
+    const DrawSession &session() const { return m_session; }
+    DrawState state() const { return m_session.drawState; }
 
     // Builds the vbLoadBlock value for a batch size; unset, no vbLoadBlock is sent.
     void setBlockStyle(std::function<QString(int batchCount)> blockStyle);
+    // The nine leading vbAddImg fields of the template's prize picture (see DrawSession).
+    void setPrizeHead(const QString &prizeHead) { m_session.prizeHead = prizeHead; }
 
-    bool loadJx(int id, bool resetButtons);
-    void reFrashJx(bool hideBlocks, bool resetButtons);
-    void defulteJx(bool resetButtons);
+    // Shows the award on the stage and plans its next batch. Loading the award on show again
+    // keeps the result state; resetButtons brings back the start buttons and the rest state.
+    bool loadAward(int id, bool resetButtons);
+    void reloadAward(bool hideBlocks, bool resetButtons);
+    // The award last drawn (selJxid), or else the first with open slots.
+    void loadDefaultAward(bool resetButtons);
     void firstOpenAward(bool resetButtons);
     void stepAward(bool forward, bool wrap);
 
-    // cmdStart: a full award moves on; otherwise the winners are decided now and sent.
+    // Start: a full award moves on; otherwise the winners are decided now and sent.
     StartOutcome pressStart();
     // The decorative stream: a fresh random sample of the press's eligible names, sent as
     // vbPushLst. Returns the value sent (empty when nothing was sent).
@@ -46,12 +49,20 @@ public:
     // On stoplucksub: stores the running press in one transaction. False when nothing was
     // running or the store refused; then nothing of the batch is stored.
     bool recordWinners();
-    // cmdCancel: asks, then takes the last batch back. True when something was undone.
+    // Cancel: asks, then takes the last batch back. True when something was undone.
     bool cancelLastBatch();
     // The restart of the end-of-draw prompt: asks, saves the winners to History/ through
     // `exportWinners`, clears every win and give-up, and loads the default award again. A
     // snapshot that cannot be written leaves the wins in place.
     bool restartDraw(const WinnerExporter &exportWinners);
+
+    // Clear: the names that roll or land vanish unstored, and the draw is at rest.
+    void clearDraw();
+    // The winner parade runs on the stage until resetToIdle().
+    void beginParade();
+    // At rest, whatever ran: a landing that could not be stored, the parade's end, the screen
+    // closing. A late stoplucksub then stores nothing. Nothing is sent.
+    void resetToIdle();
 
 Q_SIGNALS:
     // Every award is full: the draw screen shows its end-of-draw prompt.
@@ -74,7 +85,7 @@ private:
     void send(const QString &name, const QString &value);
 
     Stage &m_stage;
-    DrawSession &m_session;
+    DrawSession m_session;
     std::function<QString(int)> m_blockStyle;
 };
 

@@ -68,9 +68,9 @@ int slotsOf(QSqlDatabase db, int awardId) {
 
 MakeupFault checkAddedSlots(const QString &typed, int slotsNow) {
     const std::optional<qint64> value = wholeNumber(typed);
-    if (!value || *value < 1) return {QStringLiteral("至少追加一个名额!"), MakeupField::Num};
+    if (!value || *value < 1) return {QStringLiteral("至少追加一个名额!"), MakeupField::AddedSlots};
     if (*value + qMax(slotsNow, 0) > kMaxSlots)
-        return {QStringLiteral("追加后奖品名额最多为32767个"), MakeupField::Num};
+        return {QStringLiteral("追加后奖品名额最多为32767个"), MakeupField::AddedSlots};
     return {};
 }
 
@@ -91,16 +91,16 @@ bool addSlots(QSqlDatabase db, int awardId, int count, QString *error) {
 }
 
 MakeupFault checkNewAward(const NewAward &award) {
-    if (award.JXName.trimmed().isEmpty())
-        return {QStringLiteral("请输入奖项名称!"), MakeupField::JxName};
-    MakeupFault fault = countFault(award.JXNum, QStringLiteral("至少存在1个名额"),
-                                   QStringLiteral("奖品名额最多为32767个"), MakeupField::JxNum);
+    if (award.name.trimmed().isEmpty())
+        return {QStringLiteral("请输入奖项名称!"), MakeupField::AwardName};
+    MakeupFault fault = countFault(award.slotCount, QStringLiteral("至少存在1个名额"),
+                                   QStringLiteral("奖品名额最多为32767个"), MakeupField::SlotCount);
     if (fault.failed()) return fault;
-    fault = countFault(award.JXGroup, QStringLiteral("至少存在1个抽奖批次"),
-                       QStringLiteral("抽奖批次最多为32767次"), MakeupField::JxGroup);
+    fault = countFault(award.batchCount, QStringLiteral("至少存在1个抽奖批次"),
+                       QStringLiteral("抽奖批次最多为32767次"), MakeupField::BatchCount);
     if (fault.failed()) return fault;
-    if (award.JPName.trimmed().isEmpty())
-        return {QStringLiteral("奖品名称不能为空"), MakeupField::JpName};
+    if (award.prizeName.trimmed().isEmpty())
+        return {QStringLiteral("奖品名称不能为空"), MakeupField::PrizeName};
     return {};
 }
 
@@ -117,9 +117,9 @@ int insertAward(QSqlDatabase db, const NewAward &award, QString *error) {
         return store::exec(db,
                            QStringLiteral("INSERT INTO JPList (ID,JXName,JXNum,JXGroup,JPName,"
                                           "JPPhoto,OrderNum,isReLuck) VALUES (?,?,?,?,?,'',?,?)"),
-                           {id, award.JXName.trimmed(), award.JXNum.trimmed().toInt(),
-                            award.JXGroup.trimmed().toInt(), award.JPName.trimmed(), order,
-                            award.isReLuck ? 1 : 0},
+                           {id, award.name.trimmed(), award.slotCount.trimmed().toInt(),
+                            award.batchCount.trimmed().toInt(), award.prizeName.trimmed(), order,
+                            award.excludeWinners ? 1 : 0},
                            error);
     });
     return inserted ? id : 0;

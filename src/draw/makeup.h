@@ -24,7 +24,7 @@ QList<MakeupChoice> makeupChoices(QSqlDatabase db);
 int choiceId(const QString &text);
 
 // The field a failed check sends the focus back to.
-enum class MakeupField { None, Num, JxName, JxNum, JxGroup, JpName };
+enum class MakeupField { None, AddedSlots, AwardName, SlotCount, BatchCount, PrizeName };
 
 struct MakeupFault {
     QString message;
@@ -40,11 +40,11 @@ bool addSlots(QSqlDatabase db, int awardId, int count, QString *error);
 
 // The fields of the new-award tab as typed.
 struct NewAward {
-    QString JXName;
-    QString JXNum;
-    QString JXGroup;
-    QString JPName;
-    bool isReLuck = true;
+    QString name;
+    QString slotCount;
+    QString batchCount;
+    QString prizeName;
+    bool excludeWinners = true;  // no second win for anyone who has won before
 };
 
 // The first failing rule in the order of the tab's fields.

@@ -1,7 +1,6 @@
 #include "draw/progress.h"
 
 #include <QFileInfo>
-#include <QHash>
 #include <QSqlQuery>
 
 #include "core/appstate.h"
@@ -9,6 +8,7 @@
 #include "core/store.h"
 #include "core/ui.h"
 #include "draw/batchplan.h"
+#include "draw/winners.h"
 
 namespace draw {
 
@@ -25,25 +25,18 @@ AwardFigures awardFigures(QSqlDatabase db) {
 }
 
 QString luckProgress(QSqlDatabase db, qint64 luckTotal) {
-    QList<QString> markers;
+    QList<int> awardIds;
     QSqlQuery awards(db);
     awards.setForwardOnly(true);
     awards.exec(QStringLiteral("SELECT ID FROM JPList ORDER BY OrderNum ASC"));
     while (awards.next())
-        markers << store::awardMarker(awards.value(0).toInt());
-    if (markers.isEmpty() || luckTotal <= 0) return QStringLiteral("0%");
+        awardIds << awards.value(0).toInt();
+    if (awardIds.isEmpty() || luckTotal <= 0) return QStringLiteral("0%");
 
-    // One pass over the participants holding any text in JxID (through its index) instead of
-    // one scan of the roster per award. Each (participant, award) pair counts once.
+    // Each (participant, award) pair counts once.
     qint64 wins = 0;
-    QSqlQuery holders(db);
-    holders.setForwardOnly(true);
-    holders.exec(QStringLiteral("SELECT JxID FROM UserList WHERE JxID > ''"));
-    while (holders.next()) {
-        const QString text = holders.value(0).toString();
-        for (const QString &marker : markers)
-            wins += text.contains(marker) ? 1 : 0;
-    }
+    for (int awardId : awardIds)
+        wins += countAwardWinners(db, awardId);
     // Percent of a whole number: wins * 100 / luckTotal, halves to even.
     return QString::number(divideHalfEven(wins * 100, luckTotal)) + QStringLiteral("%");
 }

@@ -15,9 +15,9 @@ struct AwardFigures {
     qint64 batchSum = 0;    // all their batches
 };
 
-// tjJX: the award count and the sums of slots and batches (0 when there is no award).
+// The award count and the sums of slots and batches (0 when there is no award).
 AwardFigures awardFigures(QSqlDatabase db);
-// getLuckPos: the (participant, award) wins over luckTotal, in percent rounded half to even,
+// The (participant, award) wins over luckTotal, in percent rounded half to even,
 // as "37%". "0%" with no award or no slot. Not capped at 100: make-up slots and slots reduced
 // below the winners can take it beyond.
 QString luckProgress(QSqlDatabase db, qint64 luckTotal);

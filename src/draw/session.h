@@ -8,10 +8,10 @@
 
 namespace draw {
 
-// drawState of the draw screen.
+// Where the draw is: at rest, names rolling or landing, a stored batch on show, the parade.
 enum DrawState : int { Idle = 0, Running = 1, Result = 2, Playback = 3 };
 
-// The award the draw screen has loaded, as read by loadJx.
+// The award the draw screen has loaded.
 struct LoadedAward {
     int id = 0;  // 0: none loaded yet
     int orderNum = 0;
@@ -22,12 +22,12 @@ struct LoadedAward {
     BatchPlan plan;
 };
 
-// Everything the draw keeps between presses, for as long as the draw screen lives. The screen
-// owns one; the engine reads and writes it.
+// Everything the draw keeps between presses, for as long as the draw screen lives. The engine
+// owns it; everyone else reads it.
 struct DrawSession {
     LoadedAward award;
     int batchCount = 0;
-    int drawState = Idle;
+    DrawState drawState = Idle;
     bool canCancel = false;
     // The press in progress: "name$id|name$id" for the stage, and the IDs joined by ",".
     QString winnerList;
@@ -37,8 +37,8 @@ struct DrawSession {
     // The nine leading vbAddImg fields of the prize picture, each followed by "|"; blank when the
     // template shows no prize picture.
     QString prizeHead;
-    // The eligible participants of the loaded award, read ahead at loadJx so that Start costs
-    // little, and read again at Start when the store has changed since (see StoreStamp). The
+    // The eligible participants of the loaded award, read ahead when the award loads so that Start
+    // costs little, and read again at Start when the store has changed since (see StoreStamp). The
     // scroll samples from here.
     Candidates candidates;
     QString candidatesDigest;

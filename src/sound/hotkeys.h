@@ -24,7 +24,8 @@ inline bool isSupported(int code) {
     return keyName(code) != kUnsupported;
 }
 
-// The stored code of a Qt key; keypad digits have their own codes. -1 for a key with none.
+// The stored code of a Qt key, in the numbering the stage reports keys in (one table, in
+// stage/keycodes.h); keypad digits have their own codes. -1 for a key with none.
 int keyCodeFromQt(int qtKey, Qt::KeyboardModifiers modifiers);
 
 // The stored codes by row (ID - 1); rows missing from the table read 0.

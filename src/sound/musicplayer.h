@@ -33,7 +33,7 @@ public:
     void stop();
 
     int state() const;
-    // Stopped or played to the end: what the timers that loop the music look for.
+    // Stopped, or played to the end.
     bool hasEnded() const;
 
     double position() const;

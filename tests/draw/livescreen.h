@@ -7,20 +7,24 @@
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QQuickWindow>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
 
-#include <functional>
 #include <memory>
 
 #include "chrome/widgethelpers.h"
 #include "core/appstate.h"
 #include "core/fonts.h"
 #include "core/store.h"
+#include "draw/engine.h"
+#include "draw/paraderunner.h"
 #include "draw/view/drawwindow.h"
 #include "stage/view/qmlstage.h"
+#include "stage/view/stagefactory.h"
 #include "support/dialogwatch.h"
 #include "support/fakemediabackend.h"
 #include "support/scriptedui.h"
@@ -35,6 +39,7 @@ struct LiveScreen {
     FakeMedia *media = installFakeMedia();
     bool started = false;
     std::unique_ptr<DrawWindow> form;
+    QPointer<QmlStage> movie;  // the stage the screen made
 
     LiveScreen() {
         installFontSubstitutes();
@@ -42,25 +47,37 @@ struct LiveScreen {
         appState().luckDelay = 0;
         appState().isTimeProtect = 1;
         appState().timeProtectNum = 1;
+        setStageFactory([this](QWidget *parent) {
+            auto made = std::make_unique<QmlStage>(parent);
+            movie = made.get();
+            return made;
+        });
     }
-    // Opens the screen and waits for the movie's start-up dialogue; `prepare` may replace the
-    // screen's dialog hooks first.
-    bool open(const std::function<void(DrawWindow &)> &prepare = {}) {
+    ~LiveScreen() {
+        form.reset();
+        setStageFactory({});
+    }
+    // Opens the screen and waits for the movie's start-up dialogue.
+    bool open() {
         form = std::make_unique<DrawWindow>();
-        if (prepare) prepare(*form);
+        QSignalSpy ready(form.get(), &DrawWindow::stageReady);
         form->show();
-        QElapsedTimer clock;
-        clock.start();
-        while (!form->isStageReady() && clock.elapsed() < 15000)
-            QTest::qWait(20);
-        if (!form->isStageReady() || !stage() || !stage()->root()) return false;
+        if (ready.isEmpty() && !ready.wait(15000)) return false;
+        if (!stage() || !stage()->root()) return false;
         // The button bar stays up, so that the test can click it at any time.
         stage()->root()->setProperty("restMs", 600000);
         return true;
     }
     QString stageErrors() const { return stage() ? stage()->errors().join('\n') : QString(); }
-    QmlStage *stage() const { return qobject_cast<QmlStage *>(form->stage()); }
-    int state() const { return form->session().drawState; }
+    QmlStage *stage() const { return movie; }
+    draw::DrawEngine &engine() const { return *form->findChild<draw::DrawEngine *>(); }
+    const draw::DrawSession &session() const { return engine().session(); }
+    int state() const { return engine().state(); }
+    draw::ParadeRunner &parade() const { return *form->findChild<draw::ParadeRunner *>(); }
+    QTimer *timer(const char *name) const { return form->findChild<QTimer *>(QLatin1String(name)); }
+    QWidget *stopGuardPanel() const {
+        return form->findChild<QWidget *>(QStringLiteral("stopGuardPanel"));
+    }
     // A key as the operator presses it on the stage.
     void key(int qtKey) {
         QKeyEvent press(QEvent::KeyPress, qtKey, Qt::NoModifier);
@@ -86,7 +103,7 @@ struct LiveScreen {
         if (!waitState(draw::Running, 3000)) return false;
         QElapsedTimer clock;
         clock.start();
-        while (form->tmDelay().isActive() && clock.elapsed() < 5000)
+        while (timer("stopGuardTimer")->isActive() && clock.elapsed() < 5000)
             QTest::qWait(20);
         key(Qt::Key_Space);
         return waitState(draw::Result);
@@ -96,10 +113,10 @@ struct LiveScreen {
         const QString dir = qEnvironmentVariable("QUELLIO_SCREENSHOT_DIR");
         QTest::qWait(80);
         QImage image = stage()->grab();
-        if (form->picInfo()->isVisible()) {
+        if (stopGuardPanel()->isVisible()) {
             QPainter painter(&image);
-            const QPixmap panel = form->picInfo()->grab();
-            painter.drawPixmap(form->mapFromGlobal(form->picInfo()->pos()), panel);
+            const QPixmap panel = stopGuardPanel()->grab();
+            painter.drawPixmap(form->mapFromGlobal(stopGuardPanel()->pos()), panel);
         }
         QVERIFY(!image.isNull());
         if (dir.isEmpty()) return;

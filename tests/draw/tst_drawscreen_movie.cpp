@@ -31,25 +31,25 @@ void TestDrawScreenMovie::wholeDrawsOnTheRealMovie() {
                                         QStringLiteral("笔记本电脑"));
     const int second = s.folder.addAward(QStringLiteral("二等奖"), 5, 1);
     QVERIFY2(s.open(), qPrintable(s.stageErrors()));
-    QCOMPARE(s.form->session().award.id, first);
+    QCOMPARE(s.session().award.id, first);
     QCOMPARE(s.stage()->grab().size(), QSize(1920, 1080));
 
     // Space starts (the same key as stop); an early stop is refused by the guard.
     s.key(Qt::Key_Space);
     QVERIFY(s.waitState(draw::Running, 3000));
-    QTRY_VERIFY(s.form->tmAS().isActive());
+    QTRY_VERIFY(s.timer("scrollSampleTimer")->isActive());
     s.key(Qt::Key_Space);
-    QVERIFY(s.form->picInfo()->isVisible());
+    QVERIFY(s.stopGuardPanel()->isVisible());
     QCOMPARE(s.state(), int(draw::Running));
     s.save(QStringLiteral("drawscreen-stopguard.png"));
     // Esc while the names roll: no question.
     s.key(Qt::Key_Escape);
     QVERIFY(s.ui->records.isEmpty());
-    QTRY_VERIFY_WITH_TIMEOUT(!s.form->tmDelay().isActive(), 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(!s.timer("stopGuardTimer")->isActive(), 5000);
     QTest::qWait(400);
     s.save(QStringLiteral("drawscreen-rolling.png"));
     s.key(Qt::Key_Space);
-    QVERIFY(!s.form->tmAS().isActive());
+    QVERIFY(!s.timer("scrollSampleTimer")->isActive());
     QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM UserList WHERE UserStatus=3")), 0);
     QVERIFY(s.waitState(draw::Result));
     QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM UserList WHERE UserStatus=3")), 10);
@@ -70,7 +70,7 @@ void TestDrawScreenMovie::wholeDrawsOnTheRealMovie() {
     QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM UserList WHERE UserStatus=3")), 10);
     // The award is full: Start moves on to the next one and draws nobody.
     s.key(Qt::Key_Space);
-    QCOMPARE(s.form->session().award.id, second);
+    QCOMPARE(s.session().award.id, second);
     QCOMPARE(s.state(), int(draw::Idle));
     QVERIFY(s.drawWithSpace());
     QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM UserList WHERE UserStatus=3")), 12);
@@ -113,12 +113,12 @@ void TestDrawScreenMovie::paradeToItsEndTwice() {
     s.key(Qt::Key_L);
     QCOMPARE(s.state(), int(draw::Playback));
     QVERIFY(s.waitState(draw::Idle, 20000));
-    QCOMPARE(s.form->playIndex(), 3);
-    QCOMPARE(s.form->playCursor(), 2);
+    QCOMPARE(s.parade().nextNumber(), 3);
+    QCOMPARE(s.parade().lastShownOrder(), 2);
     s.key(Qt::Key_L);
     QCOMPARE(s.state(), int(draw::Playback));
     QVERIFY(s.waitState(draw::Idle, 20000));
-    QCOMPARE(s.form->playIndex(), 5);
+    QCOMPARE(s.parade().nextNumber(), 5);
 }
 
 int main(int argc, char *argv[]) {

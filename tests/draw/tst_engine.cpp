@@ -8,6 +8,7 @@
 #include "core/settings.h"
 #include "core/store.h"
 #include "draw/engine.h"
+#include "draw/winners.h"
 #include "stage/protocol.h"
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
@@ -15,12 +16,12 @@
 
 namespace {
 
-// A started program folder with a recording stage and an engine on a fresh session.
+// A started program folder with a recording stage and an engine with a fresh session.
 struct Rig {
     TempProgramFolder folder;
     RecordingStage stage;
-    draw::DrawSession session;
-    draw::DrawEngine engine{stage, session};
+    draw::DrawEngine engine{stage};
+    const draw::DrawSession &session = engine.session();
     bool started = folder.start();
 
     QVariant cell(qint64 id, const QString &column) {
@@ -47,7 +48,7 @@ class TestEngine : public QObject {
 
 private Q_SLOTS:
     void init() { m_ui = installScriptedUi(); }
-    void loadJxFillsTheAwardPanel();
+    void loadAwardFillsTheAwardPanel();
     void winnerLineIsMaskedWhenNamesAreHidden();
     void missingAwardWarnsAndKeepsTheLoadedOne();
     void navigationAtBothEnds();
@@ -68,16 +69,16 @@ private:
     ScriptedUi *m_ui = nullptr;
 };
 
-void TestEngine::loadJxFillsTheAwardPanel() {
+void TestEngine::loadAwardFillsTheAwardPanel() {
     Rig rig;
     QVERIFY(rig.started);
     const int award = rig.folder.addAward("一等奖", 10, 3, 1, 0, 0, 0, "笔记本");
     const QList<int> ids = rig.folder.addUsers({"张三", "李四", "王五"});
     rig.setWins(ids[0], "|1|", 3, "2026-11-05 09:00:00");
     rig.setWins(ids[1], "|1|", 3, "2026-11-05 09:10:00");
-    rig.session.prizeHead = QStringLiteral("false|img_jpimgs|3|10|20|100|80|100|false|");
+    rig.engine.setPrizeHead(QStringLiteral("false|img_jpimgs|3|10|20|100|80|100|false|"));
 
-    QVERIFY(rig.engine.loadJx(award, false));
+    QVERIFY(rig.engine.loadAward(award, false));
     const QString picture = rig.folder.path();
     QCOMPARE(rig.stage.lines(),
              QStringList({"vbLoadJx=一等奖|10|3|8|笔记本|" + picture,
@@ -89,11 +90,11 @@ void TestEngine::loadJxFillsTheAwardPanel() {
 
     // The same award again: no picture, state Result; with resetButtons back to Idle.
     rig.stage.clear();
-    QVERIFY(rig.engine.loadJx(award, false));
+    QVERIFY(rig.engine.loadAward(award, false));
     QCOMPARE(rig.stage.names(), QStringList({"vbLoadJx", "updateLuckLst"}));
     QCOMPARE(rig.session.drawState, int(draw::Result));
     rig.stage.clear();
-    rig.engine.reFrashJx(true, true);
+    rig.engine.reloadAward(true, true);
     QCOMPARE(rig.stage.names(),
              QStringList({"vbLoadJx", "updateLuckLst", "changBtn", "vbShowBlock"}));
     QCOMPARE(rig.stage.values(proto::changBtn), QStringList({"defulte"}));
@@ -101,9 +102,9 @@ void TestEngine::loadJxFillsTheAwardPanel() {
 
     // An award nobody has won, and a blank head: no picture.
     const int second = rig.folder.addAward("二等奖", 2, 1);
-    rig.session.prizeHead.clear();
+    rig.engine.setPrizeHead(QString());
     rig.stage.clear();
-    QVERIFY(rig.engine.loadJx(second, false));
+    QVERIFY(rig.engine.loadAward(second, false));
     QCOMPARE(rig.stage.values(proto::updateLuckLst), QStringList({"当前奖项暂无获奖名单..."}));
     QVERIFY(rig.stage.values(proto::vbAddImg).isEmpty());
     QVERIFY(m_ui->records.isEmpty());
@@ -120,7 +121,7 @@ void TestEngine::winnerLineIsMaskedWhenNamesAreHidden() {
     appState().hideLeft = 1;
     appState().hideRight = 0;
     appState().hideReStr = QStringLiteral("*");
-    rig.engine.loadJx(award, false);
+    rig.engine.loadAward(award, false);
     QCOMPARE(rig.stage.values(proto::updateLuckLst), QStringList({"恭喜∶张**   李*   获得一等奖"}));
 }
 
@@ -128,9 +129,9 @@ void TestEngine::missingAwardWarnsAndKeepsTheLoadedOne() {
     Rig rig;
     QVERIFY(rig.started);
     const int award = rig.folder.addAward("一等奖", 3, 1);
-    QVERIFY(rig.engine.loadJx(award, false));
+    QVERIFY(rig.engine.loadAward(award, false));
     rig.stage.clear();
-    QVERIFY(!rig.engine.loadJx(99, false));
+    QVERIFY(!rig.engine.loadAward(99, false));
     QCOMPARE(m_ui->texts(), QStringList({"找不到指定的奖项!"}));
     QCOMPARE(m_ui->last().title, QStringLiteral("警告"));
     QCOMPARE(m_ui->last().style, MsgStyle::Exclamation);
@@ -147,7 +148,7 @@ void TestEngine::navigationAtBothEnds() {
     const QList<int> ids = rig.folder.addUsers({"a", "b"});
     rig.setWins(ids[0], "|2|", 3);  // the second award is full
 
-    rig.engine.loadJx(first, false);
+    rig.engine.loadAward(first, false);
     rig.engine.stepAward(true, false);
     QCOMPARE(rig.session.award.id, second);  // stepping does not skip a full award
     QCOMPARE(rig.session.batchCount, 0);
@@ -163,7 +164,7 @@ void TestEngine::navigationAtBothEnds() {
     rig.engine.stepAward(false, false);  // first, no wrap back
     QCOMPARE(rig.session.award.id, first);
     QVERIFY(rig.stage.calls.isEmpty());
-    rig.engine.loadJx(third, false);
+    rig.engine.loadAward(third, false);
     rig.engine.stepAward(false, false);
     QCOMPARE(rig.session.award.id, second);
     QVERIFY(m_ui->records.isEmpty());
@@ -184,7 +185,7 @@ void TestEngine::allFullAndNoAwards() {
     const QList<int> ids = rig.folder.addUsers({"a", "b"});
     rig.setWins(ids[0], "|1|", 3);
     rig.setWins(ids[1], "|2|", 3);
-    rig.engine.loadJx(first, false);
+    rig.engine.loadAward(first, false);
     rig.stage.clear();
     QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Stepped);
     // Start on the full first award steps to the second, also full; Start there wraps and finds
@@ -203,12 +204,12 @@ void TestEngine::defaultAwardFallsBackSilently() {
     const QList<int> ids = rig.folder.addUsers({"a"});
     rig.setWins(ids[0], "|1|", 3);
     appState().selJxid = 77;  // deleted meanwhile
-    rig.engine.defulteJx(true);
+    rig.engine.loadDefaultAward(true);
     QCOMPARE(rig.stage.names().first(), QStringLiteral("vbShowBlock"));
     QCOMPARE(rig.session.award.id, second);
     QVERIFY(m_ui->records.isEmpty());
     appState().selJxid = 1;
-    rig.engine.defulteJx(false);
+    rig.engine.loadDefaultAward(false);
     QCOMPARE(rig.session.award.id, 1);
 }
 
@@ -219,7 +220,7 @@ void TestEngine::startOnAFullAwardMovesOn() {
     const int second = rig.folder.addAward("二等奖", 1, 1);
     const QList<int> ids = rig.folder.addUsers({"a", "b"});
     rig.setWins(ids[0], "|1|", 3);
-    rig.engine.loadJx(first, false);
+    rig.engine.loadAward(first, false);
     rig.stage.clear();
     QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Stepped);
     QCOMPARE(rig.stage.values(proto::changBtn), QStringList({"defulte"}));
@@ -244,7 +245,7 @@ void TestEngine::recordAndCancelEditTheWins() {
     rig.setWins(ids[1], "|1|", 3, "2026-01-01 10:00:00");
     QSignalSpy recorded(&rig.engine, &draw::DrawEngine::batchRecorded);
 
-    rig.engine.loadJx(second, false);
+    rig.engine.loadAward(second, false);
     QVERIFY(rig.drawAndRecord());
     QCOMPARE(recorded.count(), 1);
     QCOMPARE(rig.cell(ids[0], "JxID").toString(), QStringLiteral("|2|"));
@@ -295,7 +296,7 @@ void TestEngine::cancelAnsweredNoChangesNothing() {
     QVERIFY(rig.started);
     const int award = rig.folder.addAward("一等奖", 1, 1);
     const QList<int> ids = rig.folder.addUsers({"a"});
-    rig.engine.loadJx(award, false);
+    rig.engine.loadAward(award, false);
     QVERIFY(rig.drawAndRecord());
     m_ui->answers.enqueue(false);
     QVERIFY(!rig.engine.cancelLastBatch());
@@ -313,7 +314,7 @@ void TestEngine::emptyDrawWarns() {
     const QList<int> ids = rig.folder.addUsers({"a", "b"});
     rig.setWins(ids[0], "无", 1);
     rig.setWins(ids[1], "|5|", 3);  // isReLuck 1: any win excludes
-    rig.engine.loadJx(award, false);
+    rig.engine.loadAward(award, false);
     rig.engine.setBlockStyle([](int) { return QStringLiteral("x|s|"); });
     rig.stage.clear();
     QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Empty);
@@ -330,13 +331,13 @@ void TestEngine::nothingIsStoredBeforeTheLanding() {
     QVERIFY(rig.started);
     const int award = rig.folder.addAward("一等奖", 2, 1);
     rig.folder.addUsers({"a", "b", "c"});
-    rig.engine.loadJx(award, false);
+    rig.engine.loadAward(award, false);
     QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Drawn);
     QCOMPARE(rig.session.winnerIds.split(',').size(), 2);
     // The screen is left (or the program dies) before stoplucksub: nothing was promised.
     QCOMPARE(draw::countAwardWinners(rig.folder.db(), award), 0);
-    // A Clear puts the screen back to Idle; a late stoplucksub then records nothing.
-    rig.session.drawState = draw::Idle;
+    // A Clear puts the draw back to Idle; a late stoplucksub then records nothing.
+    rig.engine.clearDraw();
     QVERIFY(!rig.engine.recordWinners());
     QCOMPARE(draw::countAwardWinners(rig.folder.db(), award), 0);
 }
@@ -346,7 +347,7 @@ void TestEngine::interruptedRecordingStoresNothing() {
     QVERIFY(rig.started);
     const int award = rig.folder.addAward("一等奖", 5, 1);
     rig.folder.addUsers({"a", "b", "c", "d", "e"});
-    rig.engine.loadJx(award, false);
+    rig.engine.loadAward(award, false);
     QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Drawn);
     // The store fails on the third row of the batch, after two rows were already written.
     const QString third = rig.session.winnerIds.split(',').at(2);
@@ -379,9 +380,9 @@ void TestEngine::pressIsReproducedFromTheAuditLog() {
     for (int i = 0; i < 30; ++i)
         rows << QStringLiteral("p%1||%2").arg(i).arg(i % 10);
     rig.folder.addUsers(rows);
-    rig.engine.loadJx(award, false);
+    rig.engine.loadAward(award, false);
     rig.engine.pressStart();
-    rig.session.drawState = draw::Idle;
+    rig.engine.clearDraw();
     rig.engine.pressStart();
 
     QFile log(draw::auditLogPath(rig.folder.path()));
@@ -422,7 +423,7 @@ void TestEngine::scrollSampleComesFromTheEligiblePool() {
     const QList<int> ids =
         rig.folder.addUsers({"a|x|5", "b$c|x|0", "d|x|7", "e|x|5", "f|x|7", "g|x|5"});
     rig.setWins(ids[3], "无", 1);  // gave up: never scrolls
-    rig.engine.loadJx(award, false);
+    rig.engine.loadAward(award, false);
     rig.engine.pressStart();
     rig.stage.clear();
     // Equals 5: only DiffNum 5 and 0 scroll; names cleaned as on the winners' path.
@@ -438,7 +439,7 @@ void TestEngine::scrollSampleComesFromTheEligiblePool() {
 
     // From a larger pool each tick is a fresh sample of batchCount distinct names.
     rig.folder.addUsers(QStringList(40, QStringLiteral("h|x|0")));
-    rig.engine.loadJx(award, false);
+    rig.engine.loadAward(award, false);
     QSet<QString> seen;
     for (int tick = 0; tick < 20; ++tick) {
         const QStringList items = rig.engine.pushScrollSample().mid(2).split('|');
@@ -448,7 +449,9 @@ void TestEngine::scrollSampleComesFromTheEligiblePool() {
     QVERIFY(seen.size() > 15);
 
     // Nobody eligible: nothing is sent.
-    rig.session.candidates = draw::Candidates();
+    store::exec(rig.folder.db(), QStringLiteral("UPDATE UserList SET JxID='无', UserStatus=1"));
+    rig.engine.loadAward(award, false);
+    QVERIFY(rig.session.candidates.count() == 0);
     rig.stage.clear();
     QVERIFY(rig.engine.pushScrollSample().isEmpty());
     QVERIFY(rig.stage.calls.isEmpty());
@@ -461,7 +464,7 @@ void TestEngine::storeChangesReachTheNextPress() {
     QVERIFY(rig.started);
     const int award = rig.folder.addAward("一等奖", 10, 10, 1, 1, 5);  // greater than 5
     const QList<int> ids = rig.folder.addUsers({"a|x|9", "b|x|1", "c|x|1"});
-    rig.engine.loadJx(award, false);
+    rig.engine.loadAward(award, false);
     QVERIFY(rig.drawAndRecord());
     QCOMPARE(rig.session.lastWinnerIds, QString::number(ids[0]));
     // Recorded by the draw itself: the roster stays, the winner is out.
@@ -471,7 +474,7 @@ void TestEngine::storeChangesReachTheNextPress() {
     store::exec(rig.folder.db(), "UPDATE UserList SET DiffNum=8 WHERE ID=?", {ids[1]});
     const int added = rig.folder.addUsers({"d|x|7"}).first();
     rig.setWins(ids[2], "无", 1);
-    rig.session.drawState = draw::Idle;
+    rig.engine.clearDraw();
     QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Drawn);
     QCOMPARE(rig.session.candidates.primary, (std::vector<qint64>{ids[1], added}));
     QVERIFY(rig.session.candidates.fallback.empty());
@@ -486,7 +489,7 @@ void TestEngine::restartClearsEverythingAfterASnapshot() {
     const QList<int> ids = rig.folder.addUsers({"a", "b"});
     rig.setWins(ids[0], "|1|", 3);
     rig.setWins(ids[1], "无", 1);
-    rig.engine.loadJx(second, false);
+    rig.engine.loadAward(second, false);
     settings::write("selJxid", second);
 
     m_ui->answers.enqueue(false);

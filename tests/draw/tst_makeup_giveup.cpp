@@ -26,6 +26,8 @@
 #include "draw/view/endofdrawdialog.h"
 #include "draw/view/giveupdialog.h"
 #include "draw/view/makeupdrawdialog.h"
+#include "draw/winners.h"
+#include "drawdialogs.h"
 #include "results/view/printwinners.h"
 #include "stage/protocol.h"
 #include "support/recordingstage.h"
@@ -39,8 +41,8 @@ namespace {
 struct Rig {
     TempProgramFolder folder;
     RecordingStage stage;
-    draw::DrawSession session;
-    draw::DrawEngine engine{stage, session};
+    draw::DrawEngine engine{stage};
+    const draw::DrawSession &session = engine.session();
     bool started = folder.start();
 
     void setWins(qint64 id, const QString &jxId, int status, const QString &time = QString()) {
@@ -72,10 +74,6 @@ QImage sideBySide(const QPixmap &left, const QPixmap &right) {
     painter.drawPixmap(gap, gap, left);
     painter.drawPixmap(2 * gap + left.width(), gap, right);
     return image;
-}
-
-QTreeWidgetItem *row(GiveUpDialog &dialog, int index) {
-    return dialog.lstUser->topLevelItem(index);
 }
 
 }  // namespace
@@ -124,7 +122,7 @@ void TestMakeupGiveUp::makeupShiftsTheBatchPlan_data() {
     QTest::newRow("1/5 full + 1") << 1 << 5 << 1 << 1 << 0 << 1;
 }
 
-// The dialog adds the slots, names the award, and loadJx works out the new batch size.
+// The dialog adds the slots, names the award, and loading it works out the new batch size.
 void TestMakeupGiveUp::makeupShiftsTheBatchPlan() {
     QFETCH(int, slotCount);
     QFETCH(int, batches);
@@ -142,25 +140,24 @@ void TestMakeupGiveUp::makeupShiftsTheBatchPlan() {
     const QList<int> ids = rig.folder.addUsers(names);
     for (int i = 0; i < have; ++i)
         rig.setWins(ids[i], store::awardMarker(award), 3);
-    QVERIFY(rig.engine.loadJx(award, true));
+    QVERIFY(rig.engine.loadAward(award, true));
     QCOMPARE(rig.session.batchCount, before);
 
     MakeUpDrawDialog dialog(award);
-    QCOMPARE(draw::choiceId(dialog.ComboJX->currentText()), award);
-    QSignalSpy load(&dialog, &MakeUpDrawDialog::loadAward);
-    dialog.txtNum->setText(QString::number(added));
-    dialog.cmdSave->click();
+    QCOMPARE(draw::choiceId(awardCombo(dialog)->currentText()), award);
+    QSignalSpy load(&dialog, &MakeUpDrawDialog::awardChanged);
+    edit(dialog, "addedSlotsEdit")->setText(QString::number(added));
+    button(dialog, "okButton")->click();
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
     QCOMPARE(load.count(), 1);
     QCOMPARE(load.at(0).at(0).toInt(), award);
-    QCOMPARE(dialog.awardToLoad(), award);
     QVERIFY(m_ui->records.isEmpty());
     QCOMPARE(draw::slotsOf(rig.folder.db(), award), slotCount + added);
     QCOMPARE(store::scalar(rig.folder.db(), "SELECT JXGroup FROM JPList WHERE ID=?", {award}),
              QVariant(batches));
 
     rig.stage.clear();
-    QVERIFY(rig.engine.loadJx(dialog.awardToLoad(), true));
+    QVERIFY(rig.engine.loadAward(load.at(0).at(0).toInt(), true));
     QCOMPARE(rig.session.batchCount, after);
     QCOMPARE(rig.session.batchCount, draw::planBatch(slotCount + added, batches, have).batchCount);
     QCOMPARE(rig.session.drawState, int(draw::Idle));
@@ -188,8 +185,8 @@ void TestMakeupGiveUp::makeupSlotChecks() {
     const int award = rig.folder.addAward(QStringLiteral("一等奖"), 10, 2);
     MakeUpDrawDialog dialog(award);
     dialog.show();
-    dialog.txtNum->setText(typed);
-    dialog.cmdSave->click();
+    edit(dialog, "addedSlotsEdit")->setText(typed);
+    button(dialog, "okButton")->click();
     QCOMPARE(m_ui->texts(), QStringList({message}));
     QCOMPARE(m_ui->last().title, QStringLiteral("提示"));
     QCOMPARE(m_ui->last().style, MsgStyle::Information);
@@ -197,8 +194,8 @@ void TestMakeupGiveUp::makeupSlotChecks() {
     QCOMPARE(draw::slotsOf(rig.folder.db(), award), 10);
     // The largest make-up that fits is taken.
     m_ui->clear();
-    dialog.txtNum->setText(QStringLiteral("32757"));
-    dialog.cmdSave->click();
+    edit(dialog, "addedSlotsEdit")->setText(QStringLiteral("32757"));
+    button(dialog, "okButton")->click();
     QVERIFY(m_ui->records.isEmpty());
     QCOMPARE(draw::slotsOf(rig.folder.db(), award), 32767);
 }
@@ -207,13 +204,12 @@ void TestMakeupGiveUp::makeupWithoutAwardsDoesNothing() {
     Rig rig;
     QVERIFY(rig.started);
     MakeUpDrawDialog dialog;
-    QCOMPARE(dialog.ComboJX->currentText(), QStringLiteral("无任何奖项"));
-    QSignalSpy load(&dialog, &MakeUpDrawDialog::loadAward);
-    dialog.txtNum->setText(QStringLiteral("3"));
-    dialog.cmdSave->click();
+    QCOMPARE(awardCombo(dialog)->currentText(), QStringLiteral("无任何奖项"));
+    QSignalSpy load(&dialog, &MakeUpDrawDialog::awardChanged);
+    edit(dialog, "addedSlotsEdit")->setText(QStringLiteral("3"));
+    button(dialog, "okButton")->click();
     QVERIFY(m_ui->records.isEmpty());
     QCOMPARE(load.count(), 0);
-    QCOMPARE(dialog.awardToLoad(), 0);
 }
 
 void TestMakeupGiveUp::newAwardChecksInOrder_data() {
@@ -241,11 +237,12 @@ void TestMakeupGiveUp::newAwardChecksInOrder() {
     MakeUpDrawDialog dialog;
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    dialog.sTab->setCurrentIndex(1);
-    QLineEdit *boxes[] = {dialog.txtJxName, dialog.txtJxNum, dialog.txtJxGroup, dialog.txtJpName};
+    tabs(dialog)->setCurrentIndex(1);
+    QLineEdit *boxes[] = {edit(dialog, "awardNameEdit"), edit(dialog, "slotCountEdit"),
+                          edit(dialog, "batchCountEdit"), edit(dialog, "prizeNameEdit")};
     for (int i = 0; i < 4; ++i)
         boxes[i]->setText(fields[i]);
-    dialog.cmdSave->click();
+    button(dialog, "okButton")->click();
     QCOMPARE(m_ui->texts(), QStringList({message}));
     QCOMPARE(m_ui->last().title, QStringLiteral("提示"));
     QCOMPARE(QApplication::focusWidget(), boxes[focus]);
@@ -258,17 +255,17 @@ void TestMakeupGiveUp::newAwardGoesLastAndLoads() {
     rig.folder.addAward(QStringLiteral("一等奖"), 1, 1);
     rig.folder.addAward(QStringLiteral("二等奖"), 2, 1);
     MakeUpDrawDialog dialog(1);
-    QSignalSpy load(&dialog, &MakeUpDrawDialog::loadAward);
-    dialog.sTab->setCurrentIndex(1);
-    dialog.txtJxName->setText(QStringLiteral("加码奖 ' |$"));
-    dialog.txtJxNum->setText(QStringLiteral("3"));
-    dialog.txtJxGroup->setText(QStringLiteral("5"));
-    dialog.txtJpName->setText(QStringLiteral("红包"));
-    dialog.chkIsReLuck->setChecked(false);
-    dialog.cmdSave->click();
+    QSignalSpy load(&dialog, &MakeUpDrawDialog::awardChanged);
+    tabs(dialog)->setCurrentIndex(1);
+    edit(dialog, "awardNameEdit")->setText(QStringLiteral("加码奖 ' |$"));
+    edit(dialog, "slotCountEdit")->setText(QStringLiteral("3"));
+    edit(dialog, "batchCountEdit")->setText(QStringLiteral("5"));
+    edit(dialog, "prizeNameEdit")->setText(QStringLiteral("红包"));
+    child<QCheckBox>(dialog, "excludeWinnersCheck")->setChecked(false);
+    button(dialog, "okButton")->click();
     QVERIFY(m_ui->records.isEmpty());
     QCOMPARE(load.count(), 1);
-    const int id = dialog.awardToLoad();
+    const int id = load.at(0).at(0).toInt();
     QCOMPARE(id, 3);
     QSqlQuery query(rig.folder.db());
     query.exec(
@@ -284,7 +281,7 @@ void TestMakeupGiveUp::newAwardGoesLastAndLoads() {
     QCOMPARE(query.value(6).toInt(), 0);
     QCOMPARE(query.value(7).toInt(), 0);
 
-    QVERIFY(rig.engine.loadJx(id, true));
+    QVERIFY(rig.engine.loadAward(id, true));
     QCOMPARE(rig.stage.values(proto::vbLoadJx).constLast().section(QLatin1Char('|'), 2, 3),
              QStringLiteral("3|3"));
     QCOMPARE(rig.session.batchCount, 1);
@@ -292,15 +289,16 @@ void TestMakeupGiveUp::newAwardGoesLastAndLoads() {
     // No 16-bit ID left: a message, nothing stored, the dialog stays.
     store::exec(rig.folder.db(), QStringLiteral("UPDATE JPList SET ID=32767 WHERE ID=3"));
     MakeUpDrawDialog full;
-    full.sTab->setCurrentIndex(1);
-    full.txtJxName->setText(QStringLiteral("再加一个"));
-    full.txtJxNum->setText(QStringLiteral("1"));
-    full.txtJxGroup->setText(QStringLiteral("1"));
-    full.txtJpName->setText(QStringLiteral("红包"));
-    full.cmdSave->click();
+    QSignalSpy fullLoad(&full, &MakeUpDrawDialog::awardChanged);
+    tabs(full)->setCurrentIndex(1);
+    edit(full, "awardNameEdit")->setText(QStringLiteral("再加一个"));
+    edit(full, "slotCountEdit")->setText(QStringLiteral("1"));
+    edit(full, "batchCountEdit")->setText(QStringLiteral("1"));
+    edit(full, "prizeNameEdit")->setText(QStringLiteral("红包"));
+    button(full, "okButton")->click();
     QCOMPARE(m_ui->texts(), QStringList({draw::kAwardsFullMessage}));
     QCOMPARE(m_ui->last().title, QStringLiteral("提示"));
-    QCOMPARE(full.awardToLoad(), 0);
+    QCOMPARE(fullLoad.count(), 0);
     QCOMPARE(store::scalar(rig.folder.db(), "SELECT COUNT(*) FROM JPList").toInt(), 3);
 }
 
@@ -315,15 +313,15 @@ void TestMakeupGiveUp::giveUpFreesEveryAwardOfTheHolder() {
     rig.setWins(ids[0], "|1||2|", 3, "2026-11-05 20:00:00");
     rig.setWins(ids[1], "|1|", 3, "2026-11-05 19:00:00");
     rig.setWins(ids[2], "|2|", 3, "2026-11-05 21:00:00");
-    QVERIFY(rig.engine.loadJx(first, false));
+    QVERIFY(rig.engine.loadAward(first, false));
     QCOMPARE(rig.session.batchCount, 0);
 
     GiveUpDialog dialog;
     QSignalSpy given(&dialog, &GiveUpDialog::givenUp);
     QCOMPARE(row(dialog, 1)->text(GiveUpDialog::ColName), QStringLiteral("张三"));
-    dialog.setTicked(ids[0], true);
+    tick(dialog, ids[0]);
     m_ui->answers.enqueue(true);
-    dialog.cmdDelLuck->click();
+    button(dialog, "giveUpButton")->click();
     QCOMPARE(m_ui->texts(), QStringList({"确认要将选择的中奖名单做弃奖么?"}));
     QCOMPARE(m_ui->last().title, QStringLiteral("警告"));
     QCOMPARE(given.count(), 1);
@@ -334,14 +332,14 @@ void TestMakeupGiveUp::giveUpFreesEveryAwardOfTheHolder() {
     QCOMPARE(rig.winners(second), 1);
 
     // Still listed, as given up, with nothing in the awards column.
-    QCOMPARE(dialog.lstUser->topLevelItemCount(), 3);
+    QCOMPARE(winnerList(dialog)->topLevelItemCount(), 3);
     QTreeWidgetItem *gaveUp = row(dialog, 1);
     QCOMPARE(gaveUp->text(GiveUpDialog::ColName), QStringLiteral("张三"));
     QCOMPARE(gaveUp->text(GiveUpDialog::ColAwards), QString());
     QCOMPARE(gaveUp->text(GiveUpDialog::ColStatus), QStringLiteral("已弃奖"));
 
     // What the draw screen does on givenUp: one more draw of one on the first award.
-    rig.engine.reFrashJx(true, true);
+    rig.engine.reloadAward(true, true);
     QCOMPARE(rig.session.batchCount, 1);
     QCOMPARE(rig.stage.values(proto::vbLoadJx).constLast().section(QLatin1Char('|'), 3, 3),
              QStringLiteral("1"));
@@ -355,14 +353,14 @@ void TestMakeupGiveUp::giveUpAsksFirst() {
     rig.setWins(ids[0], "|1|", 3);
     GiveUpDialog dialog;
     QSignalSpy given(&dialog, &GiveUpDialog::givenUp);
-    dialog.cmdDelLuck->click();
+    button(dialog, "giveUpButton")->click();
     QCOMPARE(m_ui->texts(), QStringList({"请勾选需要做弃奖的的名单!"}));
     QCOMPARE(m_ui->last().title, QStringLiteral("提示"));
     QCOMPARE(m_ui->last().style, MsgStyle::Exclamation);
     m_ui->clear();
-    dialog.setTicked(ids[0], true);
+    tick(dialog, ids[0]);
     m_ui->answers.enqueue(false);
-    dialog.cmdDelLuck->click();
+    button(dialog, "giveUpButton")->click();
     QCOMPARE(m_ui->texts(), QStringList({"确认要将选择的中奖名单做弃奖么?"}));
     QCOMPARE(rig.cell(ids[0], "JxID").toString(), QStringLiteral("|1|"));
     QCOMPARE(given.count(), 0);
@@ -388,55 +386,57 @@ void TestMakeupGiveUp::giveUpListPagesAndSearches() {
     rig.folder.addUsers({free});  // no win: never listed
 
     GiveUpDialog dialog;
-    QCOMPARE(dialog.labInfo->text(), QStringLiteral("总计∶1234 人, 当前第1页/共25页"));
-    QCOMPARE(dialog.lstUser->topLevelItemCount(), 50);
+    QCOMPARE(pageInfo(dialog), QStringLiteral("总计∶1234 人, 当前第1页/共25页"));
+    QCOMPARE(winnerList(dialog)->topLevelItemCount(), 50);
     QCOMPARE(row(dialog, 0)->text(GiveUpDialog::ColName), QStringLiteral("嘉宾1231"));
     QCOMPARE(row(dialog, 4)->text(GiveUpDialog::ColName), QStringLiteral("嘉宾1221"));
     QCOMPARE(row(dialog, 49)->text(GiveUpDialog::ColNumber), QStringLiteral("50"));
-    QCOMPARE(dialog.lstUser->currentItem(), row(dialog, 0));
-    QVERIFY(!dialog.cmdPre->isEnabled());
-    QVERIFY(dialog.cmdNext->isEnabled());
+    QCOMPARE(winnerList(dialog)->currentItem(), row(dialog, 0));
+    QVERIFY(!button(dialog, "previousPageButton")->isEnabled());
+    QVERIFY(button(dialog, "nextPageButton")->isEnabled());
 
     // Ticks on one page are not carried to the next.
     row(dialog, 0)->setCheckState(GiveUpDialog::ColNumber, Qt::Checked);
-    dialog.cmdNext->click();
-    QCOMPARE(dialog.pageNo, 2);
+    button(dialog, "nextPageButton")->click();
+    QCOMPARE(pageInfo(dialog), QStringLiteral("总计∶1234 人, 当前第2页/共25页"));
     QCOMPARE(row(dialog, 0)->text(GiveUpDialog::ColNumber), QStringLiteral("1"));
     QCOMPARE(row(dialog, 0)->text(GiveUpDialog::ColName), QStringLiteral("嘉宾1187"));
-    QVERIFY(dialog.cmdPre->isEnabled());
-    dialog.cmdDelLuck->click();
+    QVERIFY(button(dialog, "previousPageButton")->isEnabled());
+    button(dialog, "giveUpButton")->click();
     QCOMPARE(m_ui->texts(), QStringList({"请勾选需要做弃奖的的名单!"}));
 
-    dialog.showList(QString(), 25);
-    QCOMPARE(dialog.lstUser->topLevelItemCount(), 34);
+    for (int page = 2; page < 25; ++page)
+        button(dialog, "nextPageButton")->click();
+    QCOMPARE(winnerList(dialog)->topLevelItemCount(), 34);
     QCOMPARE(row(dialog, 33)->text(GiveUpDialog::ColName), QStringLiteral("嘉宾0010"));
-    QVERIFY(!dialog.cmdNext->isEnabled());
-    dialog.showList(QString(), 99);  // beyond the end: the last page
-    QCOMPARE(dialog.pageNo, 25);
-    dialog.showList(QString(), -3);
-    QCOMPARE(dialog.pageNo, 1);
+    QVERIFY(!button(dialog, "nextPageButton")->isEnabled());
+    // A page beyond either end is the last or the first.
+    QCOMPARE(draw::giveUpPage(rig.folder.db(), QString(), 99).pageNo, 25);
+    QCOMPARE(draw::giveUpPage(rig.folder.db(), QString(), -3).pageNo, 1);
 
-    dialog.txtKey->setText(QStringLiteral(" 李雷 "));
-    dialog.cmdSearch->click();
-    QCOMPARE(dialog.labInfo->text(), QStringLiteral("总计∶2 人, 当前第1页/共1页"));
+    edit(dialog, "searchEdit")->setText(QStringLiteral(" 李雷 "));
+    button(dialog, "searchButton")->click();
+    QCOMPARE(pageInfo(dialog), QStringLiteral("总计∶2 人, 当前第1页/共1页"));
     QCOMPARE(row(dialog, 0)->text(GiveUpDialog::ColName), QStringLiteral("李雷雷"));
-    QVERIFY(!dialog.cmdPre->isEnabled() && !dialog.cmdNext->isEnabled());
-    QVERIFY(dialog.cmdDelLuck->isEnabled());
+    QVERIFY(!button(dialog, "previousPageButton")->isEnabled() &&
+            !button(dialog, "nextPageButton")->isEnabled());
+    QVERIFY(button(dialog, "giveUpButton")->isEnabled());
     // The user's _ is a character, not a wildcard.
-    dialog.txtKey->setText(QStringLiteral("_"));
-    dialog.cmdSearch->click();
-    QCOMPARE(dialog.lstUser->topLevelItemCount(), 1);
+    edit(dialog, "searchEdit")->setText(QStringLiteral("_"));
+    button(dialog, "searchButton")->click();
+    QCOMPARE(winnerList(dialog)->topLevelItemCount(), 1);
     QCOMPARE(row(dialog, 0)->text(GiveUpDialog::ColName), QStringLiteral("王_五"));
-    dialog.txtKey->setText(QStringLiteral("%"));
-    dialog.cmdSearch->click();
-    QCOMPARE(dialog.lstUser->topLevelItemCount(), 0);
-    QCOMPARE(dialog.labInfo->text(), QStringLiteral("总计∶0 人, 当前第1页/共1页"));
-    QVERIFY(!dialog.cmdPre->isEnabled() && !dialog.cmdNext->isEnabled() &&
-            !dialog.cmdDelLuck->isEnabled());
-    dialog.cmdCancelKey->click();
-    QCOMPARE(dialog.txtKey->text(), QString());
-    QCOMPARE(dialog.lstUser->topLevelItemCount(), 50);
-    QVERIFY(dialog.cmdDelLuck->isEnabled());
+    edit(dialog, "searchEdit")->setText(QStringLiteral("%"));
+    button(dialog, "searchButton")->click();
+    QCOMPARE(winnerList(dialog)->topLevelItemCount(), 0);
+    QCOMPARE(pageInfo(dialog), QStringLiteral("总计∶0 人, 当前第1页/共1页"));
+    QVERIFY(!button(dialog, "previousPageButton")->isEnabled() &&
+            !button(dialog, "nextPageButton")->isEnabled() &&
+            !button(dialog, "giveUpButton")->isEnabled());
+    child<QToolButton>(dialog, "clearSearchButton")->click();
+    QCOMPARE(edit(dialog, "searchEdit")->text(), QString());
+    QCOMPARE(winnerList(dialog)->topLevelItemCount(), 50);
+    QVERIFY(button(dialog, "giveUpButton")->isEnabled());
 }
 
 void TestMakeupGiveUp::giveUpListColumns() {
@@ -476,12 +476,12 @@ void TestMakeupGiveUp::restartAsksSnapshotsAndClears() {
     rig.setWins(ids[1], "|2|", 3, "2026-11-05 20:01:00");
     rig.setWins(ids[2], "无", 1);
     settings::write(QStringLiteral("selJxid"), second);
-    QVERIFY(rig.engine.loadJx(second, false));
+    QVERIFY(rig.engine.loadAward(second, false));
 
     EndOfDrawDialog prompt(rig.engine);
     QSignalSpy restarted(&prompt, &EndOfDrawDialog::restartDone);
     m_ui->answers.enqueue(false);
-    prompt.imgLab[EndOfDrawDialog::Restart]->click();
+    choice(prompt, "restartChoice")->click();
     QCOMPARE(m_ui->texts(), QStringList({"您确定要删除所有中奖信息,重新开始抽奖么?"}));
     QCOMPARE(m_ui->last().title, QStringLiteral("重要提示"));
     QCOMPARE(restarted.count(), 0);
@@ -490,7 +490,7 @@ void TestMakeupGiveUp::restartAsksSnapshotsAndClears() {
 
     m_ui->clear();
     m_ui->answers.enqueue(true);
-    prompt.imgLab[EndOfDrawDialog::Restart]->click();
+    choice(prompt, "restartChoice")->click();
     QCOMPARE(m_ui->texts(), QStringList({"您确定要删除所有中奖信息,重新开始抽奖么?"}));
     QCOMPARE(restarted.count(), 1);
     QCOMPARE(prompt.result(), int(QDialog::Accepted));
@@ -521,26 +521,27 @@ void TestMakeupGiveUp::askEndExportPrintParade() {
     EndOfDrawDialog prompt(rig.engine);
     QCOMPARE(prompt.size(), QSize(430, 248));
     QCOMPARE(prompt.windowTitle(), QStringLiteral("系统提示"));
-    QCOMPARE(prompt.Label1->text(), QStringLiteral("所有的奖项均已经抽取完毕!"));
+    QCOMPARE(child<QLabel>(prompt, "headline")->text(),
+             QStringLiteral("所有的奖项均已经抽取完毕!"));
 
-    prompt.imgLab[EndOfDrawDialog::Export]->click();  // cancelled dialog: nothing
+    choice(prompt, "exportChoice")->click();  // cancelled dialog: nothing
     QCOMPARE(m_ui->last().kind, QStringLiteral("file"));
     QCOMPARE(m_ui->last().title, QStringLiteral("导出文件"));
     QVERIFY(m_ui->texts().isEmpty());
     const QString csv = rig.folder.path("out.csv");
     m_ui->files.enqueue(csv);
-    prompt.imgLab[EndOfDrawDialog::Export]->click();
+    choice(prompt, "exportChoice")->click();
     QVERIFY(QFile::exists(csv));
     QCOMPARE(m_ui->texts(), QStringList({csv + "\n导出名单完毕!!"}));
 
     m_ui->clear();
     setPrinterFactory([] { return std::unique_ptr<QPagedPaintDevice>(); });
-    prompt.imgLab[EndOfDrawDialog::Print]->click();
+    choice(prompt, "printChoice")->click();
     QCOMPARE(m_ui->texts(), QStringList({"找不到打印机"}));
     QVERIFY(prompt.result() != QDialog::Accepted);
 
     QSignalSpy parade(&prompt, &EndOfDrawDialog::paradeRequested);
-    prompt.imgLab[EndOfDrawDialog::Parade]->click();
+    choice(prompt, "paradeChoice")->click();
     QCOMPARE(parade.count(), 1);
     QCOMPARE(prompt.result(), int(QDialog::Accepted));
     QCOMPARE(rig.cell(ids[0], "JxID").toString(), QStringLiteral("|1|"));
@@ -559,17 +560,17 @@ void TestMakeupGiveUp::screenshot() {
     GiveUpDialog giveUp;
     row(giveUp, 3)->setCheckState(GiveUpDialog::ColNumber, Qt::Checked);
     row(giveUp, 5)->setCheckState(GiveUpDialog::ColNumber, Qt::Checked);
-    giveUp.lstUser->setCurrentItem(row(giveUp, 5));
+    winnerList(giveUp)->setCurrentItem(row(giveUp, 5));
     QVERIFY(grabShown(giveUp).save(out + QStringLiteral("/give-up.png")));
 
     MakeUpDrawDialog addJx(4);
-    addJx.txtNum->setText(QStringLiteral("5"));
+    edit(addJx, "addedSlotsEdit")->setText(QStringLiteral("5"));
     const QPixmap quick = grabShown(addJx);
-    addJx.sTab->setCurrentIndex(1);
-    addJx.txtJxName->setText(QStringLiteral("董事长特别奖"));
-    addJx.txtJxNum->setText(QStringLiteral("6"));
-    addJx.txtJxGroup->setText(QStringLiteral("2"));
-    addJx.txtJpName->setText(QStringLiteral("现金红包 888元"));
+    tabs(addJx)->setCurrentIndex(1);
+    edit(addJx, "awardNameEdit")->setText(QStringLiteral("董事长特别奖"));
+    edit(addJx, "slotCountEdit")->setText(QStringLiteral("6"));
+    edit(addJx, "batchCountEdit")->setText(QStringLiteral("2"));
+    edit(addJx, "prizeNameEdit")->setText(QStringLiteral("现金红包 888元"));
     const QPixmap award = grabShown(addJx);
     QVERIFY(sideBySide(quick, award).save(out + QStringLiteral("/add-award-draw.png")));
 }

@@ -10,9 +10,7 @@
 #include "chrome/style.h"
 #include "core/appstate.h"
 #include "draw/audit.h"
-#include "draw/view/endofdrawdialog.h"
-#include "draw/view/giveupdialog.h"
-#include "draw/view/makeupdrawdialog.h"
+#include "drawdialogs.h"
 #include "livescreen.h"
 #include "stage/protocol.h"
 #include "support/overstage.h"
@@ -91,10 +89,10 @@ private:
 };
 
 void TestWholeEvening::drawBatch(LiveScreen &s, int award, int expectedSize, int expectedTotal) {
-    QCOMPARE(s.form->session().award.id, award);
-    QCOMPARE(s.form->session().batchCount, expectedSize);
+    QCOMPARE(s.session().award.id, award);
+    QCOMPARE(s.session().batchCount, expectedSize);
     QVERIFY(s.drawWithSpace());
-    QCOMPARE(idList(s.form->session().lastWinnerIds).size(), expectedSize);
+    QCOMPARE(idList(s.session().lastWinnerIds).size(), expectedSize);
     QCOMPARE(winners(s, award), expectedTotal);
 }
 
@@ -129,14 +127,14 @@ void TestWholeEvening::fromFirstBatchToTheExport() {
     drawBatch(s, second, 2, 4);
 
     // Both of the batch just drawn did not come: given up through the stage's button.
-    const QList<qint64> absent = idList(s.form->session().lastWinnerIds);
+    const QList<qint64> absent = idList(s.session().lastWinnerIds);
     bool opened = false;
     whenDialogOpens<GiveUpDialog>(
         [&](GiveUpDialog &dialog) {
             for (qint64 id : absent)
-                dialog.setTicked(id, true);
+                tick(dialog, id);
             s.ui->answers.enqueue(true);
-            dialog.cmdDelLuck->click();
+            button(dialog, "giveUpButton")->click();
             dialog.reject();
         },
         &opened);
@@ -146,7 +144,7 @@ void TestWholeEvening::fromFirstBatchToTheExport() {
     QCOMPARE(winners(s, second), 2);
     // Their two places are drawn again, among the others.
     drawBatch(s, second, 2, 4);
-    for (qint64 id : idList(s.form->session().lastWinnerIds))
+    for (qint64 id : idList(s.session().lastWinnerIds))
         QVERIFY(!absent.contains(id));
     drawBatch(s, second, 3, 7);
 
@@ -154,14 +152,14 @@ void TestWholeEvening::fromFirstBatchToTheExport() {
     // batches, and the seven already drawn leave one batch of three.
     whenDialogOpens<MakeUpDrawDialog>(
         [&](MakeUpDrawDialog &dialog) {
-            QCOMPARE(dialog.ComboJX->currentData().toInt(), second);
-            dialog.txtNum->setText(QStringLiteral("3"));
-            dialog.cmdSave->click();
+            QCOMPARE(awardCombo(dialog)->currentData().toInt(), second);
+            edit(dialog, "addedSlotsEdit")->setText(QStringLiteral("3"));
+            button(dialog, "okButton")->click();
         },
         &opened);
     QVERIFY(s.click(proto::btn::btnAdd));
     QTRY_VERIFY(opened);
-    QTRY_COMPARE(s.form->session().batchCount, 3);
+    QTRY_COMPARE(s.session().batchCount, 3);
     drawBatch(s, second, 3, 10);
 
     // First prize, then an award nobody planned: both through the make-up dialog's second page.
@@ -169,19 +167,19 @@ void TestWholeEvening::fromFirstBatchToTheExport() {
     drawBatch(s, first, 2, 2);
     whenDialogOpens<MakeUpDrawDialog>(
         [&](MakeUpDrawDialog &dialog) {
-            dialog.sTab->setCurrentIndex(1);
-            dialog.txtJxName->setText(QStringLiteral("老板加码奖"));
-            dialog.txtJxNum->setText(QStringLiteral("3"));
-            dialog.txtJxGroup->setText(QStringLiteral("1"));
-            dialog.txtJpName->setText(QStringLiteral("现金红包"));
-            dialog.cmdSave->click();
+            tabs(dialog)->setCurrentIndex(1);
+            edit(dialog, "awardNameEdit")->setText(QStringLiteral("老板加码奖"));
+            edit(dialog, "slotCountEdit")->setText(QStringLiteral("3"));
+            edit(dialog, "batchCountEdit")->setText(QStringLiteral("1"));
+            edit(dialog, "prizeNameEdit")->setText(QStringLiteral("现金红包"));
+            button(dialog, "okButton")->click();
         },
         &opened);
     QVERIFY(s.click(proto::btn::btnAdd));
     QTRY_VERIFY(opened);
-    const int bonus = s.form->session().award.id;
+    const int bonus = s.session().award.id;
     QVERIFY(bonus != first);
-    QCOMPARE(s.form->session().award.name, QStringLiteral("老板加码奖"));
+    QCOMPARE(s.session().award.name, QStringLiteral("老板加码奖"));
     drawBatch(s, bonus, 3, 3);
 
     // Everything is drawn: Start brings the end-of-draw prompt, which exports the list.
@@ -190,8 +188,8 @@ void TestWholeEvening::fromFirstBatchToTheExport() {
         [&](EndOfDrawDialog &dialog) {
             saveOverStage(s, dialog, QStringLiteral("ask-end.png"));
             s.ui->files.enqueue(csv);
-            dialog.imgLab[EndOfDrawDialog::Export]->click();
-            dialog.CancelButton->click();
+            choice(dialog, "exportChoice")->click();
+            button(dialog, "cancelButton")->click();
         },
         &opened);
     s.key(Qt::Key_Space);
@@ -201,13 +199,14 @@ void TestWholeEvening::fromFirstBatchToTheExport() {
 
     // Asked again, the prompt starts the parade of all winners, which outlives the prompt.
     whenDialogOpens<EndOfDrawDialog>(
-        [&](EndOfDrawDialog &dialog) { dialog.imgLab[EndOfDrawDialog::Parade]->click(); }, &opened);
+        [&](EndOfDrawDialog &dialog) { choice(dialog, "paradeChoice")->click(); }, &opened);
     s.key(Qt::Key_Space);
     QTRY_VERIFY(opened);
     QTRY_COMPARE(s.state(), int(draw::Playback));
     QTest::qWait(300);
     QCOMPARE(s.state(), int(draw::Playback));
-    s.form->vbCallPlay(proto::no);
+    // Stopped as the parade key stops it.
+    s.stage()->setVariable(proto::vbCallPlay, proto::no);
     QVERIFY(s.waitState(draw::Idle, 5000));
 
     // The file holds the store's winners: award by award in draw order, batch by batch.

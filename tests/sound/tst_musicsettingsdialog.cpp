@@ -8,7 +8,8 @@
 #include "core/appstate.h"
 #include "core/profile.h"
 #include "core/settings.h"
-#include "draw/view/drawwindow.h"
+#include "draw/drawmusic.h"
+#include "sound/musicplayer.h"
 #include "sound/view/musicsettingsdialog.h"
 #include "support/fakemediabackend.h"
 #include "support/scriptedui.h"
@@ -259,11 +260,11 @@ void TestMusicSettingsDialog::drawScreenReadsTheSameKeys() {
     m_ui->files.enqueue(writeFile(outside("party.mp3"), "party"));
     Row(form, music::Background).choose->click();
     save(form);
-    const draw::MusicSettings read = draw::readMusicSettings(appState().appPath);
-    QVERIFY(read.isBgMusic && read.isLuckMusic);
-    QCOMPARE(read.bgFile, music("party.mp3"));
+    const music::Settings read = music::readSettings(appState().appPath);
+    QVERIFY(read[music::Background].on && read[music::Luck].on);
+    QCOMPARE(read[music::Background].path, music("party.mp3"));
     // No win sound of one's own: the program's chime.
-    QCOMPARE(read.luckFile, appState().path("sys/win.wav"));
+    QCOMPARE(draw::winSoundPath(read, appState().appPath), appState().path("sys/win.wav"));
 }
 
 // Renders the dialog for docs/screenshots when QUELLIO_SCREENSHOTS names a folder.

@@ -5,7 +5,6 @@
 #include <QFrame>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QScreen>
 #include <QSqlDatabase>
 #include <QVBoxLayout>
@@ -14,19 +13,24 @@
 #include "chrome/widgethelpers.h"
 #include "core/appstate.h"
 #include "core/helpers.h"
+#include "core/logging.h"
 #include "core/profile.h"
 #include "core/settings.h"
 #include "core/store.h"
 #include "core/ui.h"
+#include "design/payloads.h"
 #include "design/stageload.h"
 #include "design/templatemodel.h"
 #include "design/templatepage.h"
+#include "draw/drawmusic.h"
+#include "draw/engine.h"
+#include "draw/paraderunner.h"
 #include "draw/view/endofdrawdialog.h"
 #include "draw/view/giveupdialog.h"
 #include "draw/view/makeupdrawdialog.h"
 #include "results/exportwinners.h"
 #include "results/view/printwinners.h"
-#include "sound/musicplayer.h"
+#include "sound/musicsettings.h"
 #include "stage/protocol.h"
 #include "stage/view/stagefactory.h"
 
@@ -44,47 +48,41 @@ DrawWindow::DrawWindow(QWidget *parent) : QWidget(parent, Qt::Window) {
     if (settings::readInt(settings::kMain, QStringLiteral("selJxid"), &selected, &ignored))
         state.selJxid = selected;
 
-    openGiveUp = [](DrawWindow &screen) {
-        GiveUpDialog dialog(&screen);
-        QObject::connect(&dialog, &GiveUpDialog::givenUp, &screen,
-                         [&screen] { screen.reFrashJx(true, true); });
-        dialog.exec();
-    };
-    openAddAward = [](DrawWindow &screen) {
-        MakeUpDrawDialog dialog(screen.session().award.id, &screen);
-        QObject::connect(&dialog, &MakeUpDrawDialog::loadAward, &screen,
-                         [&screen](int id) { screen.loadJx(id, true); });
-        dialog.exec();
-    };
-    openAskEnd = [this](DrawWindow &screen) {
-        EndOfDrawDialog dialog(*m_engine, &screen);
-        // The parade starts once the prompt and the press that opened it are over, so that
-        // nothing after them sets the state back to rest under the running parade.
-        QObject::connect(
-            &dialog, &EndOfDrawDialog::paradeRequested, &screen, [&screen] { screen.vbCallPlay(); },
-            Qt::QueuedConnection);
-        dialog.exec();
-    };
-
     buildControls();
-    m_tmAS.setInterval(200);
-    m_tmDelay.setInterval(1000);
-    m_tmM.setInterval(100);
-    connect(&m_tmAS, &QTimer::timeout, this, &DrawWindow::tmAS_Timer);
-    connect(&m_tmDelay, &QTimer::timeout, this, &DrawWindow::tmDelay_Timer);
-    connect(&m_tmM, &QTimer::timeout, this, &DrawWindow::tmM_Timer);
+    m_scrollSampleTimer.setObjectName(QStringLiteral("scrollSampleTimer"));
+    m_scrollSampleTimer.setParent(this);
+    m_scrollSampleTimer.setInterval(200);
+    m_stopGuardTimer.setObjectName(QStringLiteral("stopGuardTimer"));
+    m_stopGuardTimer.setParent(this);
+    m_stopGuardTimer.setInterval(1000);
+    connect(&m_scrollSampleTimer, &QTimer::timeout, this, &DrawWindow::pushScrollSample);
+    connect(&m_stopGuardTimer, &QTimer::timeout, this, &DrawWindow::onStopGuardTick);
 
-    m_stage = createStage(m_picMain);
-    if (QWidget *stageWidget = m_stage->widget()) m_picMain->layout()->addWidget(stageWidget);
-    m_engine = std::make_unique<draw::DrawEngine>(*m_stage, m_session);
+    m_stage = createStage(m_stageHost);
+    if (QWidget *stageWidget = m_stage->widget()) m_stageHost->layout()->addWidget(stageWidget);
     connect(m_stage.get(), &Stage::commandReceived, this, &DrawWindow::onStageCommand);
-    connect(m_engine.get(), &draw::DrawEngine::batchRecorded, this, &DrawWindow::onBatchRecorded);
-    connect(m_engine.get(), &draw::DrawEngine::recordFailed, this, &DrawWindow::onRecordFailed);
-    connect(m_engine.get(), &draw::DrawEngine::allAwardsFull, this, &DrawWindow::onAllAwardsFull);
-    connect(m_engine.get(), &draw::DrawEngine::drawEmpty, this, &DrawWindow::backToBackground);
-    connect(m_engine.get(), &draw::DrawEngine::batchCancelled, this, &DrawWindow::backToBackground);
-
     openTemplate();
+    createHelpers();
+    m_stage->loadMovie(state.path(state.movieStage));
+    setFullScreenMode(true);
+}
+
+DrawWindow::~DrawWindow() {
+    m_scrollSampleTimer.stop();
+    m_stopGuardTimer.stop();
+    if (m_stage) disconnect(m_stage.get(), nullptr, this, nullptr);
+    // The helpers speak to the stage: they go before it.
+    delete m_parade;
+    delete m_engine;
+    delete m_music;
+    m_stage.reset();
+    m_templateDb = QSqlDatabase();
+    if (!m_templateConnection.isEmpty()) QSqlDatabase::removeDatabase(m_templateConnection);
+}
+
+void DrawWindow::createHelpers() {
+    m_engine = new draw::DrawEngine(*m_stage, this);
+    m_engine->setObjectName(QStringLiteral("drawEngine"));
     m_engine->setBlockStyle([this](int batchCount) {
         const AppState &s = appState();
         design::LoadBlockValues values;
@@ -95,52 +93,61 @@ DrawWindow::DrawWindow(QWidget *parent) : QWidget(parent, Qt::Window) {
         values.batchCount = batchCount;
         return design::loadBlockValue(m_templateDb, values);
     });
-    m_music = std::make_unique<MusicPlayer>();
-    m_stage->loadMovie(state.path(state.movieStage));
-    setFullScreenMode(true);
+    m_music = new draw::DrawMusic(this);
+    m_music->setObjectName(QStringLiteral("drawMusic"));
+    m_parade = new draw::ParadeRunner(
+        *m_stage, [this] { return playbackStyle(); }, this);
+    m_parade->setObjectName(QStringLiteral("paradeRunner"));
+
+    connect(m_engine, &draw::DrawEngine::batchRecorded, m_music, &draw::DrawMusic::playWinSound);
+    connect(m_engine, &draw::DrawEngine::recordFailed, this, &DrawWindow::onRecordFailed);
+    connect(m_engine, &draw::DrawEngine::allAwardsFull, this, &DrawWindow::openEndOfDraw);
+    connect(m_engine, &draw::DrawEngine::drawEmpty, m_music, &draw::DrawMusic::backToBackground);
+    connect(m_engine, &draw::DrawEngine::batchCancelled, m_music,
+            &draw::DrawMusic::backToBackground);
+    connect(m_parade, &draw::ParadeRunner::started, this, [this] {
+        m_engine->beginParade();
+        m_music->playParadeMusic();
+    });
+    connect(m_parade, &draw::ParadeRunner::finished, this, [this] {
+        m_music->endParade();
+        m_engine->resetToIdle();
+    });
 }
 
-DrawWindow::~DrawWindow() {
-    m_tmAS.stop();
-    m_tmDelay.stop();
-    m_tmM.stop();
-    if (m_stage) disconnect(m_stage.get(), nullptr, this, nullptr);
-    m_engine.reset();
-    m_stage.reset();
-    m_music.reset();
-    m_templateDb = QSqlDatabase();
-    if (!m_templateConnection.isEmpty()) QSqlDatabase::removeDatabase(m_templateConnection);
+QString DrawWindow::playbackStyle() const {
+    const AppState &state = appState();
+    const design::PlayRow title = design::readPlay(m_templateDb, design::rows::playTitle);
+    const design::PlayRow name = design::readPlay(m_templateDb, design::rows::playName);
+    return design::playbackStylePayload(design::drawPlayback(
+        title, name, state.bgW, state.bgH, state.luckType, state.maxImgWidth, state.maxImgHeight));
 }
 
 void DrawWindow::buildControls() {
     setStyleSheet(QStringLiteral("DrawWindow { background: black; }"));
     setObjectName(QStringLiteral("DrawWindow"));
     setAttribute(Qt::WA_StyledBackground, true);
-    m_picMain = new QWidget(this);
-    m_picMain->setObjectName(QStringLiteral("picMain"));
-    auto *layout = new QVBoxLayout(m_picMain);
+    m_stageHost = new QWidget(this);
+    m_stageHost->setObjectName(QStringLiteral("stageHost"));
+    auto *layout = new QVBoxLayout(m_stageHost);
     layout->setContentsMargins(0, 0, 0, 0);
 
     // The too-fast hint: a small panel in the middle that only a refused Stop shows. The stage
     // renders in a native window no sibling widget can cover, so the panel is a window of its
     // own that floats above it without taking the keyboard from the stage.
-    m_picInfo = new QFrame(this, Qt::ToolTip | Qt::FramelessWindowHint);
-    m_picInfo->setObjectName(QStringLiteral("picInfo"));
-    m_picInfo->setAttribute(Qt::WA_ShowWithoutActivating);
-    m_picInfo->setStyleSheet(
-        QStringLiteral("#picInfo { background: #2A0A0C; border: 2px solid #E8B150; } "
+    m_stopGuardPanel = new QFrame(this, Qt::ToolTip | Qt::FramelessWindowHint);
+    m_stopGuardPanel->setObjectName(QStringLiteral("stopGuardPanel"));
+    m_stopGuardPanel->setAttribute(Qt::WA_ShowWithoutActivating);
+    m_stopGuardPanel->setStyleSheet(
+        QStringLiteral("#stopGuardPanel { background: #2A0A0C; border: 2px solid #E8B150; } "
                        "QLabel { color: #FFE08A; font-size: 36px; padding: 18px 40px; }"));
-    auto *infoLayout = new QVBoxLayout(m_picInfo);
-    infoLayout->setContentsMargins(0, 0, 0, 0);
-    m_labP = new QLabel(m_picInfo);
-    m_labP->setAlignment(Qt::AlignCenter);
-    infoLayout->addWidget(m_labP);
-    m_picInfo->hide();
-
-    // The movie's trace log, kept out of sight.
-    m_text1 = new QPlainTextEdit(this);
-    m_text1->setReadOnly(true);
-    m_text1->hide();
+    auto *panelLayout = new QVBoxLayout(m_stopGuardPanel);
+    panelLayout->setContentsMargins(0, 0, 0, 0);
+    m_stopGuardLabel = new QLabel(m_stopGuardPanel);
+    m_stopGuardLabel->setObjectName(QStringLiteral("stopGuardLabel"));
+    m_stopGuardLabel->setAlignment(Qt::AlignCenter);
+    panelLayout->addWidget(m_stopGuardLabel);
+    m_stopGuardPanel->hide();
 }
 
 void DrawWindow::openTemplate() {
@@ -196,18 +203,20 @@ void DrawWindow::setFullScreenMode(bool fullScreen) {
 
 void DrawWindow::layoutStage() {
     if (isMinimized() || m_isScreenChanging) return;
-    m_picMain->setGeometry(rect());
-    placeInfo();
+    m_stageHost->setGeometry(rect());
+    placeStopGuardPanel();
     const AppState &state = appState();
     if (m_stageShown && state.bgW > 0 && state.bgH > 0)
-        send(proto::vbSetScale, design::stageScalePayload(m_picMain->width(), m_picMain->height(),
-                                                          m_isFullScreen, state.bgW, state.bgH));
+        send(proto::vbSetScale,
+             design::stageScalePayload(m_stageHost->width(), m_stageHost->height(), m_isFullScreen,
+                                       state.bgW, state.bgH));
 }
 
-void DrawWindow::placeInfo() {
-    m_picInfo->adjustSize();
+void DrawWindow::placeStopGuardPanel() {
+    m_stopGuardPanel->adjustSize();
     const QPoint centre = mapToGlobal(rect().center());
-    m_picInfo->move(centre - QPoint(m_picInfo->width() / 2, m_picInfo->height() / 2));
+    m_stopGuardPanel->move(centre -
+                           QPoint(m_stopGuardPanel->width() / 2, m_stopGuardPanel->height() / 2));
 }
 
 void DrawWindow::resizeEvent(QResizeEvent *event) {
@@ -220,7 +229,7 @@ void DrawWindow::changeEvent(QEvent *event) {
     if (event->type() != QEvent::WindowStateChange) return;
     const auto *change = static_cast<QWindowStateChangeEvent *>(event);
     const bool wasMinimised = change->oldState() & Qt::WindowMinimized;
-    if (isMinimized() != wasMinimised) pauseForMinimise(isMinimized());
+    if (isMinimized() != wasMinimised) m_music->setMinimised(isMinimized());
 }
 
 void DrawWindow::closeEvent(QCloseEvent *event) {
@@ -229,12 +238,11 @@ void DrawWindow::closeEvent(QCloseEvent *event) {
         return;
     }
     // Leaving in the middle of a draw stores nothing: the winners are written only on landing.
-    m_tmAS.stop();
-    m_tmDelay.stop();
-    m_tmM.stop();
-    m_picInfo->hide();
-    if (m_music) m_music->stop();
-    m_session.drawState = draw::Idle;
+    m_scrollSampleTimer.stop();
+    m_stopGuardTimer.stop();
+    m_stopGuardPanel->hide();
+    m_music->stop();
+    m_engine->resetToIdle();
     event->accept();
     Q_EMIT closed();
 }
@@ -250,28 +258,26 @@ void DrawWindow::onStageCommand(const QString &command, const QString &args) {
         if (args == proto::ok) onStageReady();
     } else if (command == proto::cmd::blocksetok) {
         if (args != proto::ok) return;
-        m_tmAS.start();
+        m_scrollSampleTimer.start();
         // A first sample as soon as the stage rolls (changBtn "start" follows this reply), so
         // the roll begins on real names rather than on the sizing text.
         QTimer::singleShot(0, this, [this] {
-            if (m_tmAS.isActive()) tmAS_Timer();
+            if (m_scrollSampleTimer.isActive()) pushScrollSample();
         });
     } else if (command == proto::cmd::callLoadPlay) {
-        playNextAward();
+        m_parade->showNextAward();
     } else if (command == proto::cmd::luckplaystop) {
-        onLuckPlayStop();
+        m_parade->finish();
     } else if (command == proto::cmd::btnclick) {
-        onBtnClick(args);
+        onStageButton(args);
     } else if (command == proto::cmd::stoplucksub) {
         m_engine->recordWinners();
     } else if (command == proto::cmd::callvbkeys) {
         bool numeric = false;
         const int code = args.trimmed().toInt(&numeric);
-        if (numeric) SubKey(code);
+        if (numeric) onHotkey(code);
     } else if (command == proto::cmd::msg) {
-        m_text1->moveCursor(QTextCursor::End);
-        m_text1->insertPlainText(args + QLatin1Char('\n'));
-        m_text1->moveCursor(QTextCursor::End);
+        qCDebug(lcStage) << "movie:" << args;
     }
 }
 
@@ -291,20 +297,22 @@ void DrawWindow::sendStageSetup() {
     m_keyCodes = design::keyCodes(db);
     send(proto::setAsKeys, design::keysPayload(m_keyCodes));
     design::sendObjects(*m_stage, data.objects, context);
-    m_session.prizeHead = design::prizePictureHead(data);
+    m_engine->setPrizeHead(design::prizePictureHead(data));
     m_stageShown = true;
-    m_engine->defulteJx(true);
+    m_engine->loadDefaultAward(true);
     layoutStage();
 }
 
 void DrawWindow::onStageReady() {
-    m_stageReady = true;
-    readMusic();
-    startBackgroundMusic();
+    const QString appPath = appState().appPath;
+    const music::Settings sounds = music::readSettings(appPath);
+    m_music->setSettings(sounds, draw::winSoundPath(sounds, appPath));
+    m_music->startBackground();
+    Q_EMIT stageReady();
 }
 
-void DrawWindow::onBtnClick(const QString &button) {
-    const int state = m_session.drawState;
+void DrawWindow::onStageButton(const QString &button) {
+    const draw::DrawState state = m_engine->state();
     // While the names roll or land, the batch is not stored yet: moving to another award, a
     // parade or a dialog now would lose it.
     static const QStringList restOnly = {proto::btn::btnPre,    proto::btn::btnNext,
@@ -318,137 +326,116 @@ void DrawWindow::onBtnClick(const QString &button) {
     } else if (button == proto::btn::btnScreenF) {
         setFullScreenMode(true);
     } else if (button == proto::btn::btnStart) {
-        cmdStart();
+        startDraw();
     } else if (button == proto::btn::btnClear) {
-        cmdClear();
+        clearDraw();
     } else if (button == proto::btn::btnStop) {
-        cmdStop();
+        stopDraw();
     } else if (button == proto::btn::btnCancel) {
-        cmdCancel();
+        cancelBatch();
     } else if (button == proto::btn::btnGiveUp) {
-        cmdGiveUp();
+        openGiveUp();
     } else if (button == proto::btn::btnAdd) {
-        cmdAddLuck();
+        openMakeUp();
     } else if (button == proto::btn::btnNext || button == proto::btn::btnPre) {
         m_engine->stepAward(button == proto::btn::btnNext, false);
     } else if (button == proto::btn::btnLstPrt) {
-        if (state == draw::Idle || state == draw::Result) printForState();
+        if (state == draw::Idle || state == draw::Result) printResults();
     } else if (button == proto::btn::btnLstOut) {
         exportWinners(QString(), true);
     } else if (button == proto::btn::btnPlayLuck) {
-        startPlayback();
+        startParade();
     } else if (button == proto::btn::btnSoundOn) {
-        m_soundOff = true;
-        setVolumeLevel(MusicPlayer::kSilence);
+        m_music->setMuted(true);
     } else if (button == proto::btn::btnSoundOff) {
-        m_soundOff = false;
-        setVolumeLevel(MusicPlayer::kFullVolume);
+        m_music->setMuted(false);
     } else {
         ui().message(button + QStringLiteral("返回系统消息"), MsgStyle::Information,
                      titles::notice);
     }
 }
 
-void DrawWindow::printForState() {
-    if (m_session.drawState == draw::Result)
-        printBatch(m_session.lastWinnerIds, m_session.award.id);
+// The batch on show after a landing; otherwise every winner.
+void DrawWindow::printResults() {
+    const draw::DrawSession &session = m_engine->session();
+    if (session.drawState == draw::Result)
+        printBatch(session.lastWinnerIds, session.award.id);
     else
         printWinners(true);
 }
 
-// --- The hidden buttons ---------------------------------------------------------------------
+// --- The draw -------------------------------------------------------------------------------
 
-void DrawWindow::cmdStart() {
-    m_isStopped = false;
-    m_isCleared = false;
-    switch (m_engine->pressStart()) {
-        case draw::DrawEngine::StartOutcome::Stepped:
-            return;
-        case draw::DrawEngine::StartOutcome::Empty:
-            return;
-        case draw::DrawEngine::StartOutcome::Drawn:
-            break;
-    }
+void DrawWindow::startDraw() {
+    if (m_engine->pressStart() != draw::DrawEngine::StartOutcome::Drawn) return;
     if (appState().isTimeProtect == 1) {
-        m_delayCount = 0;
-        m_labP->setText(QStringLiteral("您按键太快了(") +
-                        QString::number(appState().timeProtectNum) + QStringLiteral("秒!!"));
-        m_tmDelay.start();
+        m_stopGuardElapsed = 0;
+        m_stopGuardLabel->setText(QStringLiteral("您按键太快了(") +
+                                  QString::number(appState().timeProtectNum) +
+                                  QStringLiteral("秒!!"));
+        m_stopGuardTimer.start();
     }
-    if (m_musicSettings.isStartMusic && fileExists(m_musicSettings.startFile))
-        playFromStart(m_musicSettings.startFile);
+    m_music->playStartSound();
 }
 
-void DrawWindow::cmdStop() {
-    if (appState().isTimeProtect == 1 && m_tmDelay.isActive()) {
-        placeInfo();
-        m_picInfo->show();
-        m_picInfo->raise();
+void DrawWindow::stopDraw() {
+    if (appState().isTimeProtect == 1 && m_stopGuardTimer.isActive()) {
+        placeStopGuardPanel();
+        m_stopGuardPanel->show();
+        m_stopGuardPanel->raise();
         return;
     }
     send(proto::changBtn, proto::buttons::stop);
-    m_tmAS.stop();
-    m_isStopped = true;
+    m_scrollSampleTimer.stop();
 }
 
-void DrawWindow::cmdClear() {
-    send(proto::changBtn, proto::buttons::clear);
-    m_isCleared = true;
-    m_tmAS.stop();
-    send(proto::vbShowBlock, proto::falseText);
-    m_session.drawState = draw::Idle;
-    if (m_musicSettings.isBgMusic) resumeBackground();
+void DrawWindow::clearDraw() {
+    m_scrollSampleTimer.stop();
+    m_engine->clearDraw();
+    m_music->backToBackground();
 }
 
-void DrawWindow::cmdCancel() {
+void DrawWindow::cancelBatch() {
     m_engine->cancelLastBatch();
 }
 
-void DrawWindow::cmdPrint() {
-    printWinners(true);
+void DrawWindow::startParade() {
+    m_parade->start();
 }
 
-void DrawWindow::cmdGiveUp() {
-    if (openGiveUp) openGiveUp(*this);
-}
-
-void DrawWindow::cmdAddLuck() {
-    if (openAddAward) openAddAward(*this);
-}
-
-bool DrawWindow::loadJx(int id, bool resetButtons) {
-    return m_engine->loadJx(id, resetButtons);
-}
-
-void DrawWindow::reFrashJx(bool hideBlocks, bool resetButtons) {
-    m_engine->reFrashJx(hideBlocks, resetButtons);
-}
-
-void DrawWindow::defulteJx(bool resetButtons) {
-    m_engine->defulteJx(resetButtons);
-}
-
-// --- The engine's news ----------------------------------------------------------------------
-
-void DrawWindow::onBatchRecorded() {
-    const draw::MusicSettings &music = m_musicSettings;
-    if (music.isLuckMusic) {
-        if (fileExists(music.luckFile)) playFromStart(music.luckFile);
-    } else if (music.isBgMusic) {
-        resumeBackground();
-    } else {
-        stopMusic();
-    }
+void DrawWindow::requestParade(bool run) {
+    send(proto::vbCallPlay, run ? proto::yes : proto::no);
 }
 
 void DrawWindow::onRecordFailed(const QString &error) {
     // The landing showed names that are not stored: say so, and let the operator draw again.
     send(proto::changBtn, proto::buttons::defulte);
-    m_session.drawState = draw::Idle;
+    m_engine->resetToIdle();
     ui().message(QStringLiteral("中奖结果保存失败,本次抽奖无效,请重新抽取!\n") + error,
                  MsgStyle::Critical, titles::error);
 }
 
-void DrawWindow::onAllAwardsFull() {
-    if (openAskEnd) openAskEnd(*this);
+// --- The dialogs ----------------------------------------------------------------------------
+
+void DrawWindow::openGiveUp() {
+    GiveUpDialog dialog(this);
+    connect(&dialog, &GiveUpDialog::givenUp, this, [this] { m_engine->reloadAward(true, true); });
+    dialog.exec();
+}
+
+void DrawWindow::openMakeUp() {
+    MakeUpDrawDialog dialog(m_engine->session().award.id, this);
+    connect(&dialog, &MakeUpDrawDialog::awardChanged, this,
+            [this](int id) { m_engine->loadAward(id, true); });
+    dialog.exec();
+}
+
+void DrawWindow::openEndOfDraw() {
+    EndOfDrawDialog dialog(*m_engine, this);
+    // The parade starts once the prompt and the press that opened it are over, so that nothing
+    // after them sets the state back to rest under the running parade.
+    connect(
+        &dialog, &EndOfDrawDialog::paradeRequested, this, [this] { requestParade(true); },
+        Qt::QueuedConnection);
+    dialog.exec();
 }

@@ -50,52 +50,57 @@ void ChoiceTile::paintEvent(QPaintEvent *) {
 EndOfDrawDialog::EndOfDrawDialog(draw::DrawEngine &engine, QWidget *parent)
     : QDialog(parent), m_engine(engine) {
     setWindowTitle(QStringLiteral("系统提示"));
-    Label1 = new QLabel(QStringLiteral("所有的奖项均已经抽取完毕!"), this);
-    Label1->setAlignment(Qt::AlignCenter);
-    Label1->setStyleSheet(QStringLiteral("font-size: 18px; font-weight: bold;"));
+    auto *headline = new QLabel(QStringLiteral("所有的奖项均已经抽取完毕!"), this);
+    headline->setObjectName(QStringLiteral("headline"));
+    headline->setAlignment(Qt::AlignCenter);
+    headline->setStyleSheet(QStringLiteral("font-size: 18px; font-weight: bold;"));
     auto *hint = new QLabel(QStringLiteral("请选择接下来要做的事"), this);
     hint->setProperty("role", "hint");
     hint->setAlignment(Qt::AlignCenter);
 
     const char *iconNames[] = {"", "reset", "export", "print", "parade"};
     const char *captions[] = {"", "重新抽奖", "导出名单", "打印名单", "中奖回放"};
+    const char *objectNames[] = {"", "restartChoice", "exportChoice", "printChoice",
+                                 "paradeChoice"};
     auto *choices = new QHBoxLayout;
     choices->setSpacing(10);
-    for (int i = 1; i <= 4; ++i) {
-        imgLab[i] =
+    for (int i = Restart; i <= Parade; ++i) {
+        m_choices[i] =
             new ChoiceTile(QLatin1String(iconNames[i]), QString::fromUtf8(captions[i]), this);
-        imgLab[i]->setFixedSize(90, 96);
-        choices->addWidget(imgLab[i]);
-        connect(imgLab[i], &QAbstractButton::clicked, this, [this, i] { choose(i); });
+        m_choices[i]->setObjectName(QLatin1String(objectNames[i]));
+        m_choices[i]->setFixedSize(90, 96);
+        choices->addWidget(m_choices[i]);
+        connect(m_choices[i], &QAbstractButton::clicked, this, [this, i] { choose(i); });
     }
-    imgLab[Restart]->setToolTip(QStringLiteral("删除所有中奖信息,重新开始抽奖"));
-    imgLab[Export]->setToolTip(QStringLiteral("把中奖名单导出为CSV文件"));
-    imgLab[Print]->setToolTip(QStringLiteral("打印所有中奖名单"));
-    imgLab[Parade]->setToolTip(QStringLiteral("在舞台上滚动播放所有中奖名单"));
+    m_choices[Restart]->setToolTip(QStringLiteral("删除所有中奖信息,重新开始抽奖"));
+    m_choices[Export]->setToolTip(QStringLiteral("把中奖名单导出为CSV文件"));
+    m_choices[Print]->setToolTip(QStringLiteral("打印所有中奖名单"));
+    m_choices[Parade]->setToolTip(QStringLiteral("在舞台上滚动播放所有中奖名单"));
 
-    CancelButton = new QPushButton(QStringLiteral("取消"), this);
-    CancelButton->setAutoDefault(false);
+    m_cancelButton = new QPushButton(QStringLiteral("取消"), this);
+    m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
+    m_cancelButton->setAutoDefault(false);
     auto *bottom = new QHBoxLayout;
     bottom->addStretch();
-    bottom->addWidget(CancelButton);
+    bottom->addWidget(m_cancelButton);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(18, 14, 18, 12);
     layout->setSpacing(4);
-    layout->addWidget(Label1);
+    layout->addWidget(headline);
     layout->addWidget(hint);
     layout->addSpacing(10);
     layout->addLayout(choices);
     layout->addStretch();
     layout->addLayout(bottom);
-    connect(CancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
     setFixedSize(430, 248);
     centerForm(this);
     // The restart is destructive: the prompt opens with the harmless choice in focus.
-    CancelButton->setFocus();
+    m_cancelButton->setFocus();
 }
 
-void EndOfDrawDialog::choose(int index) {
-    switch (index) {
+void EndOfDrawDialog::choose(int choice) {
+    switch (choice) {
         case Restart:
             restart();
             break;

@@ -3,7 +3,6 @@
 #include <QAbstractButton>
 #include <QDialog>
 
-class QLabel;
 class QPushButton;
 
 // One of the prompt's four choices: a card with an icon and a caption that sinks by one pixel
@@ -26,20 +25,14 @@ class DrawEngine;
 }
 
 // "系统提示": every award is full. Offers a restart (after a question, with a snapshot of the
-// winners under History/), the export and printout of all winners, and the winner parade.
+// winners under History/), the export and printout of all winners, and the winner parade. The
+// choices are named restartChoice, exportChoice, printChoice and paradeChoice.
 class EndOfDrawDialog : public QDialog {
     Q_OBJECT
 public:
     enum Choice { Restart = 1, Export = 2, Print = 3, Parade = 4 };
 
     explicit EndOfDrawDialog(draw::DrawEngine &engine, QWidget *parent = nullptr);
-
-    QLabel *Label1 = nullptr;
-    ChoiceTile *imgLab[5] = {};  // 1 to 4, as the choices
-    QPushButton *CancelButton = nullptr;
-
-    // What a click on imgLab(index) does.
-    void choose(int index);
 
 Q_SIGNALS:
     // The wins were cleared and the default award loaded again; the prompt has closed.
@@ -48,7 +41,10 @@ Q_SIGNALS:
     void paradeRequested();
 
 private:
+    void choose(int choice);
     void restart();
 
     draw::DrawEngine &m_engine;
+    ChoiceTile *m_choices[5] = {};  // 1 to 4, as the choices
+    QPushButton *m_cancelButton = nullptr;
 };

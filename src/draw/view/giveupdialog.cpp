@@ -32,44 +32,48 @@ qint64 idOf(const QTreeWidgetItem *item) {
 GiveUpDialog::GiveUpDialog(QWidget *parent) : QDialog(parent) {
     setWindowTitle(QStringLiteral("弃奖"));
     buildList();
-    labInfo = new QLabel(this);
-    labInfo->setProperty("role", "hint");
-    cmdPre = new QPushButton(QStringLiteral("上一页"), this);
-    cmdNext = new QPushButton(QStringLiteral("下一页"), this);
-    cmdDelLuck = new QPushButton(QStringLiteral("弃奖"), this);
-    cmdDelLuck->setProperty("role", "primary");
-    for (QPushButton *button : {cmdPre, cmdNext, cmdDelLuck})
+    m_pageLabel = new QLabel(this);
+    m_pageLabel->setObjectName(QStringLiteral("pageLabel"));
+    m_pageLabel->setProperty("role", "hint");
+    m_previousPageButton = new QPushButton(QStringLiteral("上一页"), this);
+    m_previousPageButton->setObjectName(QStringLiteral("previousPageButton"));
+    m_nextPageButton = new QPushButton(QStringLiteral("下一页"), this);
+    m_nextPageButton->setObjectName(QStringLiteral("nextPageButton"));
+    m_giveUpButton = new QPushButton(QStringLiteral("弃奖"), this);
+    m_giveUpButton->setObjectName(QStringLiteral("giveUpButton"));
+    m_giveUpButton->setProperty("role", "primary");
+    for (QPushButton *button : {m_previousPageButton, m_nextPageButton, m_giveUpButton})
         button->setAutoDefault(false);
     auto *bottom = new QHBoxLayout;
-    bottom->addWidget(labInfo);
+    bottom->addWidget(m_pageLabel);
     bottom->addStretch();
-    bottom->addWidget(cmdPre);
-    bottom->addWidget(cmdNext);
+    bottom->addWidget(m_previousPageButton);
+    bottom->addWidget(m_nextPageButton);
     bottom->addSpacing(12);
-    bottom->addWidget(cmdDelLuck);
+    bottom->addWidget(m_giveUpButton);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 14, 16, 14);
     layout->setSpacing(10);
     layout->addWidget(buildSearchBar());
-    layout->addWidget(lstUser, 1);
+    layout->addWidget(m_winnerList, 1);
     layout->addLayout(bottom);
 
-    connect(cmdSearch, &QPushButton::clicked, this, [this] {
-        pageNo = 1;
-        showList(txtKey->text().trimmed(), pageNo);
+    connect(m_searchButton, &QPushButton::clicked, this, [this] {
+        m_pageNo = 1;
+        showList(m_searchEdit->text().trimmed(), m_pageNo);
     });
-    connect(txtKey, &QLineEdit::returnPressed, cmdSearch, &QPushButton::click);
-    connect(cmdCancelKey, &QToolButton::clicked, this, [this] {
-        pageNo = 1;
-        showList(QString(), pageNo);
+    connect(m_searchEdit, &QLineEdit::returnPressed, m_searchButton, &QPushButton::click);
+    connect(m_clearSearchButton, &QToolButton::clicked, this, [this] {
+        m_pageNo = 1;
+        showList(QString(), m_pageNo);
     });
-    connect(cmdPre, &QPushButton::clicked, this, [this] { turnPage(-1); });
-    connect(cmdNext, &QPushButton::clicked, this, [this] { turnPage(1); });
-    connect(cmdDelLuck, &QPushButton::clicked, this, &GiveUpDialog::delLuck);
+    connect(m_previousPageButton, &QPushButton::clicked, this, [this] { turnPage(-1); });
+    connect(m_nextPageButton, &QPushButton::clicked, this, [this] { turnPage(1); });
+    connect(m_giveUpButton, &QPushButton::clicked, this, &GiveUpDialog::giveUpTicked);
 
     resize(620, 560);
-    showList(QString(), pageNo);
+    showList(QString(), m_pageNo);
     centerForm(this);
 }
 
@@ -77,53 +81,57 @@ QWidget *GiveUpDialog::buildSearchBar() {
     auto *bar = new QWidget(this);
     auto *searchIcon = new QLabel(bar);
     searchIcon->setPixmap(icons::pixmap(QStringLiteral("search"), style::kSoft, 18));
-    txtKey = new QLineEdit(bar);
-    txtKey->setPlaceholderText(QStringLiteral("请输入查询关键字"));
-    cmdCancelKey = new QToolButton(bar);
-    cmdCancelKey->setText(QStringLiteral("×"));
-    cmdCancelKey->setToolTip(QStringLiteral("清除查询关键字"));
-    cmdCancelKey->setCursor(Qt::PointingHandCursor);
-    cmdCancelKey->setStyleSheet(QStringLiteral(
+    m_searchEdit = new QLineEdit(bar);
+    m_searchEdit->setObjectName(QStringLiteral("searchEdit"));
+    m_searchEdit->setPlaceholderText(QStringLiteral("请输入查询关键字"));
+    m_clearSearchButton = new QToolButton(bar);
+    m_clearSearchButton->setObjectName(QStringLiteral("clearSearchButton"));
+    m_clearSearchButton->setText(QStringLiteral("×"));
+    m_clearSearchButton->setToolTip(QStringLiteral("清除查询关键字"));
+    m_clearSearchButton->setCursor(Qt::PointingHandCursor);
+    m_clearSearchButton->setStyleSheet(QStringLiteral(
         "QToolButton { border: none; font-size: 18px; color: rgb(169,97,100); padding: 0 6px; }"
         "QToolButton:hover { color: rgb(200,40,58); }"));
-    cmdSearch = new QPushButton(QStringLiteral("查找名单"), bar);
-    cmdSearch->setAutoDefault(false);
+    m_searchButton = new QPushButton(QStringLiteral("查找名单"), bar);
+    m_searchButton->setObjectName(QStringLiteral("searchButton"));
+    m_searchButton->setAutoDefault(false);
     auto *layout = new QHBoxLayout(bar);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(6);
     layout->addWidget(searchIcon);
-    layout->addWidget(txtKey, 1);
-    layout->addWidget(cmdCancelKey);
-    layout->addWidget(cmdSearch);
+    layout->addWidget(m_searchEdit, 1);
+    layout->addWidget(m_clearSearchButton);
+    layout->addWidget(m_searchButton);
     return bar;
 }
 
 void GiveUpDialog::buildList() {
-    lstUser = new QTreeWidget(this);
-    lstUser->setColumnCount(ColumnCount);
-    lstUser->setHeaderLabels({QStringLiteral("序号"), QStringLiteral("中奖名单"),
-                              QStringLiteral("所中奖项"), QStringLiteral("状态")});
-    style::styleList(lstUser);
-    lstUser->setColumnWidth(ColNumber, 78);
-    lstUser->setColumnWidth(ColName, 170);
-    lstUser->setColumnWidth(ColAwards, 200);
-    lstUser->header()->setStretchLastSection(true);
-    lstUser->header()->setSectionsMovable(false);
+    m_winnerList = new QTreeWidget(this);
+    m_winnerList->setObjectName(QStringLiteral("winnerList"));
+    m_winnerList->setColumnCount(ColumnCount);
+    m_winnerList->setHeaderLabels({QStringLiteral("序号"), QStringLiteral("中奖名单"),
+                                   QStringLiteral("所中奖项"), QStringLiteral("状态")});
+    style::styleList(m_winnerList);
+    m_winnerList->setColumnWidth(ColNumber, 78);
+    m_winnerList->setColumnWidth(ColName, 170);
+    m_winnerList->setColumnWidth(ColAwards, 200);
+    m_winnerList->header()->setStretchLastSection(true);
+    m_winnerList->header()->setSectionsMovable(false);
 }
 
 void GiveUpDialog::showList(const QString &keyword, int page) {
-    lstUser->clear();
-    if (keyword.trimmed().isEmpty()) txtKey->clear();
+    m_winnerList->clear();
+    if (keyword.trimmed().isEmpty()) m_searchEdit->clear();
     const draw::GiveUpPage list = draw::giveUpPage(store::mainConn(), keyword, page);
-    pageNo = list.pageNo;
-    labInfo->setText(draw::pageInfo(list));
+    m_pageNo = list.pageNo;
+    m_pageLabel->setText(draw::pageInfo(list));
     if (list.rows.isEmpty()) {
-        for (QPushButton *button : {cmdPre, cmdNext, cmdDelLuck})
+        for (QPushButton *button : {m_previousPageButton, m_nextPageButton, m_giveUpButton})
             button->setEnabled(false);
         return;
     }
     for (const draw::GiveUpRow &row : list.rows) {
-        auto *item = new QTreeWidgetItem(lstUser);
+        auto *item = new QTreeWidgetItem(m_winnerList);
         item->setData(ColNumber, Qt::UserRole, keyOf(row.id));
         item->setCheckState(ColNumber, Qt::Unchecked);
         item->setText(ColNumber, QString::number(row.number));
@@ -134,30 +142,23 @@ void GiveUpDialog::showList(const QString &keyword, int page) {
         item->setText(ColStatus, look.text);
         if (look.color.isValid()) item->setForeground(ColStatus, look.color);
     }
-    QTreeWidgetItem *first = lstUser->topLevelItem(0);
-    lstUser->setCurrentItem(first);
-    lstUser->scrollToItem(first);
-    cmdDelLuck->setEnabled(true);
-    cmdPre->setEnabled(list.pageNo > 1);
-    cmdNext->setEnabled(list.pageNo < list.pages);
+    QTreeWidgetItem *first = m_winnerList->topLevelItem(0);
+    m_winnerList->setCurrentItem(first);
+    m_winnerList->scrollToItem(first);
+    m_giveUpButton->setEnabled(true);
+    m_previousPageButton->setEnabled(list.pageNo > 1);
+    m_nextPageButton->setEnabled(list.pageNo < list.pages);
 }
 
 void GiveUpDialog::turnPage(int step) {
-    pageNo += step;
-    showList(txtKey->text().trimmed(), pageNo);
+    m_pageNo += step;
+    showList(m_searchEdit->text().trimmed(), m_pageNo);
 }
 
-void GiveUpDialog::setTicked(qint64 id, bool ticked) {
-    for (int i = 0; i < lstUser->topLevelItemCount(); ++i) {
-        QTreeWidgetItem *item = lstUser->topLevelItem(i);
-        if (idOf(item) == id) item->setCheckState(ColNumber, ticked ? Qt::Checked : Qt::Unchecked);
-    }
-}
-
-void GiveUpDialog::delLuck() {
+void GiveUpDialog::giveUpTicked() {
     QList<qint64> ids;
-    for (int i = 0; i < lstUser->topLevelItemCount(); ++i) {
-        QTreeWidgetItem *item = lstUser->topLevelItem(i);
+    for (int i = 0; i < m_winnerList->topLevelItemCount(); ++i) {
+        QTreeWidgetItem *item = m_winnerList->topLevelItem(i);
         if (item->checkState(ColNumber) == Qt::Checked) ids << idOf(item);
     }
     if (ids.isEmpty()) {
@@ -171,7 +172,7 @@ void GiveUpDialog::delLuck() {
         ui().message(error, MsgStyle::Critical, titles::error);
         return;
     }
-    showList(txtKey->text().trimmed(), pageNo);
+    showList(m_searchEdit->text().trimmed(), m_pageNo);
     Q_EMIT events().resultsChanged();
     Q_EMIT givenUp();
 }

@@ -9,7 +9,8 @@ class QToolButton;
 class QTreeWidget;
 
 // "弃奖": the winners page by page, newest batch first, searchable by name. Ticked rows of the
-// page shown give up, after a question; their slots come back for later batches.
+// page shown give up, after a question; their slots come back for later batches. Each row keeps
+// "K" and the participant's ID under Qt::UserRole of its first column.
 class GiveUpDialog : public QDialog {
     Q_OBJECT
 public:
@@ -17,28 +18,24 @@ public:
 
     explicit GiveUpDialog(QWidget *parent = nullptr);
 
-    QLineEdit *txtKey = nullptr;
-    QToolButton *cmdCancelKey = nullptr;
-    QPushButton *cmdSearch = nullptr;
-    QTreeWidget *lstUser = nullptr;
-    QLabel *labInfo = nullptr;
-    QPushButton *cmdPre = nullptr;
-    QPushButton *cmdNext = nullptr;
-    QPushButton *cmdDelLuck = nullptr;
-
-    int pageNo = 1;
-
-    void showList(const QString &keyword, int page);
-    void delLuck();
-    // Ticks the row of a participant on the page shown.
-    void setTicked(qint64 id, bool ticked);
-
 Q_SIGNALS:
-    // Participants gave up: the draw screen refreshes its award (reFrashJx(true, true)).
+    // Participants gave up: the draw screen loads its award again.
     void givenUp();
 
 private:
     QWidget *buildSearchBar();
     void buildList();
+    void showList(const QString &keyword, int page);
     void turnPage(int step);
+    void giveUpTicked();
+
+    QLineEdit *m_searchEdit = nullptr;
+    QToolButton *m_clearSearchButton = nullptr;
+    QPushButton *m_searchButton = nullptr;
+    QTreeWidget *m_winnerList = nullptr;
+    QLabel *m_pageLabel = nullptr;
+    QPushButton *m_previousPageButton = nullptr;
+    QPushButton *m_nextPageButton = nullptr;
+    QPushButton *m_giveUpButton = nullptr;
+    int m_pageNo = 1;
 };

@@ -16,8 +16,8 @@
 #include "core/events.h"
 #include "core/store.h"
 #include "core/ui.h"
-#include "draw/engine.h"
 #include "draw/makeup.h"
+#include "draw/winners.h"
 
 namespace {
 
@@ -40,78 +40,89 @@ QLabel *hintLabel(const QString &text, QWidget *parent) {
 
 MakeUpDrawDialog::MakeUpDrawDialog(int currentAward, QWidget *parent) : QDialog(parent) {
     setWindowTitle(QStringLiteral("补奖"));
-    sTab = new QTabWidget(this);
-    sTab->addTab(buildQuickTab(), QStringLiteral("快速补奖"));
-    sTab->addTab(buildAwardTab(), QStringLiteral("奖项设置"));
-    cmdSave = new QPushButton(QStringLiteral("确定"), this);
-    cmdSave->setDefault(true);
-    cmdExit = new QPushButton(QStringLiteral("取消"), this);
+    m_tabs = new QTabWidget(this);
+    m_tabs->setObjectName(QStringLiteral("tabs"));
+    m_tabs->addTab(buildQuickTab(), QStringLiteral("快速补奖"));
+    m_tabs->addTab(buildAwardTab(), QStringLiteral("奖项设置"));
+    m_okButton = new QPushButton(QStringLiteral("确定"), this);
+    m_okButton->setObjectName(QStringLiteral("okButton"));
+    m_okButton->setDefault(true);
+    m_cancelButton = new QPushButton(QStringLiteral("取消"), this);
+    m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
-    buttons->addWidget(cmdSave);
-    buttons->addWidget(cmdExit);
+    buttons->addWidget(m_okButton);
+    buttons->addWidget(m_cancelButton);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(18, 16, 18, 16);
     layout->setSpacing(14);
-    layout->addWidget(sTab);
+    layout->addWidget(m_tabs);
     layout->addLayout(buttons);
-    connect(cmdSave, &QPushButton::clicked, this, &MakeUpDrawDialog::save);
-    connect(cmdExit, &QPushButton::clicked, this, &QDialog::reject);
-    connect(sTab, &QTabWidget::currentChanged, this,
-            [this](int tab) { (tab == 0 ? txtNum : txtJxName)->setFocus(); });
-    rdJXLst(currentAward);
+    connect(m_okButton, &QPushButton::clicked, this, &MakeUpDrawDialog::save);
+    connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_tabs, &QTabWidget::currentChanged, this,
+            [this](int tab) { (tab == 0 ? m_addedSlotsEdit : m_awardNameEdit)->setFocus(); });
+    fillAwardList(currentAward);
     setFixedSize(440, 330);
     centerForm(this);
-    txtNum->setFocus();
+    m_addedSlotsEdit->setFocus();
 }
 
 QWidget *MakeUpDrawDialog::buildQuickTab() {
     auto *page = new QWidget(this);
-    ComboJX = new ChevronCombo(page);
-    ComboJX->setMinimumWidth(250);
-    txtNum = numberBox(page);
+    m_awardCombo = new ChevronCombo(page);
+    m_awardCombo->setObjectName(QStringLiteral("awardCombo"));
+    m_awardCombo->setMinimumWidth(250);
+    m_addedSlotsEdit = numberBox(page);
+    m_addedSlotsEdit->setObjectName(QStringLiteral("addedSlotsEdit"));
     auto *slotsRow = new QHBoxLayout;
-    slotsRow->addWidget(txtNum);
+    slotsRow->addWidget(m_addedSlotsEdit);
     slotsRow->addWidget(new QLabel(QStringLiteral("(名额)"), page));
     slotsRow->addStretch();
     auto *form = new QFormLayout;
     form->setHorizontalSpacing(10);
     form->setVerticalSpacing(14);
-    form->addRow(QStringLiteral("奖项："), ComboJX);
+    form->addRow(QStringLiteral("奖项："), m_awardCombo);
     form->addRow(QStringLiteral("追加："), slotsRow);
     auto *layout = new QVBoxLayout(page);
     layout->setContentsMargins(22, 22, 22, 16);
-    labJxInfo = new QLabel(page);
+    m_awardInfoLabel = new QLabel(page);
+    m_awardInfoLabel->setObjectName(QStringLiteral("awardInfoLabel"));
     layout->addLayout(form);
     layout->addSpacing(4);
-    layout->addWidget(labJxInfo);
+    layout->addWidget(m_awardInfoLabel);
     layout->addWidget(hintLabel(QStringLiteral("追加奖项名额必须为正整数!!"), page));
     layout->addStretch();
-    connect(ComboJX, &QComboBox::currentIndexChanged, this, &MakeUpDrawDialog::showAwardInfo);
+    connect(m_awardCombo, &QComboBox::currentIndexChanged, this, &MakeUpDrawDialog::showAwardInfo);
     return page;
 }
 
 QWidget *MakeUpDrawDialog::buildAwardTab() {
     auto *page = new QWidget(this);
-    txtJxName = new QLineEdit(page);
-    txtJxName->setMaxLength(50);
-    txtJxNum = numberBox(page);
-    txtJxGroup = numberBox(page);
-    txtJpName = new QLineEdit(page);
-    txtJpName->setMaxLength(50);
-    chkIsReLuck = new QCheckBox(QStringLiteral("排除已中奖的人"), page);
-    chkIsReLuck->setChecked(true);
+    m_awardNameEdit = new QLineEdit(page);
+    m_awardNameEdit->setObjectName(QStringLiteral("awardNameEdit"));
+    m_awardNameEdit->setMaxLength(50);
+    m_slotCountEdit = numberBox(page);
+    m_slotCountEdit->setObjectName(QStringLiteral("slotCountEdit"));
+    m_batchCountEdit = numberBox(page);
+    m_batchCountEdit->setObjectName(QStringLiteral("batchCountEdit"));
+    m_prizeNameEdit = new QLineEdit(page);
+    m_prizeNameEdit->setObjectName(QStringLiteral("prizeNameEdit"));
+    m_prizeNameEdit->setMaxLength(50);
+    m_excludeWinnersCheck = new QCheckBox(QStringLiteral("排除已中奖的人"), page);
+    m_excludeWinnersCheck->setObjectName(QStringLiteral("excludeWinnersCheck"));
+    m_excludeWinnersCheck->setChecked(true);
     auto *reLuck = new QHBoxLayout;
-    reLuck->addWidget(chkIsReLuck);
+    reLuck->addWidget(m_excludeWinnersCheck);
     reLuck->addWidget(hintLabel(QStringLiteral("(禁止重复中奖)"), page));
     reLuck->addStretch();
     auto *form = new QFormLayout;
     form->setHorizontalSpacing(10);
     form->setVerticalSpacing(10);
-    form->addRow(QStringLiteral("奖项名称："), txtJxName);
-    form->addRow(QStringLiteral("奖品名额："), txtJxNum);
-    form->addRow(QStringLiteral("分几次抽："), txtJxGroup);
-    form->addRow(QStringLiteral("奖品名称："), txtJpName);
+    form->addRow(QStringLiteral("奖项名称："), m_awardNameEdit);
+    form->addRow(QStringLiteral("奖品名额："), m_slotCountEdit);
+    form->addRow(QStringLiteral("分几次抽："), m_batchCountEdit);
+    form->addRow(QStringLiteral("奖品名称："), m_prizeNameEdit);
     form->addRow(QString(), reLuck);
     auto *layout = new QVBoxLayout(page);
     layout->setContentsMargins(22, 16, 22, 12);
@@ -120,54 +131,55 @@ QWidget *MakeUpDrawDialog::buildAwardTab() {
     return page;
 }
 
-void MakeUpDrawDialog::rdJXLst(int selectId) {
-    ComboJX->clear();
+void MakeUpDrawDialog::fillAwardList(int selectId) {
+    m_awardCombo->clear();
     const QList<draw::MakeupChoice> choices = draw::makeupChoices(store::mainConn());
     for (const draw::MakeupChoice &choice : choices)
-        ComboJX->addItem(choice.text, choice.id);
+        m_awardCombo->addItem(choice.text, choice.id);
     if (choices.isEmpty()) {
-        ComboJX->addItem(QStringLiteral("无任何奖项"), 0);
+        m_awardCombo->addItem(QStringLiteral("无任何奖项"), 0);
         return;
     }
-    const int index = ComboJX->findData(selectId);
-    ComboJX->setCurrentIndex(index >= 0 ? index : 0);
+    const int index = m_awardCombo->findData(selectId);
+    m_awardCombo->setCurrentIndex(index >= 0 ? index : 0);
     showAwardInfo();
 }
 
 void MakeUpDrawDialog::showAwardInfo() {
-    const int id = draw::choiceId(ComboJX->currentText());
+    const int id = draw::choiceId(m_awardCombo->currentText());
     const int slotCount = draw::slotsOf(store::mainConn(), id);
     if (id == 0 || slotCount < 0) {
-        labJxInfo->clear();
+        m_awardInfoLabel->clear();
         return;
     }
     const int have = draw::countAwardWinners(store::mainConn(), id);
-    labJxInfo->setText(QStringLiteral("该奖项现有名额 %1 个，已中奖 %2 人，剩余 %3 个")
-                           .arg(slotCount)
-                           .arg(have)
-                           .arg(qMax(slotCount - have, 0)));
+    m_awardInfoLabel->setText(QStringLiteral("该奖项现有名额 %1 个，已中奖 %2 人，剩余 %3 个")
+                                  .arg(slotCount)
+                                  .arg(have)
+                                  .arg(qMax(slotCount - have, 0)));
 }
 
 void MakeUpDrawDialog::save() {
-    if (sTab->currentIndex() == 0)
+    if (m_tabs->currentIndex() == 0)
         saveSlots();
     else
         saveNewAward();
 }
 
 void MakeUpDrawDialog::saveSlots() {
-    const int id = draw::choiceId(ComboJX->currentText());
+    const int id = draw::choiceId(m_awardCombo->currentText());
     const draw::MakeupFault fault =
-        draw::checkAddedSlots(txtNum->text(), draw::slotsOf(store::mainConn(), id));
+        draw::checkAddedSlots(m_addedSlotsEdit->text(), draw::slotsOf(store::mainConn(), id));
     if (fault.failed()) {
         ui().message(fault.message, MsgStyle::Information, titles::notice);
-        selectAllText(txtNum);
-        txtNum->setFocus();
+        selectAllText(m_addedSlotsEdit);
+        m_addedSlotsEdit->setFocus();
         return;
     }
     if (id == 0) return;
     QString error;
-    if (!draw::addSlots(store::mainConn(), id, txtNum->text().trimmed().toInt(), &error)) {
+    if (!draw::addSlots(store::mainConn(), id, m_addedSlotsEdit->text().trimmed().toInt(),
+                        &error)) {
         ui().message(error, MsgStyle::Critical, titles::error);
         return;
     }
@@ -175,15 +187,16 @@ void MakeUpDrawDialog::saveSlots() {
 }
 
 void MakeUpDrawDialog::saveNewAward() {
-    const draw::NewAward award{txtJxName->text(), txtJxNum->text(), txtJxGroup->text(),
-                               txtJpName->text(), chkIsReLuck->isChecked()};
+    const draw::NewAward award{m_awardNameEdit->text(), m_slotCountEdit->text(),
+                               m_batchCountEdit->text(), m_prizeNameEdit->text(),
+                               m_excludeWinnersCheck->isChecked()};
     const draw::MakeupFault fault = draw::checkNewAward(award);
     if (fault.failed()) {
         ui().message(fault.message, MsgStyle::Information, titles::notice);
-        QLineEdit *field = fault.field == draw::MakeupField::JxName    ? txtJxName
-                           : fault.field == draw::MakeupField::JxNum   ? txtJxNum
-                           : fault.field == draw::MakeupField::JxGroup ? txtJxGroup
-                                                                       : txtJpName;
+        QLineEdit *field = fault.field == draw::MakeupField::AwardName    ? m_awardNameEdit
+                           : fault.field == draw::MakeupField::SlotCount  ? m_slotCountEdit
+                           : fault.field == draw::MakeupField::BatchCount ? m_batchCountEdit
+                                                                          : m_prizeNameEdit;
         field->setFocus();
         return;
     }
@@ -200,8 +213,7 @@ void MakeUpDrawDialog::saveNewAward() {
 }
 
 void MakeUpDrawDialog::finish(int id) {
-    m_awardToLoad = id;
     Q_EMIT events().awardsChanged();
-    Q_EMIT loadAward(id);
+    Q_EMIT awardChanged(id);
     accept();
 }

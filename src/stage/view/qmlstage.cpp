@@ -113,7 +113,7 @@ void QmlStage::setVariable(const QString &name, const QString &value) {
 }
 
 void QmlStage::forwardCommand(const QString &command, const QString &args) {
-    emit commandReceived(command, args);
+    Q_EMIT commandReceived(command, args);
 }
 
 QQuickItem *QmlStage::root() const {

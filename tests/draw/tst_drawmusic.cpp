@@ -1,0 +1,201 @@
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "draw/drawmusic.h"
+#include "sound/musicplayer.h"
+#include "support/fakemediabackend.h"
+
+namespace {
+
+// The four sounds as files in a temporary folder the fake player knows the lengths of.
+struct Sounds {
+    QTemporaryDir dir;
+    FakeMedia *media = installFakeMedia();
+    QString bg = file(QStringLiteral("bg.mp3"), 60000);
+    QString start = file(QStringLiteral("start.mp3"), 5000);
+    QString win = file(QStringLiteral("win.wav"), 2000);
+    QString parade = file(QStringLiteral("parade.mp3"), 30000);
+
+    QString file(const QString &name, qint64 lengthMs) {
+        const QString path = dir.filePath(name);
+        QFile out(path);
+        if (out.open(QIODevice::WriteOnly)) out.write("x");
+        media->lengths.insert(path, lengthMs);
+        return path;
+    }
+    // Each sound on or off, by the letters b(ackground), s(tart), w(in), p(arade).
+    music::Settings settings(const QString &on) const {
+        music::Settings result;
+        const QString paths[] = {bg, start, win, parade};
+        const QString letters = QStringLiteral("bswp");
+        for (int slot = 0; slot < music::SlotCount; ++slot) {
+            result[size_t(slot)].on = on.contains(letters[slot]);
+            result[size_t(slot)].path = paths[slot];
+        }
+        return result;
+    }
+    FakeMediaBackend *player() const { return media->last(); }
+};
+
+}  // namespace
+
+class TestDrawMusic : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void winSoundIsTheOperatorsOrTheChime();
+    void loopsAndComesBackWhereItWasLeft();
+    void whatFollowsAMoment_data();
+    void whatFollowsAMoment();
+    void backgroundPlayingGoesOnUntouched();
+    void muteHoldsForEveryFile();
+    void minimisedPausesOnlyWhatPlays();
+};
+
+void TestDrawMusic::winSoundIsTheOperatorsOrTheChime() {
+    music::Settings settings;
+    QCOMPARE(draw::winSoundPath(settings, QStringLiteral("/party/")),
+             QStringLiteral("/party/sys/win.wav"));
+    settings[music::Luck].path = QStringLiteral("/party/Music/gong.wav");
+    QCOMPARE(draw::winSoundPath(settings, QStringLiteral("/party/")),
+             QStringLiteral("/party/Music/gong.wav"));
+}
+
+void TestDrawMusic::loopsAndComesBackWhereItWasLeft() {
+    Sounds sounds;
+    draw::DrawMusic music;
+    music.setSettings(sounds.settings(QStringLiteral("bsw")), sounds.win);
+    QSignalSpy started(&music, &draw::DrawMusic::started);
+    music.startBackground();
+    QCOMPARE(music.current(), sounds.bg);
+    FakeMediaBackend *player = sounds.player();
+    QCOMPARE(player->current, MediaBackend::State::Playing);
+    player->position = 12400;
+
+    music.playStartSound();
+    QCOMPARE(music.current(), sounds.start);
+    player->finish();  // the start sound loops
+    QCOMPARE(music.current(), sounds.start);
+    QCOMPARE(player->position, qint64(0));
+    QCOMPARE(player->current, MediaBackend::State::Playing);
+
+    music.playWinSound();
+    QCOMPARE(music.current(), sounds.win);
+    player->finish();  // the chime ends: back to the background, at the whole second it was left
+    QCOMPARE(music.current(), sounds.bg);
+    QCOMPARE(player->position, qint64(12000));
+    player->finish();  // the background loops from its beginning
+    QCOMPARE(player->position, qint64(0));
+    QCOMPARE(player->current, MediaBackend::State::Playing);
+    QCOMPARE(started.count(), 6);
+}
+
+void TestDrawMusic::whatFollowsAMoment_data() {
+    QTest::addColumn<QString>("on");
+    QTest::addColumn<QString>("moment");
+    QTest::addColumn<QString>("playing");  // the letter of the sound playing after it, or "-"
+    QTest::newRow("win sound") << "bw"
+                               << "win"
+                               << "w";
+    QTest::newRow("no win sound: the background") << "b"
+                                                  << "win"
+                                                  << "b";
+    QTest::newRow("no win sound, no background: silence") << "s"
+                                                          << "win"
+                                                          << "-";
+    QTest::newRow("win sound without its file: the start sound goes on") << "swx"
+                                                                         << "win"
+                                                                         << "s";
+    QTest::newRow("start sound off: what plays goes on") << "w"
+                                                         << "start"
+                                                         << "w";
+    QTest::newRow("parade music") << "bp"
+                                  << "parade"
+                                  << "p";
+    QTest::newRow("parade over: the background") << "bp"
+                                                 << "paradeEnd"
+                                                 << "b";
+    QTest::newRow("parade over without background: silence") << "p"
+                                                             << "paradeEnd"
+                                                             << "-";
+    QTest::newRow("after a cancel: the background") << "bw"
+                                                    << "back"
+                                                    << "b";
+    QTest::newRow("after a cancel without background: what plays goes on") << "w"
+                                                                           << "back"
+                                                                           << "w";
+}
+
+// Each moment starts from the start sound, or the win sound when the start sound is off.
+void TestDrawMusic::whatFollowsAMoment() {
+    QFETCH(QString, on);
+    QFETCH(QString, moment);
+    QFETCH(QString, playing);
+    Sounds sounds;
+    draw::DrawMusic music;
+    music.setSettings(sounds.settings(on), sounds.win);
+    if (on.contains('x')) QFile::remove(sounds.win);
+    music.playStartSound();
+    if (!on.contains('s')) music.playWinSound();
+    if (moment == QLatin1String("win")) music.playWinSound();
+    if (moment == QLatin1String("start")) music.playStartSound();
+    if (moment == QLatin1String("parade")) music.playParadeMusic();
+    if (moment == QLatin1String("paradeEnd")) music.endParade();
+    if (moment == QLatin1String("back")) music.backToBackground();
+    const QHash<QString, QString> files = {
+        {"b", sounds.bg}, {"s", sounds.start}, {"w", sounds.win}, {"p", sounds.parade}};
+    if (playing == QLatin1String("-")) {
+        QVERIFY(sounds.player()->current != MediaBackend::State::Playing);
+    } else {
+        QCOMPARE(music.current(), files.value(playing));
+        QCOMPARE(sounds.player()->current, MediaBackend::State::Playing);
+    }
+}
+
+void TestDrawMusic::backgroundPlayingGoesOnUntouched() {
+    Sounds sounds;
+    draw::DrawMusic music;
+    music.setSettings(sounds.settings(QStringLiteral("b")), sounds.win);
+    music.startBackground();
+    sounds.player()->position = 30500;
+    sounds.player()->calls.clear();
+    music.backToBackground();
+    music.endParade();
+    QVERIFY(sounds.player()->calls.isEmpty());
+}
+
+void TestDrawMusic::muteHoldsForEveryFile() {
+    Sounds sounds;
+    draw::DrawMusic music;
+    music.setSettings(sounds.settings(QStringLiteral("bsw")), sounds.win);
+    music.startBackground();
+    music.setMuted(true);
+    QVERIFY(music.isMuted());
+    QCOMPARE(sounds.player()->volume, 0.0f);
+    music.playStartSound();
+    QCOMPARE(sounds.player()->volume, 0.0f);
+    music.setMuted(false);
+    QVERIFY(!music.isMuted());
+    QCOMPARE(sounds.player()->volume, 1.0f);
+}
+
+void TestDrawMusic::minimisedPausesOnlyWhatPlays() {
+    Sounds sounds;
+    draw::DrawMusic music;
+    music.setSettings(sounds.settings(QStringLiteral("sp")), sounds.win);
+    music.playStartSound();
+    music.setMinimised(true);
+    QCOMPARE(sounds.player()->current, MediaBackend::State::Paused);
+    music.setMinimised(false);
+    QCOMPARE(sounds.player()->current, MediaBackend::State::Playing);
+    // A parade that ended in silence stays silent when the window comes back.
+    music.playParadeMusic();
+    music.endParade();
+    music.setMinimised(true);
+    music.setMinimised(false);
+    QCOMPARE(sounds.player()->current, MediaBackend::State::Stopped);
+}
+
+QTEST_MAIN(TestDrawMusic)
+#include "tst_drawmusic.moc"
