@@ -47,14 +47,6 @@ struct AppState {
     qint16 hideRight = 0;
     QString hideReStr;
 
-    // Hand-over between screens.
-    QString loginFor;  // "setluck" or "setpass"
-    QString guideFor;  // "guidebtn" or "startbtn"
-    bool importFromConsole = false;
-    QString excelFile;
-    QString txtFile;
-    QString cameraCaller;
-
     QString path(const QString &relative) const { return appPath + relative; }
 };
 
