@@ -449,11 +449,16 @@ bool Workbook::readXlsxSheet(int index, int limit, Sheet *sheet, QString *error,
     int nextColumn = 0;
     int rowNumber = -1;
     bool outside = false;  // a reference past the grid
+    qint64 reported = -1;
     while (part.isOpen() && !xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement) continue;
         if (xml.name() == QLatin1String("row")) {
             if (cancelled(control)) break;
-            if (control.progress) control.progress(part.unpacked(), part.declaredSize());
+            // Reported as the unpacked bytes grow, once per block the XML reader takes in.
+            if (control.progress && part.unpacked() != reported) {
+                reported = part.unpacked();
+                control.progress(reported, qMax(reported, part.declaredSize()));
+            }
             const auto reference = xml.attributes().value(QLatin1String("r"));
             const int number = reference.isEmpty() ? nextRow : parseRowNumber(reference);
             if (number < 0 || number >= kMaxRows) {
@@ -563,7 +568,7 @@ bool Workbook::readXlsSheet(int index, int limit, Sheet *sheet, QString *error,
     if (limit >= 0) rows = qMin(rows, static_cast<unsigned int>(limit));
     for (unsigned int r = 0; r < rows; ++r) {
         if (cancelled(control)) return false;
-        if (control.progress) control.progress(r, rows);
+        if (control.progress && r % 1024 == 0) control.progress(r, rows);
         Row row;
         for (unsigned short c = 0; c < columns; ++c) {
             FreeXL_CellValue cell;
