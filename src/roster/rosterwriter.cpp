@@ -50,18 +50,34 @@ bool RosterWriter::begin(bool replace, QString *error) {
         rollback();
         return false;
     }
-    if (replace && !clearRoster(error)) {
-        rollback();
-        return false;
+    m_formerPhotos.clear();
+    m_written.clear();
+    m_replacePending = replace;
+    if (replace) {
+        // The rows to come replace the roster: they are numbered from 1 and only compared with
+        // each other.
+        m_nextId = 1;
+        m_startedEmpty = true;
+        return true;
     }
     m_nextId = store::getNextID(QStringLiteral("UserList"), QStringLiteral("ID"), m_db);
     m_startedEmpty = store::scalar(m_db, QStringLiteral("SELECT 1 FROM UserList LIMIT 1")).isNull();
-    m_written.clear();
     return true;
 }
 
 bool RosterWriter::clearRoster(QString *error) {
+    m_replacePending = false;
     if (m_cleared) return true;
+    QSqlQuery photos(m_db);
+    photos.setForwardOnly(true);
+    if (!photos.exec(
+            QStringLiteral("SELECT DISTINCT UserPhoto FROM UserList WHERE UserPhoto<>''"))) {
+        *error = photos.lastError().text();
+        return false;
+    }
+    while (photos.next())
+        m_formerPhotos << photos.value(0).toString();
+    photos.finish();
     if (!store::exec(m_db, QStringLiteral("DELETE FROM UserList"), {}, error)) return false;
     m_cleared = true;
     if (!dropIndexes(error)) return false;
@@ -69,6 +85,15 @@ bool RosterWriter::clearRoster(QString *error) {
     m_startedEmpty = true;
     m_written.clear();
     return true;
+}
+
+bool RosterWriter::reserve(qint64 rows, QString *error) {
+    m_written.reserve(static_cast<qsizetype>(qMin<qint64>(rows, 1 << 24)));
+    // A replace drops them when it clears the roster; an append into a roster with rows keeps
+    // them, as every row's duplicate test looks them up.
+    if (rows < kBulkRows || m_replacePending || !m_startedEmpty || !m_droppedIndexes.isEmpty())
+        return true;
+    return dropIndexes(error);
 }
 
 bool RosterWriter::isDuplicate(const QString &name, const QString &part) {
@@ -83,6 +108,11 @@ bool RosterWriter::isDuplicate(const QString &name, const QString &part) {
 
 int RosterWriter::insert(const QString &name, const QString &part, const QString &photo,
                          int diffNum, QString *error) {
+    QString failure;
+    if (m_replacePending && !clearRoster(&failure)) {
+        if (error) *error = failure;
+        return 0;
+    }
     const int id = m_nextId++;
     m_pending << QVariant(id) << QVariant(notNull(name)) << QVariant(notNull(part))
               << QVariant(notNull(photo)) << QVariant(diffNum);
