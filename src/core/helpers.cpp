@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 
 bool fileExists(const QString &path) {
     return !path.isEmpty() && QFileInfo(path).isFile();
@@ -20,14 +21,33 @@ QString getFileName(const QString &path) {
     return path.mid(slash + 1);
 }
 
+bool isParticipantPhotoName(const QString &fileName) {
+    static const QRegularExpression pattern(QStringLiteral("^U[0-9]+(\\.[^./\\\\]*)?$"));
+    return pattern.match(fileName).hasMatch();
+}
+
 int clearUserPhotos(const QString &folder) {
     QDir dir(folder);
     int removed = 0;
     const QStringList files = dir.entryList(QDir::Files | QDir::Hidden | QDir::System);
     for (const QString &name : files) {
-        if (name.contains(QLatin1Char('U')) && dir.remove(name)) ++removed;
+        if (isParticipantPhotoName(name) && dir.remove(name)) ++removed;
     }
     return removed;
+}
+
+QString ownedFile(const QString &appPath, const QString &folder, const QString &storedPath) {
+    const QString relative = normalizeSlashes(storedPath.trimmed());
+    if (relative.isEmpty() || QDir::isAbsolutePath(relative)) return QString();
+    const QString root = QFileInfo(QDir(appPath).filePath(folder)).canonicalFilePath();
+    const QString file = QDir::cleanPath(QDir(appPath).filePath(relative));
+    const QFileInfo info(file);
+    // The folder holding the file, with its links followed; the file itself may be a link, which
+    // a removal deletes without touching what it points to.
+    const QString parent = QFileInfo(info.absolutePath()).canonicalFilePath();
+    if (root.isEmpty() || parent.isEmpty()) return QString();
+    if (parent != root && !parent.startsWith(root + QLatin1Char('/'))) return QString();
+    return parent + QLatin1Char('/') + info.fileName();
 }
 
 QString makeRandomName(int length) {

@@ -10,9 +10,17 @@ bool fileExists(const QString &path);
 QString getExt(const QString &path);
 // The last piece of a path, after the last "/" or "\".
 QString getFileName(const QString &path);
-// Deletes every file of folder whose name holds a capital "U": the participants' photos
-// ("U<ID>.jpg"), while prize pictures ("JP<ID>...") stay. Returns the number removed.
+// Whether a file name is one the program gives a participant's photo: "U<ID>" and an extension.
+bool isParticipantPhotoName(const QString &fileName);
+// Deletes every participant's photo file of folder (see isParticipantPhotoName); prize pictures
+// ("JP<ID>..."), the camera's picture and the operator's own files stay. Returns the number
+// removed.
 int clearUserPhotos(const QString &folder);
+// The file a stored path names when the program owns it: a path relative to appPath ("/" or "\")
+// that stays inside appPath + folder once "." and ".." are resolved and linked folders followed.
+// Empty for an empty or absolute path and for one that leads anywhere else: such files are the
+// operator's, never deleted or overwritten.
+QString ownedFile(const QString &appPath, const QString &folder, const QString &storedPath);
 // Random text over 0-9 and a-z, for new stage object names.
 QString makeRandomName(int length);
 // The password digest: MD5 of the trimmed text's UTF-8 bytes in lower-case hexadecimal; form 32

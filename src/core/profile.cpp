@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QSaveFile>
+#include <QStringDecoder>
 
 namespace {
 
@@ -34,6 +35,17 @@ QString valueOf(const QString &line) {
     return v;
 }
 
+// UTF-8 when the bytes are valid UTF-8; otherwise a file saved by a Chinese Windows editor,
+// read as GB18030 (GBK and GB2312 are subsets) and written back as UTF-8 on the next save.
+QString decodeSettings(const QByteArray &bytes) {
+    QStringDecoder utf8(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
+    QString text = utf8(bytes);
+    if (!utf8.hasError()) return text;
+    QStringDecoder gb18030("GB18030", QStringConverter::Flag::Stateless);
+    text = gb18030(bytes);
+    return gb18030.isValid() ? text : QString::fromUtf8(bytes);
+}
+
 bool sameName(const QString &a, const QString &b) {
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
@@ -49,7 +61,7 @@ ProfileFile::ProfileFile(QString fileName) : m_fileName(std::move(fileName)) {
         m_bom = true;
         bytes.remove(0, 3);
     }
-    QString text = QString::fromUtf8(bytes);
+    QString text = decodeSettings(bytes);
     if (text.contains(QLatin1String("\r\n"))) m_eol = QStringLiteral("\r\n");
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     text.replace(QLatin1Char('\r'), QLatin1Char('\n'));

@@ -1,11 +1,18 @@
 #include "core/store.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QLoggingCategory>
 #include <QRegularExpression>
+#include <QSaveFile>
+#include <QSet>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 Q_LOGGING_CATEGORY(lcStore, "quellio.store")
 
@@ -41,6 +48,51 @@ void setError(QString *error, const QString &text) {
     if (error) *error = text;
 }
 
+// The files of the stores opened through open(), by connection.
+QHash<QString, QString> &openStores() {
+    static QHash<QString, QString> stores;
+    return stores;
+}
+
+// A file dialog, or any model listing the program folder, asks the MIME database for each file's
+// type and icon; for a name it does not know, the database opens the file to look at its first
+// bytes, and that open and close drops the store's locks. Naming the store's files in a package of
+// this process's own (a folder at the end of XDG_DATA_DIRS, kept for the process's life) lets
+// them be known by name alone.
+void nameStoreFilesForMimeLookups(const QString &path) {
+    static QTemporaryDir folder;
+    static QSet<QString> named;
+    const QString name = QFileInfo(path).fileName();
+    if (!folder.isValid() || named.contains(name)) return;
+    named.insert(name);
+    QByteArray globs;
+    for (const QString &known : std::as_const(named))
+        for (const char *suffix : {"", "-wal", "-shm", "-journal"})
+            globs += "<glob pattern=\"" + (known + QLatin1String(suffix)).toHtmlEscaped().toUtf8() +
+                     "\" weight=\"100\"/>";
+    const QString packages = folder.filePath(QStringLiteral("mime/packages"));
+    QDir().mkpath(packages);
+    QSaveFile package(packages + QStringLiteral("/quellio-store.xml"));
+    if (!package.open(QIODevice::WriteOnly)) return;
+    package.write(
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<mime-info xmlns=\"http://"
+        "www.freedesktop.org/standards/shared-mime-info\"><mime-type type=\"application/"
+        "x-quellio-store\"><comment>Quellio data store</comment>" +
+        globs + "</mime-type></mime-info>\n");
+    if (!package.commit()) return;
+    QByteArray dirs = qgetenv("XDG_DATA_DIRS");
+    if (dirs.isEmpty()) dirs = "/usr/local/share/:/usr/share/";
+    const QByteArray own = QFile::encodeName(folder.path());
+    if (!dirs.split(':').contains(own)) qputenv("XDG_DATA_DIRS", dirs + ':' + own);
+}
+
+bool sameFile(const QByteArray &a, const QByteArray &b) {
+    struct stat first;
+    struct stat second;
+    return ::stat(a.constData(), &first) == 0 && ::stat(b.constData(), &second) == 0 &&
+           first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
 }  // namespace
 
 QSqlDatabase mainConn() {
@@ -61,10 +113,13 @@ bool open(const QString &path, QString *error, const QString &connection) {
         db.close();
         return false;
     }
+    openStores().insert(connection, path);
+    nameStoreFilesForMimeLookups(path);
     return true;
 }
 
 void close(const QString &connection) {
+    openStores().remove(connection);
     if (!QSqlDatabase::contains(connection)) return;
     {
         QSqlDatabase db = QSqlDatabase::database(connection, false);
@@ -103,6 +158,16 @@ bool openTemplate(const QString &path, const QString &connection, QString *error
         return false;
     }
     return true;
+}
+
+bool isStoreFile(const QString &path) {
+    const QByteArray candidate = QFile::encodeName(path);
+    for (const QString &store : std::as_const(openStores())) {
+        for (const char *suffix : {"", "-wal", "-shm", "-journal"}) {
+            if (sameFile(candidate, QFile::encodeName(store) + suffix)) return true;
+        }
+    }
+    return false;
 }
 
 bool isIdentifier(const QString &name) {

@@ -58,4 +58,10 @@ QVariant scalar(QSqlDatabase db, const QString &sql, const QVariantList &values 
 // Checks that a table or column name is a plain identifier.
 bool isIdentifier(const QString &name);
 
+// Whether path names the file of an open store or one of SQLite's files beside it (-wal, -shm,
+// -journal), by any name or link. Only SQLite may open those: POSIX drops every lock a process
+// holds on a file as soon as any other descriptor of the process to that file is closed, and an
+// outside reader could then take the write-ahead log away from the running program.
+bool isStoreFile(const QString &path);
+
 }  // namespace store

@@ -33,15 +33,29 @@ QString previewText(const Options &options) {
 }
 
 QStringList maskParts(const QString &mask) {
-    QString text = mask.trimmed();
-    if (text.isEmpty()) return {};
+    QString text = mask;
     text.replace(QStringLiteral("，"), QStringLiteral(","));
-    return text.split(QLatin1Char(','));
+    QStringList parts;
+    for (const QString &part : text.split(QLatin1Char(','))) {
+        const QString group = part.trimmed();
+        if (!group.isEmpty()) parts << group;
+    }
+    return parts;
 }
 
 bool isExcluded(const QString &code, const QStringList &maskParts) {
     for (const QString &part : maskParts)
-        if (code.contains(part)) return true;
+        if (!part.isEmpty() && code.contains(part)) return true;
+    return false;
+}
+
+bool keepsAnyCode(const Options &options) {
+    int start = 0;
+    int end = 0;
+    if (!range(options, &start, &end)) return false;
+    const QStringList mask = maskParts(options.mask);
+    for (int number = start; number <= end; ++number)
+        if (!isExcluded(makeCode(options, number), mask)) return true;
     return false;
 }
 

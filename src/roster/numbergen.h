@@ -24,11 +24,14 @@ QString padNumber(int number, const QString &padText, const QString &endText);
 QString makeCode(const Options &options, int number);
 // "ST0001E - ST1000E"; empty when the end is not above the start.
 QString previewText(const Options &options);
-// The mask split at "," and "，"; an empty mask gives no elements.
+// The mask's digit groups: split at "," and "，", each trimmed, empty ones left out ("4," is "4").
 QStringList maskParts(const QString &mask);
-// Whether one of the mask's groups occurs anywhere in the code (an empty group is in every code).
+// Whether one of the mask's groups occurs anywhere in the code.
 bool isExcluded(const QString &code, const QStringList &maskParts);
 // Start and end as numbers; false when the end is not above the start.
 bool range(const Options &options, int *start, int *end);
+// Whether the options give at least one code once the mask has left some out. A generator that
+// would give none is refused before anything changes.
+bool keepsAnyCode(const Options &options);
 
 }  // namespace numbergen

@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "core/helpers.h"
+#include "core/store.h"
 
 namespace photoimport {
 
@@ -58,6 +59,7 @@ bool saveJpeg(const QImage &image, const QString &target) {
 
 Settled settlePicture(const QString &source, const QString &target, bool compress,
                       int sliderValue) {
+    if (store::isStoreFile(source)) return Settled::Failed;
     if (!compress) return copyOver(source, target) ? Settled::Copied : Settled::Failed;
     if (getExt(source).toLower() == QLatin1String(".png"))
         return copyOver(source, target) ? Settled::PngCopied : Settled::Failed;

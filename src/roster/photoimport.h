@@ -10,6 +10,8 @@ namespace photoimport {
 struct PhotoName {
     QString name;
     QString part;
+    // A file whose name part is blank (",市场部.jpg") names nobody and is not imported.
+    bool hasName() const { return !name.trimmed().isEmpty(); }
 };
 
 // "张三.jpg" is 张三 without remark; "张三,宣传部.jpg" (or with "，") is 张三 of 宣传部. The cut

@@ -8,6 +8,7 @@
 
 #include "core/appstate.h"
 #include "core/helpers.h"
+#include "roster/photofiles.h"
 #include "roster/photoimport.h"
 
 namespace {
@@ -15,18 +16,17 @@ namespace {
 // A slice this long keeps the progress bar moving and the close button answering.
 constexpr qint64 kSliceMs = 30;
 
-void clearPhotosFolder() {
-    clearUserPhotos(appState().path(QStringLiteral("Photos/")));
-}
-
 }  // namespace
 
 RosterImport::~RosterImport() = default;
 
 bool RosterImport::start(QString *error) {
-    if (m_started) return false;
+    if (m_started || !canStart(error)) return false;
     if (!m_writer.begin(replaceAtStart(), error)) return false;
-    m_writer.reserve(itemCount());
+    if (!m_writer.reserve(itemCount(), error)) {
+        m_writer.rollback();
+        return false;
+    }
     m_started = true;
     m_outcome = Outcome::Running;
     m_scheduled = true;
@@ -76,6 +76,17 @@ void RosterImport::runSlice() {
     finish(Outcome::Finished);
 }
 
+void RosterImport::removeReplacedPhotos() {
+    if (m_writer.cleared())
+        roster::removePhotosOfReplacedRoster(m_writer.database(), appState().appPath,
+                                             m_writer.formerPhotos());
+}
+
+void RosterImport::skipBlankName() {
+    ++m_blanks;
+    appendLog(QStringLiteral("\n屏蔽空白数据"));
+}
+
 void RosterImport::finish(Outcome outcome, const QString &error) {
     if (outcome != Outcome::Finished) {
         m_writer.rollback();
@@ -101,7 +112,7 @@ RosterImport::Outcome RosterImport::runToEnd() {
 
 // ---- Excel ----
 
-ExcelImport::ExcelImport(const QList<QStringList> &rows, const QList<bool> &nameColumns,
+ExcelImport::ExcelImport(const QList<workbook::Row> &rows, const QList<bool> &nameColumns,
                          const QString &joiner, bool titleRow, bool replace, QObject *parent)
     : RosterImport(parent),
       m_rows(rows),
@@ -110,7 +121,7 @@ ExcelImport::ExcelImport(const QList<QStringList> &rows, const QList<bool> &name
       m_titleRow(titleRow),
       m_replace(replace) {}
 
-void ExcelImport::mergeRow(const QStringList &row, const QList<bool> &nameColumns,
+void ExcelImport::mergeRow(const workbook::Row &row, const QList<bool> &nameColumns,
                            const QString &joiner, QString *name, QString *part) {
     name->clear();
     part->clear();
@@ -131,7 +142,7 @@ bool ExcelImport::processItem(qint64 index, QString *error) {
     name = name.trimmed();
     part = part.trimmed();
     if (name.isEmpty()) {
-        appendLog(QStringLiteral("\n屏蔽空白数据"));
+        skipBlankName();
         return true;
     }
     if (writer().isDuplicate(name, part)) {
@@ -145,7 +156,7 @@ bool ExcelImport::processItem(qint64 index, QString *error) {
 }
 
 void ExcelImport::afterCommit() {
-    if (writer().cleared()) clearPhotosFolder();
+    removeReplacedPhotos();
 }
 
 // ---- text ----
@@ -159,6 +170,10 @@ TxtImport::TxtImport(const QStringList &lines, const QString &separator, bool re
       m_parser(separator) {}
 
 bool TxtImport::readLines(const QString &path, QStringList *lines, QString *error) {
+    if (store::isStoreFile(path)) {
+        *error = textimport::notTextMessage();
+        return false;
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         *error = QStringLiteral("无法打开文件：") + path;
@@ -171,8 +186,18 @@ bool TxtImport::readLines(const QString &path, QStringList *lines, QString *erro
 }
 
 bool TxtImport::processItem(qint64 index, QString *error) {
-    const textimport::TxtRow row = m_parser.parse(m_lines.at(index));
-    if (row.name.isEmpty()) return true;
+    const QString &line = m_lines.at(index);
+    if (!textimport::isRosterLine(line)) {
+        ++m_unreadable;
+        appendLog(QStringLiteral("\n屏蔽无法识别的数据：第%1行").arg(index + 1));
+        return true;
+    }
+    const textimport::TxtRow row = m_parser.parse(line);
+    if (row.name.isEmpty()) {
+        // An empty line is only a gap; a line with fields but no name is a row passed over.
+        if (!line.trimmed().isEmpty()) skipBlankName();
+        return true;
+    }
     if (writer().isDuplicate(row.name, row.part)) {
         ++m_duplicates;
         appendLog(QStringLiteral("\n重复数据：") + row.name + m_separator + row.part);
@@ -184,7 +209,7 @@ bool TxtImport::processItem(qint64 index, QString *error) {
 }
 
 void TxtImport::afterCommit() {
-    if (writer().cleared()) clearPhotosFolder();
+    removeReplacedPhotos();
 }
 
 // ---- photos ----
@@ -214,6 +239,10 @@ bool PhotoImport::processItem(qint64 index, QString *error) {
     const QString newName =
         QStringLiteral("U") + QString::number(writer().nextId()) + getExt(source);
     const photoimport::PhotoName parsed = photoimport::parsePhotoName(getFileName(source));
+    if (!parsed.hasName()) {
+        skipBlankName();
+        return true;
+    }
     // The remark is stored with a blank behind it; duplicates are looked for in that form.
     const QString part = parsed.part + QLatin1Char(' ');
     if (writer().isDuplicate(parsed.name, part)) {
@@ -240,7 +269,7 @@ bool PhotoImport::processItem(qint64 index, QString *error) {
 }
 
 void PhotoImport::afterCommit() {
-    if (writer().cleared()) clearPhotosFolder();
+    removeReplacedPhotos();
     const QString photos = appState().path(QStringLiteral("Photos/"));
     for (const QString &name : std::as_const(m_staged)) {
         QFile::remove(photos + name);
@@ -262,6 +291,12 @@ NumberGeneration::NumberGeneration(const numbergen::Options &options, QObject *p
     numbergen::range(options, &m_start, &m_end);
 }
 
+bool NumberGeneration::canStart(QString *error) {
+    if (numbergen::keepsAnyCode(m_options)) return true;
+    *error = QStringLiteral("屏蔽号码后没有可以生成的号码，请修改屏蔽号码。");
+    return false;
+}
+
 bool NumberGeneration::processItem(qint64 index, QString *error) {
     const QString code = numbergen::makeCode(m_options, m_start + static_cast<int>(index));
     if (numbergen::isExcluded(code, m_mask)) {
@@ -275,5 +310,5 @@ bool NumberGeneration::processItem(qint64 index, QString *error) {
 }
 
 void NumberGeneration::afterCommit() {
-    clearPhotosFolder();
+    removeReplacedPhotos();
 }

@@ -7,11 +7,13 @@
 #include "roster/numbergen.h"
 #include "roster/rosterwriter.h"
 #include "roster/textimport.h"
+#include "roster/workbook.h"
 
 // A bulk change of the roster (an import or the number generator) worked through item by item on
 // the event loop, in slices short enough that the window keeps answering. Everything happens in
 // one transaction: a cancel or a failure leaves the roster exactly as it was before the start,
-// and files are only put in place (or old photos removed) once the rows are committed.
+// and files are only put in place (or old photos removed) once the rows are committed. A replace
+// that writes no row leaves the roster as it was.
 class RosterImport : public QObject {
     Q_OBJECT
 public:
@@ -39,6 +41,8 @@ public:
     qint64 total() const { return itemCount(); }
     qint64 imported() const { return m_imported; }
     qint64 duplicates() const { return m_duplicates; }
+    // Rows passed over because their name is blank after trimming.
+    qint64 blankNames() const { return m_blanks; }
     const QString &log() const { return m_log; }
 
 Q_SIGNALS:
@@ -47,16 +51,23 @@ Q_SIGNALS:
 
 protected:
     virtual qint64 itemCount() const = 0;
+    // A last check before the transaction opens; false with a message refuses the job.
+    virtual bool canStart(QString *) { return true; }
     virtual bool replaceAtStart() const { return false; }
     virtual bool processItem(qint64 index, QString *error) = 0;
     virtual void afterCommit() {}
     virtual void afterRollback() {}
 
     void appendLog(const QString &text) { m_log += text; }
+    // Counts and logs a row whose name is blank: no participant is ever nameless.
+    void skipBlankName();
+    // After a replace: the photos no row names any more.
+    void removeReplacedPhotos();
     RosterWriter &writer() { return m_writer; }
 
     qint64 m_imported = 0;
     qint64 m_duplicates = 0;
+    qint64 m_blanks = 0;
 
 private:
     void runSlice();
@@ -77,20 +88,20 @@ private:
 class ExcelImport : public RosterImport {
     Q_OBJECT
 public:
-    ExcelImport(const QList<QStringList> &rows, const QList<bool> &nameColumns,
+    ExcelImport(const QList<workbook::Row> &rows, const QList<bool> &nameColumns,
                 const QString &joiner, bool titleRow, bool replace, QObject *parent = nullptr);
 
-    static void mergeRow(const QStringList &row, const QList<bool> &nameColumns,
+    static void mergeRow(const workbook::Row &row, const QList<bool> &nameColumns,
                          const QString &joiner, QString *name, QString *part);
 
 protected:
     qint64 itemCount() const override { return m_rows.size(); }
-    bool replaceAtStart() const override { return m_replace && !m_rows.isEmpty(); }
+    bool replaceAtStart() const override { return m_replace; }
     bool processItem(qint64 index, QString *error) override;
     void afterCommit() override;
 
 private:
-    QList<QStringList> m_rows;
+    QList<workbook::Row> m_rows;
     QList<bool> m_nameColumns;
     QString m_joiner;
     bool m_titleRow;
@@ -106,6 +117,8 @@ public:
     // Reads and decodes the whole file into lines; false with a message for a file that is not
     // readable text.
     static bool readLines(const QString &path, QStringList *lines, QString *error);
+    // Lines passed over for a control or replacement character (each logged with its number).
+    qint64 unreadableLines() const { return m_unreadable; }
 
 protected:
     qint64 itemCount() const override { return m_lines.size(); }
@@ -118,6 +131,7 @@ private:
     QString m_separator;
     bool m_replace;
     textimport::TxtLineParser m_parser;
+    qint64 m_unreadable = 0;
 };
 
 // Picture files: one participant each, the picture copied or shrunk to Photos/U<ID>.<ext>.
@@ -156,6 +170,7 @@ public:
 
 protected:
     qint64 itemCount() const override { return qint64(m_end) - m_start + 1; }
+    bool canStart(QString *error) override;
     bool replaceAtStart() const override { return true; }
     bool processItem(qint64 index, QString *error) override;
     void afterCommit() override;

@@ -8,6 +8,7 @@
 
 #include "core/appstate.h"
 #include "core/helpers.h"
+#include "roster/photofiles.h"
 
 namespace roster {
 
@@ -185,20 +186,34 @@ QVariantList idValues(const QList<int> &ids) {
 
 }  // namespace
 
-bool deleteParticipants(QSqlDatabase db, const QList<int> &ids, const QStringList &photos,
-                        QString *error) {
+bool deleteParticipants(QSqlDatabase db, const QList<int> &ids, QString *error) {
     if (ids.isEmpty()) return true;
+    QSqlQuery query(db);
+    query.setForwardOnly(true);
+    query.prepare(
+        QStringLiteral("SELECT UserPhoto FROM UserList WHERE UserPhoto<>'' AND ID IN (%1)")
+            .arg(idPlaceholders(ids.size())));
+    for (int id : ids)
+        query.addBindValue(id);
+    QStringList photos;
+    if (query.exec()) {
+        while (query.next())
+            photos << query.value(0).toString();
+    }
+    query.finish();
     if (!store::exec(
             db,
             QStringLiteral("DELETE FROM UserList WHERE ID IN (%1)").arg(idPlaceholders(ids.size())),
             idValues(ids), error))
         return false;
-    for (const QString &photo : photos) {
-        if (photo.trimmed().isEmpty()) continue;
-        const QString file = appState().path(normalizeSlashes(photo));
-        if (fileExists(file)) QFile::remove(file);
-    }
+    removeUnnamedPhotos(db, appState().appPath, photos);
     return true;
+}
+
+bool deleteParticipants(QSqlDatabase db, const QList<int> &ids, const QStringList &photos,
+                        QString *error) {
+    Q_UNUSED(photos);
+    return deleteParticipants(db, ids, error);
 }
 
 bool setDiffNum(QSqlDatabase db, const QList<int> &ids, int diffNum, QString *error) {
@@ -220,13 +235,11 @@ QString settlePhoto(int id, const QString &photoState, const QString &storedPhot
         return target;
     }
     if (photoState == QLatin1String("no")) {
-        if (!storedPhoto.trimmed().isEmpty()) {
-            const QString file = appState().path(normalizeSlashes(storedPhoto));
-            if (fileExists(file)) QFile::remove(file);
-        }
+        removeUnnamedPhotos(store::mainConn(), appState().appPath, {storedPhoto}, id);
         return QString();
     }
-    if (photoState != QLatin1String("yes") && fileExists(photoState)) {
+    if (photoState != QLatin1String("yes") && fileExists(photoState) &&
+        !store::isStoreFile(photoState)) {
         const QString target = base + getExt(photoState);
         if (QFileInfo(photoState).absoluteFilePath() !=
             QFileInfo(appState().path(target)).absoluteFilePath()) {

@@ -49,14 +49,19 @@ bool isNumeric(const QString &text);
 
 bool loadParticipant(QSqlDatabase db, int id, Participant *participant);
 
-// Deletes the participants and then their photo files; false with a message on failure.
+// Deletes the participants and then those of their photo files the program owns and no other
+// row names (the store's own paths decide, never a list shown on screen); false with a message
+// on failure.
+bool deleteParticipants(QSqlDatabase db, const QList<int> &ids, QString *error);
+// The same; the photo list is not used any more.
 bool deleteParticipants(QSqlDatabase db, const QList<int> &ids, const QStringList &photos,
                         QString *error);
 bool setDiffNum(QSqlDatabase db, const QList<int> &ids, int diffNum, QString *error);
 
 // The picture of an editor after a save. photoState is the hidden picture state: "no",
 // "yes", "camre" or a chosen file. Returns the UserPhoto to store (relative to the program
-// folder), copying or deleting files as needed.
+// folder), copying files as needed; a cleared photo's file goes only when the program owns it
+// and no other row names it.
 QString settlePhoto(int id, const QString &photoState, const QString &storedPhoto);
 
 // Fields joined for a CSV line: a field with a comma, quote or line break is quoted.

@@ -1,6 +1,9 @@
 #include "roster/rosterwriter.h"
 
+#include <QSqlDriver>
 #include <QSqlError>
+
+#include <sqlite3.h>
 
 namespace {
 
@@ -9,25 +12,23 @@ QString notNull(const QString &text) {
     return text.isNull() ? QStringLiteral("") : text;
 }
 
-QString writtenKey(const QString &name, const QString &part) {
-    return name + QChar(0x1f) + part;
+sqlite3 *sqliteHandle(QSqlDatabase db) {
+    const QVariant handle = db.driver() ? db.driver()->handle() : QVariant();
+    if (!handle.isValid() || qstrcmp(handle.typeName(), "sqlite3*") != 0) return nullptr;
+    return *static_cast<sqlite3 *const *>(handle.constData());
 }
 
-constexpr int kColumns = 5;
-
-QString insertStatement(int rows) {
-    QStringList tuples;
-    for (int i = 0; i < rows; ++i)
-        tuples << QStringLiteral("(?, ?, ?, ?, ?, 0)");
-    return QStringLiteral(
-               "INSERT INTO UserList (ID, UserName, UserPart, UserPhoto, DiffNum, "
-               "UserStatus) VALUES ") +
-           tuples.join(QLatin1Char(','));
+bool bindText(sqlite3_stmt *statement, int column, const QString &text) {
+    static const char16_t empty[] = u"";
+    const void *characters =
+        text.isNull() ? static_cast<const void *>(empty) : static_cast<const void *>(text.utf16());
+    return sqlite3_bind_text16(statement, column, characters, static_cast<int>(text.size() * 2),
+                               SQLITE_TRANSIENT) == SQLITE_OK;
 }
 
 }  // namespace
 
-RosterWriter::RosterWriter(QSqlDatabase db) : m_db(db), m_duplicate(db), m_insert(db) {}
+RosterWriter::RosterWriter(QSqlDatabase db) : m_db(db), m_duplicate(db) {}
 
 RosterWriter::~RosterWriter() {
     rollback();
@@ -43,25 +44,48 @@ bool RosterWriter::begin(bool replace, QString *error) {
     }
     m_open = true;
     m_cleared = false;
+    m_handle = sqliteHandle(m_db);
+    const char *insert =
+        "INSERT INTO UserList (ID, UserName, UserPart, UserPhoto, DiffNum, UserStatus) "
+        "VALUES (?, ?, ?, ?, ?, 0)";
     if (!m_duplicate.prepare(
             QStringLiteral("SELECT 1 FROM UserList WHERE UserName=? AND UserPart=? LIMIT 1")) ||
-        !m_insert.prepare(insertStatement(kBatchRows))) {
-        *error = m_insert.lastError().text() + m_duplicate.lastError().text();
+        !m_handle || sqlite3_prepare_v2(m_handle, insert, -1, &m_insert, nullptr) != SQLITE_OK) {
+        *error = m_duplicate.lastError().text() +
+                 (m_handle ? QString::fromUtf8(sqlite3_errmsg(m_handle)) : QString());
         rollback();
         return false;
     }
-    if (replace && !clearRoster(error)) {
-        rollback();
-        return false;
+    // Indexes built again at the commit sort in two threads.
+    store::exec(m_db, QStringLiteral("PRAGMA threads=2"));
+    m_formerPhotos.clear();
+    m_written.clear();
+    m_replacePending = replace;
+    if (replace) {
+        // The rows to come replace the roster: they are numbered from 1 and only compared with
+        // each other.
+        m_nextId = 1;
+        m_startedEmpty = true;
+        return true;
     }
     m_nextId = store::getNextID(QStringLiteral("UserList"), QStringLiteral("ID"), m_db);
     m_startedEmpty = store::scalar(m_db, QStringLiteral("SELECT 1 FROM UserList LIMIT 1")).isNull();
-    m_written.clear();
     return true;
 }
 
 bool RosterWriter::clearRoster(QString *error) {
+    m_replacePending = false;
     if (m_cleared) return true;
+    QSqlQuery photos(m_db);
+    photos.setForwardOnly(true);
+    if (!photos.exec(
+            QStringLiteral("SELECT DISTINCT UserPhoto FROM UserList WHERE UserPhoto<>''"))) {
+        *error = photos.lastError().text();
+        return false;
+    }
+    while (photos.next())
+        m_formerPhotos << photos.value(0).toString();
+    photos.finish();
     if (!store::exec(m_db, QStringLiteral("DELETE FROM UserList"), {}, error)) return false;
     m_cleared = true;
     if (!dropIndexes(error)) return false;
@@ -71,8 +95,17 @@ bool RosterWriter::clearRoster(QString *error) {
     return true;
 }
 
+bool RosterWriter::reserve(qint64 rows, QString *error) {
+    m_written.reserve(static_cast<qsizetype>(qMin<qint64>(rows, 1 << 24)));
+    // A replace drops them when it clears the roster; an append into a roster with rows keeps
+    // them, as every row's duplicate test looks them up.
+    if (rows < kBulkRows || m_replacePending || !m_startedEmpty || !m_droppedIndexes.isEmpty())
+        return true;
+    return dropIndexes(error);
+}
+
 bool RosterWriter::isDuplicate(const QString &name, const QString &part) {
-    if (m_written.contains(writtenKey(name, part))) return true;
+    if (m_written.contains({name, part})) return true;
     if (m_startedEmpty) return false;
     m_duplicate.addBindValue(notNull(name));
     m_duplicate.addBindValue(notNull(part));
@@ -83,39 +116,34 @@ bool RosterWriter::isDuplicate(const QString &name, const QString &part) {
 
 int RosterWriter::insert(const QString &name, const QString &part, const QString &photo,
                          int diffNum, QString *error) {
+    QString failure;
+    if (m_replacePending && !clearRoster(&failure)) {
+        if (error) *error = failure;
+        return 0;
+    }
+    if (!m_insert) return 0;
     const int id = m_nextId++;
-    m_pending << QVariant(id) << QVariant(notNull(name)) << QVariant(notNull(part))
-              << QVariant(notNull(photo)) << QVariant(diffNum);
-    m_written.insert(writtenKey(name, part));
-    if (m_pending.size() >= kBatchRows * kColumns && !flush(error)) return 0;
+    const bool done = sqlite3_bind_int(m_insert, 1, id) == SQLITE_OK &&
+                      bindText(m_insert, 2, name) && bindText(m_insert, 3, part) &&
+                      bindText(m_insert, 4, photo) &&
+                      sqlite3_bind_int(m_insert, 5, diffNum) == SQLITE_OK &&
+                      sqlite3_step(m_insert) == SQLITE_DONE;
+    if (!done && error) *error = QString::fromUtf8(sqlite3_errmsg(m_handle));
+    sqlite3_reset(m_insert);
+    if (!done) return 0;
+    m_written.insert({name, part});
     return id;
 }
 
-// Rows go to the store in batches of one multi-row INSERT: far fewer statements for a big import.
-bool RosterWriter::flush(QString *error) {
-    if (m_pending.isEmpty()) return true;
-    const int rows = static_cast<int>(m_pending.size() / kColumns);
-    QSqlQuery rest(m_db);
-    QSqlQuery &query = rows == kBatchRows ? m_insert : rest;
-    if (rows != kBatchRows) query.prepare(insertStatement(rows));
-    for (const QVariant &value : std::as_const(m_pending))
-        query.addBindValue(value);
-    m_pending.clear();
-    if (!query.exec()) {
-        if (error) *error = query.lastError().text();
-        return false;
-    }
-    return true;
+void RosterWriter::finishStatements() {
+    m_duplicate.finish();
+    if (m_insert) sqlite3_finalize(m_insert);
+    m_insert = nullptr;
 }
 
 bool RosterWriter::commit(QString *error) {
     if (!m_open) return false;
-    if (!flush(error)) {
-        rollback();
-        return false;
-    }
-    m_duplicate.finish();
-    m_insert.finish();
+    finishStatements();
     if (!restoreIndexes(error)) {
         m_db.rollback();
         m_open = false;
@@ -163,10 +191,8 @@ bool RosterWriter::restoreIndexes(QString *error) {
 
 void RosterWriter::rollback() {
     m_droppedIndexes.clear();
-    m_pending.clear();
+    finishStatements();
     if (!m_open) return;
-    m_duplicate.finish();
-    m_insert.finish();
     m_db.rollback();
     m_open = false;
 }

@@ -2,6 +2,7 @@
 
 #include <QStringDecoder>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -15,20 +16,44 @@ bool decodeWith(QStringConverter::Encoding encoding, QByteArrayView bytes, QStri
     return !decoder.hasError();
 }
 
+bool isUnreadable(QChar c) {
+    const char16_t u = c.unicode();
+    return (u < 0x20 && u != u'\t' && u != u'\r' && u != u'\n' && u != u'\f') || u == 0xFFFD;
+}
+
+// A NUL is never in text; otherwise a file is text when most of its lines are. One pass over the
+// characters, as a roster can have a million lines.
 bool looksLikeText(const QString &text) {
+    qsizetype lines = 0;
+    qsizetype unreadable = 0;
+    bool content = false;
+    bool bad = false;
+    const auto endLine = [&] {
+        lines += content ? 1 : 0;
+        unreadable += content && bad ? 1 : 0;
+        content = bad = false;
+    };
     for (const QChar c : text) {
-        const char16_t u = c.unicode();
-        if (u < 0x20 && u != u'\t' && u != u'\r' && u != u'\n' && u != u'\f') return false;
-        if (u == 0xFFFD) return false;
+        if (c.unicode() == 0) return false;
+        if (c == QLatin1Char('\r') || c == QLatin1Char('\n')) {
+            endLine();
+            continue;
+        }
+        bad = bad || isUnreadable(c);
+        content = content || !c.isSpace();
     }
-    return true;
+    endLine();
+    return unreadable * 2 <= lines;
 }
 
 }  // namespace
 
+QString notTextMessage() {
+    return QStringLiteral("文件不是可以导入的文本文件，请选择文本格式(*.txt)的名单文件。");
+}
+
 bool decodeText(const QByteArray &bytes, QString *text, QString *error) {
-    const QString notText =
-        QStringLiteral("文件不是可以导入的文本文件，请选择文本格式(*.txt)的名单文件。");
+    const QString notText = notTextMessage();
     bool ok = false;
     if (bytes.startsWith("\xEF\xBB\xBF")) {
         ok = decodeWith(QStringConverter::Utf8, QByteArrayView(bytes).sliced(3), text);
@@ -45,12 +70,19 @@ bool decodeText(const QByteArray &bytes, QString *text, QString *error) {
             ok = decoder.isValid() && !decoder.hasError();
         }
     }
+    // A DOS end-of-file mark closes many old files; it is no part of the roster.
+    while (text->endsWith(QChar(0x1A)))
+        text->chop(1);
     if (!ok || !looksLikeText(*text)) {
         text->clear();
         *error = notText;
         return false;
     }
     return true;
+}
+
+bool isRosterLine(const QString &line) {
+    return std::none_of(line.cbegin(), line.cend(), isUnreadable);
 }
 
 QStringList splitLines(const QString &text) {

@@ -8,9 +8,15 @@
 namespace textimport {
 
 // The whole file as text. A UTF-8 or UTF-16 byte-order mark decides the encoding; otherwise valid
-// UTF-8 is UTF-8 and anything else GB18030. No byte is skipped. False (with a message) for data
-// that is not text in any of these, such as a picture or a program.
+// UTF-8 is UTF-8 and anything else GB18030. No byte is skipped but a DOS end-of-file mark at the
+// end. False (with a message) for data that is not text in any of these, such as a picture or a
+// program: a NUL anywhere, or more unreadable lines (see isRosterLine) than readable ones.
 bool decodeText(const QByteArray &bytes, QString *text, QString *error);
+// Whether a line can be a participant: no control character but tab and form feed, no
+// replacement character. The import passes over other lines and says so.
+bool isRosterLine(const QString &line);
+// What a file that is not roster text is told.
+QString notTextMessage();
 // Lines end at CR LF, LF or CR.
 QStringList splitLines(const QString &text);
 

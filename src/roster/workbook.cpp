@@ -5,9 +5,12 @@
 #include <QHash>
 #include <QXmlStreamReader>
 
+#include "core/store.h"
+
 #include <freexl.h>
 #include <zip.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace workbook {
@@ -15,28 +18,92 @@ namespace workbook {
 namespace {
 
 const QString kUnreadable = QStringLiteral("无法读取Excel文件，文件已损坏或不是Excel工作簿。");
+const QString kTooLarge = QStringLiteral("文件过大或已损坏");
 
 zip_t *zipOf(void *handle) {
     return static_cast<zip_t *>(handle);
 }
 
-// "B12" -> column 1 (from 0); -1 when the reference has no letters.
-int columnOf(QStringView reference) {
-    int column = 0;
-    int letters = 0;
-    for (const QChar c : reference) {
-        if (c < QLatin1Char('A') || c > QLatin1Char('Z')) break;
-        column = column * 26 + (c.unicode() - 'A' + 1);
-        ++letters;
-    }
-    return letters == 0 ? -1 : column - 1;
+bool cancelled(const ReadControl &control) {
+    return control.cancel && control.cancel->load(std::memory_order_relaxed);
 }
 
-int rowOf(QStringView reference) {
-    int i = 0;
-    while (i < reference.size() && reference.at(i).isLetter())
-        ++i;
-    return reference.mid(i).toInt() - 1;
+// One part of the archive, unpacked as it is read and never past its limit: a part that claims
+// or turns out to unpack to more fails, so a small file cannot swell into gigabytes.
+class PartStream : public QIODevice {
+public:
+    PartStream(zip_t *archive, const QString &name, qint64 limit) : m_limit(limit) {
+        const QByteArray utf8 = name.toUtf8();
+        zip_stat_t stat;
+        zip_stat_init(&stat);
+        if (zip_stat(archive, utf8.constData(), 0, &stat) != 0) return;
+        if (stat.valid & ZIP_STAT_SIZE) {
+            m_declared = static_cast<qint64>(qMin<zip_uint64_t>(stat.size, 1ull << 62));
+            if (m_declared > m_limit) {
+                m_tooLarge = true;
+                return;
+            }
+        }
+        m_file = zip_fopen(archive, utf8.constData(), 0);
+        if (m_file) open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+    ~PartStream() override {
+        if (m_file) zip_fclose(m_file);
+    }
+    bool isSequential() const override { return true; }
+    bool tooLarge() const { return m_tooLarge; }
+    // What the archive says the part unpacks to (0 when it does not say).
+    qint64 declaredSize() const { return m_declared; }
+    qint64 unpacked() const { return m_read; }
+    QString fault() const { return m_tooLarge ? kTooLarge : kUnreadable; }
+
+protected:
+    qint64 readData(char *data, qint64 maxSize) override {
+        if (!m_file || m_tooLarge) return -1;
+        const zip_int64_t count = zip_fread(m_file, data, static_cast<zip_uint64_t>(maxSize));
+        if (count < 0) return -1;
+        m_read += count;
+        if (m_read > m_limit) {
+            m_tooLarge = true;
+            return -1;
+        }
+        return count;
+    }
+    qint64 writeData(const char *, qint64) override { return -1; }
+
+private:
+    zip_file_t *m_file = nullptr;
+    qint64 m_limit;
+    qint64 m_declared = 0;
+    qint64 m_read = 0;
+    bool m_tooLarge = false;
+};
+
+// "B12" -> row 11 and column 1 (from 0). False for anything but one to three capital letters and a
+// row number, or a cell outside the grid.
+bool parseReference(QStringView reference, int *row, int *column) {
+    int letters = 0;
+    int columnNumber = 0;
+    while (letters < reference.size() && reference.at(letters) >= QLatin1Char('A') &&
+           reference.at(letters) <= QLatin1Char('Z')) {
+        if (++letters > 3) return false;
+        columnNumber = columnNumber * 26 + (reference.at(letters - 1).unicode() - 'A' + 1);
+    }
+    const QStringView digits = reference.mid(letters);
+    if (letters == 0 || digits.isEmpty() || digits.size() > 7) return false;
+    bool ok = false;
+    const int rowNumber = digits.toInt(&ok);
+    if (!ok || rowNumber < 1 || rowNumber > kMaxRows || columnNumber > kMaxColumns) return false;
+    *row = rowNumber - 1;
+    *column = columnNumber - 1;
+    return true;
+}
+
+// A row's "r": 1 to kMaxRows; -1 otherwise.
+int parseRowNumber(QStringView text) {
+    bool ok = false;
+    const int number = text.size() <= 7 ? text.toInt(&ok) : 0;
+    return ok && number >= 1 && number <= kMaxRows ? number - 1 : -1;
 }
 
 // Text of the <t> runs below the current element, leaving out phonetic guides (<rPh>).
@@ -66,13 +133,47 @@ QString resolveTarget(const QString &target) {
     return QStringLiteral("xl/") + target;
 }
 
-void padRows(Sheet *sheet) {
-    for (Row &row : sheet->rows)
-        while (row.size() < sheet->columns)
-            row.append(QString());
+}  // namespace
+
+Row::Row(std::initializer_list<QString> cells) : Row(QStringList(cells)) {}
+
+Row::Row(const QStringList &cells) {
+    for (int column = 0; column < cells.size(); ++column)
+        if (!cells.at(column).isNull()) set(column, cells.at(column));
 }
 
-}  // namespace
+QString Row::value(int column) const {
+    const auto at = std::lower_bound(m_columns.cbegin(), m_columns.cend(), column);
+    if (at == m_columns.cend() || *at != column) return QString();
+    return m_texts.at(at - m_columns.cbegin());
+}
+
+void Row::set(int column, const QString &text) {
+    if (m_columns.isEmpty() || m_columns.last() < column) {
+        m_columns.append(column);
+        m_texts.append(text);
+        return;
+    }
+    const auto at = std::lower_bound(m_columns.begin(), m_columns.end(), column);
+    const qsizetype place = at - m_columns.begin();
+    if (*at == column) {
+        m_texts[place] = text;
+        return;
+    }
+    m_columns.insert(place, column);
+    m_texts.insert(place, text);
+}
+
+QStringList Row::toList() const {
+    QStringList cells(size());
+    for (qsizetype i = 0; i < m_columns.size(); ++i)
+        cells[m_columns.at(i)] = m_texts.at(i);
+    return cells;
+}
+
+bool Row::operator==(const Row &other) const {
+    return m_columns == other.m_columns && m_texts == other.m_texts;
+}
 
 QString numberText(double value) {
     if (std::isfinite(value) && value == std::floor(value) && std::fabs(value) < 1e17)
@@ -139,6 +240,10 @@ void Workbook::close() {
 bool Workbook::open(const QString &path, QString *error) {
     close();
     m_path = path;
+    if (store::isStoreFile(path)) {
+        *error = kUnreadable;
+        return false;
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         *error = QStringLiteral("无法打开文件：") + path;
@@ -160,40 +265,32 @@ QStringList Workbook::sheetNames() const {
     return names;
 }
 
-bool Workbook::readSheet(int index, int limit, Sheet *sheet, QString *error) {
+bool Workbook::readSheet(int index, int limit, Sheet *sheet, QString *error,
+                         const ReadControl &control) {
     *sheet = Sheet();
     if (index < 0 || index >= sheetNames().size()) {
         *error = QStringLiteral("找不到工作表");
         return false;
     }
-    sheet->name = sheetNames().at(index);
-    const bool ok = m_kind == Kind::Xlsx ? readXlsxSheet(index, limit, sheet, error)
-                                         : readXlsSheet(index, limit, sheet, error);
-    if (ok) padRows(sheet);
-    return ok;
+    Sheet read;
+    read.name = sheetNames().at(index);
+    const bool ok = m_kind == Kind::Xlsx ? readXlsxSheet(index, limit, &read, error, control)
+                                         : readXlsSheet(index, limit, &read, error, control);
+    if (!ok) {
+        if (cancelled(control)) error->clear();
+        return false;
+    }
+    *sheet = std::move(read);
+    return true;
 }
 
 // ---- xlsx ----
 
 bool Workbook::readPart(const QString &part, QByteArray *bytes, QString *error) const {
-    zip_t *archive = zipOf(m_zip);
-    const QByteArray name = part.toUtf8();
-    zip_stat_t stat;
-    zip_stat_init(&stat);
-    if (zip_stat(archive, name.constData(), 0, &stat) != 0 || !(stat.valid & ZIP_STAT_SIZE)) {
-        if (error) *error = kUnreadable;
-        return false;
-    }
-    zip_file_t *file = zip_fopen(archive, name.constData(), 0);
-    if (!file) {
-        if (error) *error = kUnreadable;
-        return false;
-    }
-    bytes->resize(static_cast<qsizetype>(stat.size));
-    const zip_int64_t read = zip_fread(file, bytes->data(), stat.size);
-    zip_fclose(file);
-    if (read != static_cast<zip_int64_t>(stat.size)) {
-        if (error) *error = kUnreadable;
+    PartStream stream(zipOf(m_zip), part, m_partLimit);
+    if (stream.isOpen()) *bytes = stream.readAll();
+    if (!stream.isOpen() || stream.tooLarge()) {
+        if (error) *error = stream.fault();
         return false;
     }
     return true;
@@ -249,21 +346,26 @@ bool Workbook::openXlsx(QString *error) {
     return true;
 }
 
-bool Workbook::loadSharedStrings(QString *error) {
+bool Workbook::loadSharedStrings(QString *error, const ReadControl &control) {
     if (m_sharedLoaded) return true;
-    m_sharedLoaded = true;
-    QByteArray bytes;
-    if (zip_name_locate(zipOf(m_zip), "xl/sharedStrings.xml", 0) < 0) return true;
-    if (!readPart(QStringLiteral("xl/sharedStrings.xml"), &bytes, error)) return false;
-    QXmlStreamReader xml(bytes);
-    while (!xml.atEnd()) {
-        if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == QLatin1String("si"))
-            m_sharedStrings.append(readRichText(xml));
+    const QString name = QStringLiteral("xl/sharedStrings.xml");
+    if (zip_name_locate(zipOf(m_zip), name.toUtf8().constData(), 0) < 0) {
+        m_sharedLoaded = true;
+        return true;
     }
-    if (xml.hasError()) {
-        *error = kUnreadable;
+    PartStream part(zipOf(m_zip), name, m_partLimit);
+    QXmlStreamReader xml(&part);
+    QStringList strings;
+    while (part.isOpen() && !xml.atEnd() && !cancelled(control)) {
+        if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == QLatin1String("si"))
+            strings.append(readRichText(xml));
+    }
+    if (!part.isOpen() || xml.hasError() || cancelled(control)) {
+        *error = part.fault();
         return false;
     }
+    m_sharedStrings = std::move(strings);
+    m_sharedLoaded = true;
     return true;
 }
 
@@ -294,19 +396,75 @@ bool Workbook::loadStyles() {
     return !xml.hasError();
 }
 
-bool Workbook::readXlsxSheet(int index, int limit, Sheet *sheet, QString *error) {
-    if (!loadSharedStrings(error)) return false;
-    QByteArray bytes;
-    if (!readPart(m_xlsxSheets.at(index).part, &bytes, error)) return false;
-    QXmlStreamReader xml(bytes);
+namespace {
+
+// The text of a cell as the spreadsheet shows it, from its type, its raw value and its style.
+QString cellText(const QString &type, QString value, bool dateStyle, bool date1904,
+                 const QStringList &sharedStrings) {
+    if (type == QLatin1String("s")) {
+        bool ok = false;
+        const int index = value.toInt(&ok);
+        const QString text = ok ? sharedStrings.value(index) : QString();
+        return text.isNull() ? QStringLiteral("") : text;
+    }
+    if (type == QLatin1String("inlineStr") || type == QLatin1String("str") ||
+        type == QLatin1String("e"))
+        return value.isNull() ? QStringLiteral("") : value;
+    if (type == QLatin1String("b"))
+        return value == QLatin1String("1") ? QStringLiteral("TRUE") : QStringLiteral("FALSE");
+    if (type == QLatin1String("d")) return value.replace(QLatin1Char('T'), QLatin1Char(' '));
+    bool ok = false;
+    const double number = value.toDouble(&ok);
+    if (!ok) return value;
+    return dateStyle ? dateSerialText(number, date1904) : numberText(number);
+}
+
+// The raw value of the current <c>: its <v>, or the text of its inline <is>; null when the cell
+// holds neither (a styled empty cell).
+QString readCellValue(QXmlStreamReader &xml) {
+    QString value;
+    while (!xml.atEnd()) {
+        const auto token = xml.readNext();
+        if (token == QXmlStreamReader::EndElement && xml.name() == QLatin1String("c")) break;
+        if (token != QXmlStreamReader::StartElement) continue;
+        if (xml.name() == QLatin1String("v")) {
+            value = xml.readElementText();
+            if (value.isNull()) value = QStringLiteral("");
+        } else if (xml.name() == QLatin1String("is")) {
+            value = readRichText(xml);
+            if (value.isNull()) value = QStringLiteral("");
+        }
+    }
+    return value;
+}
+
+}  // namespace
+
+bool Workbook::readXlsxSheet(int index, int limit, Sheet *sheet, QString *error,
+                             const ReadControl &control) {
+    if (!loadSharedStrings(error, control)) return false;
+    PartStream part(zipOf(m_zip), m_xlsxSheets.at(index).part, m_partLimit);
+    QXmlStreamReader xml(&part);
     int nextRow = 0;
     int nextColumn = 0;
     int rowNumber = -1;
-    while (!xml.atEnd()) {
+    bool outside = false;  // a reference past the grid
+    qint64 reported = -1;
+    while (part.isOpen() && !xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement) continue;
         if (xml.name() == QLatin1String("row")) {
+            if (cancelled(control)) break;
+            // Reported as the unpacked bytes grow, once per block the XML reader takes in.
+            if (control.progress && part.unpacked() != reported) {
+                reported = part.unpacked();
+                control.progress(reported, qMax(reported, part.declaredSize()));
+            }
             const auto reference = xml.attributes().value(QLatin1String("r"));
-            const int number = reference.isEmpty() ? nextRow : reference.toInt() - 1;
+            const int number = reference.isEmpty() ? nextRow : parseRowNumber(reference);
+            if (number < 0 || number >= kMaxRows) {
+                outside = true;
+                break;
+            }
             if (limit >= 0 && number >= limit) break;
             rowNumber = number;
             nextRow = number + 1;
@@ -314,63 +472,32 @@ bool Workbook::readXlsxSheet(int index, int limit, Sheet *sheet, QString *error)
         } else if (xml.name() == QLatin1String("c") && rowNumber >= 0) {
             const auto attributes = xml.attributes();
             const auto reference = attributes.value(QLatin1String("r"));
-            int column = reference.isEmpty() ? nextColumn : columnOf(reference);
-            if (column < 0) column = nextColumn;
-            if (!reference.isEmpty() && rowOf(reference) != nextRow - 1) continue;
+            int row = rowNumber;
+            int column = nextColumn;
+            if (!reference.isEmpty() && !parseReference(reference, &row, &column)) {
+                outside = true;
+                break;
+            }
+            if (column >= kMaxColumns) {
+                outside = true;
+                break;
+            }
+            if (row != rowNumber) continue;
             nextColumn = column + 1;
             const QString type = attributes.value(QLatin1String("t")).toString();
             const int style = attributes.value(QLatin1String("s")).toInt();
-            QString value;  // stays null for an empty cell
-            bool hasValue = false;
-            while (!xml.atEnd()) {
-                const auto token = xml.readNext();
-                if (token == QXmlStreamReader::EndElement && xml.name() == QLatin1String("c"))
-                    break;
-                if (token != QXmlStreamReader::StartElement) continue;
-                if (xml.name() == QLatin1String("v")) {
-                    value = xml.readElementText();
-                    hasValue = true;
-                } else if (xml.name() == QLatin1String("is")) {
-                    value = readRichText(xml);
-                    hasValue = true;
-                }
-            }
-            if (!hasValue) continue;
-            QString text;
-            if (type == QLatin1String("s")) {
-                text = m_sharedStrings.value(value.toInt());
-                if (text.isNull()) text = QLatin1String("");
-            } else if (type == QLatin1String("inlineStr") || type == QLatin1String("str") ||
-                       type == QLatin1String("e")) {
-                text = value.isNull() ? QLatin1String("") : value;
-            } else if (type == QLatin1String("b")) {
-                text =
-                    value == QLatin1String("1") ? QStringLiteral("TRUE") : QStringLiteral("FALSE");
-            } else if (type == QLatin1String("d")) {
-                text = value.replace(QLatin1Char('T'), QLatin1Char(' '));
-            } else {
-                bool ok = false;
-                const double number = value.toDouble(&ok);
-                if (!ok)
-                    text = value;
-                else if (m_dateStyles.value(style))
-                    text = dateSerialText(number, m_date1904);
-                else
-                    text = numberText(number);
-            }
+            const QString value = readCellValue(xml);
+            if (value.isNull()) continue;
             // Rows are made only for cells with a value: a styled but empty row far down the
             // sheet must not turn into a million blank rows.
-            while (sheet->rows.size() <= rowNumber)
-                sheet->rows.append(Row());
-            Row &row = sheet->rows[rowNumber];
-            while (row.size() <= column)
-                row.append(QString());
-            row[column] = text;
+            if (sheet->rows.size() <= rowNumber) sheet->rows.resize(rowNumber + 1);
+            sheet->rows[rowNumber].set(column, cellText(type, value, m_dateStyles.value(style),
+                                                        m_date1904, m_sharedStrings));
             sheet->columns = qMax(sheet->columns, column + 1);
         }
     }
-    if (xml.hasError()) {
-        *error = kUnreadable;
+    if (!part.isOpen() || outside || xml.hasError() || cancelled(control)) {
+        *error = outside ? kTooLarge : part.fault();
         return false;
     }
     return true;
@@ -402,7 +529,31 @@ bool Workbook::openXls(QString *error) {
     return true;
 }
 
-bool Workbook::readXlsSheet(int index, int limit, Sheet *sheet, QString *error) {
+namespace {
+
+QString xlsCellText(const FreeXL_CellValue &cell) {
+    switch (cell.type) {
+        case FREEXL_CELL_INT:
+            return QString::number(cell.value.int_value);
+        case FREEXL_CELL_DOUBLE:
+            return numberText(cell.value.double_value);
+        case FREEXL_CELL_TEXT:
+        case FREEXL_CELL_SST_TEXT:
+        case FREEXL_CELL_DATE:
+        case FREEXL_CELL_DATETIME:
+        case FREEXL_CELL_TIME: {
+            const QString text = QString::fromUtf8(cell.value.text_value);
+            return text.isNull() ? QStringLiteral("") : text;
+        }
+        default:
+            return QString();
+    }
+}
+
+}  // namespace
+
+bool Workbook::readXlsSheet(int index, int limit, Sheet *sheet, QString *error,
+                            const ReadControl &control) {
     unsigned int rows = 0;
     unsigned short columns = 0;
     if (freexl_select_active_worksheet(m_xls, static_cast<unsigned short>(index)) != FREEXL_OK ||
@@ -410,35 +561,25 @@ bool Workbook::readXlsSheet(int index, int limit, Sheet *sheet, QString *error) 
         *error = kUnreadable;
         return false;
     }
+    if (rows > static_cast<unsigned int>(kMaxRows) || columns > kMaxColumns) {
+        *error = kTooLarge;
+        return false;
+    }
     if (limit >= 0) rows = qMin(rows, static_cast<unsigned int>(limit));
-    sheet->columns = columns;
     for (unsigned int r = 0; r < rows; ++r) {
+        if (cancelled(control)) return false;
+        if (control.progress && r % 1024 == 0) control.progress(r, rows);
         Row row;
-        row.reserve(columns);
         for (unsigned short c = 0; c < columns; ++c) {
             FreeXL_CellValue cell;
             if (freexl_get_cell_value(m_xls, r, c, &cell) != FREEXL_OK) {
                 *error = kUnreadable;
                 return false;
             }
-            switch (cell.type) {
-                case FREEXL_CELL_INT:
-                    row << QString::number(cell.value.int_value);
-                    break;
-                case FREEXL_CELL_DOUBLE:
-                    row << numberText(cell.value.double_value);
-                    break;
-                case FREEXL_CELL_TEXT:
-                case FREEXL_CELL_SST_TEXT:
-                case FREEXL_CELL_DATE:
-                case FREEXL_CELL_DATETIME:
-                case FREEXL_CELL_TIME:
-                    row << QString::fromUtf8(cell.value.text_value);
-                    break;
-                default:
-                    row << QString();
-                    break;
-            }
+            const QString text = xlsCellText(cell);
+            if (text.isNull()) continue;
+            row.set(c, text);
+            sheet->columns = qMax(sheet->columns, c + 1);
         }
         sheet->rows.append(row);
     }

@@ -28,10 +28,11 @@ using Settings = std::array<SlotSetting, SlotCount>;
 QString musicFolder(const QString &appPath);
 Settings readSettings(const QString &appPath);
 
-// Saves the choices: a file from outside Music/ is copied in (over a file of that name) and
-// replaces the slot's previous file, which is deleted unless the copy has just taken its name.
-// The file key is written even when the copy fails, as a key
-// naming a missing file only means silence. Then the four flags.
+// Saves the choices: a file picked inside Music/ is named as it is; a file from elsewhere is
+// copied in (over the slot's own file of that name, beside another slot's file of that name as
+// "name-2.ext"). A slot's previous file is deleted only when no slot names it any more, a file
+// this save has just copied included, and only inside Music/. The file key is written even when
+// the copy fails, as a key naming a missing file only means silence. Then the four flags.
 void saveSettings(const QString &appPath, const Settings &settings);
 
 }  // namespace music

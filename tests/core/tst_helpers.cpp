@@ -18,6 +18,8 @@ private Q_SLOTS:
     void fileNames();
     void fileExistsOnlyForFiles();
     void clearUserPhotosKeepsPrizePictures();
+    void ownedFiles_data();
+    void ownedFiles();
     void randomNames();
     void digest_data();
     void digest();
@@ -79,14 +81,58 @@ void TestHelpers::fileExistsOnlyForFiles() {
 
 void TestHelpers::clearUserPhotosKeepsPrizePictures() {
     QTemporaryDir dir;
-    const QStringList names{"U1.jpg", "U200.png", "JP3.jpg", "JP12.png", "u5.jpg", "camertemp.jpg"};
+    const QStringList names{"U1.jpg",        "U200.png", "JP3.jpg", "JP12.png", "u5.jpg",
+                            "camertemp.jpg", "LIU.jpg",  "U盘.jpg", "ZHOU.png", "U1.jpg.bak"};
     for (const QString &name : names) {
         QFile f(dir.filePath(name));
         QVERIFY(f.open(QIODevice::WriteOnly));
     }
     QCOMPARE(clearUserPhotos(dir.path() + QLatin1Char('/')), 2);
     const QStringList left = QDir(dir.path()).entryList(QDir::Files, QDir::Name);
-    QCOMPARE(left, (QStringList{"JP12.png", "JP3.jpg", "camertemp.jpg", "u5.jpg"}));
+    QCOMPARE(left, (QStringList{"JP12.png", "JP3.jpg", "LIU.jpg", "U1.jpg.bak", "U盘.jpg",
+                                "ZHOU.png", "camertemp.jpg", "u5.jpg"}));
+}
+
+void TestHelpers::ownedFiles_data() {
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("owned");  // relative to the program folder; empty: not owned
+    QTest::newRow("photo") << "Photos/U1.jpg"
+                           << "Photos/U1.jpg";
+    QTest::newRow("old backslashes") << "Photos\\U1.jpg"
+                                     << "Photos/U1.jpg";
+    QTest::newRow("detour that stays inside") << "Photos/../Photos/./a.jpg"
+                                              << "Photos/a.jpg";
+    QTest::newRow("out of the program folder") << "../photos/zs.jpg"
+                                               << "";
+    QTest::newRow("out through the folder") << "Photos/../../zs.jpg"
+                                            << "";
+    QTest::newRow("the settings beside it") << "Photos/../config.ini"
+                                            << "";
+    QTest::newRow("absolute") << "/etc/hostname"
+                              << "";
+    QTest::newRow("another folder of the program") << "Music/a.mp3"
+                                                   << "";
+    QTest::newRow("the folder itself") << "Photos"
+                                       << "";
+    QTest::newRow("through a linked folder") << "Photos/elsewhere/zs.jpg"
+                                             << "";
+    QTest::newRow("empty") << ""
+                           << "";
+}
+
+void TestHelpers::ownedFiles() {
+    QFETCH(QString, stored);
+    QFETCH(QString, owned);
+    QTemporaryDir outside;
+    QTemporaryDir dir;
+    const QString appPath = dir.path() + QStringLiteral("/");
+    QVERIFY(QDir(appPath).mkpath(QStringLiteral("Photos")));
+    QVERIFY(QFile::link(outside.path(), appPath + QStringLiteral("Photos/elsewhere")));
+    const QString expected =
+        owned.isEmpty() ? QString()
+                        : QFileInfo(appPath + QStringLiteral("Photos")).canonicalFilePath() +
+                              owned.mid(owned.indexOf(QLatin1Char('/')));
+    QCOMPARE(ownedFile(appPath, QStringLiteral("Photos/"), stored), expected);
 }
 
 void TestHelpers::randomNames() {

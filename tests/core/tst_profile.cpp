@@ -1,4 +1,5 @@
 #include <QFile>
+#include <QStringEncoder>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void writtenValuesReadBack_data();
     void writtenValuesReadBack();
     void longValuesAndNulCharacters();
+    void fileSavedAsGbkIsReadAndRewrittenAsUtf8();
 
 private:
     QTemporaryDir m_dir;
@@ -176,6 +178,20 @@ void TestProfile::longValuesAndNulCharacters() {
              "[main]\nBT1=" + QByteArray(12000, 'x') + "\nBT2=a" + QByteArray(1, '\0') + "b\n");
     QCOMPARE(readIni(QStringLiteral("main"), QStringLiteral("BT1"), file()).size(), 10000);
     QCOMPARE(readIni(QStringLiteral("main"), QStringLiteral("BT2"), file()), QStringLiteral("ab"));
+}
+
+// A settings file saved by a Chinese Windows editor: read as GB18030, written back as UTF-8.
+void TestProfile::fileSavedAsGbkIsReadAndRewrittenAsUtf8() {
+    QStringEncoder gbk("GB18030");
+    const QByteArray bytes = gbk(QStringLiteral("[main]\r\nBT1=二〇二六年会抽奖\r\nBT2=欢迎\r\n"));
+    QVERIFY(!gbk.hasError());
+    writeAll(file(), bytes);
+    QCOMPARE(readIni(QStringLiteral("main"), QStringLiteral("BT1"), file()),
+             QStringLiteral("二〇二六年会抽奖"));
+    QVERIFY(
+        writeIni(QStringLiteral("main"), QStringLiteral("BT2"), QStringLiteral("你好"), file()));
+    QCOMPARE(readAll(file()),
+             QStringLiteral("[main]\r\nBT1=二〇二六年会抽奖\r\nBT2=你好\r\n").toUtf8());
 }
 
 QTEST_GUILESS_MAIN(TestProfile)

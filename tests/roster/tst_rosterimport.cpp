@@ -86,6 +86,11 @@ private Q_SLOTS:
     void cancelLeavesRosterAsItWas_data();
     void cancelLeavesRosterAsItWas();
     void failureHalfWayLeavesRosterAsItWas();
+    void strayControlBytesSkipOnlyTheirLines();
+    void blankNamesAreSkippedAndCounted_data();
+    void blankNamesAreSkippedAndCounted();
+    void replaceThatWritesNothingKeepsRoster_data();
+    void replaceThatWritesNothingKeepsRoster();
 };
 
 void TestRosterImport::decodesEveryEncoding_data() {
@@ -210,8 +215,14 @@ void TestRosterImport::masks_data() {
                                 << "ST" << QStringList{} << QStringList{"ST0004E"};
     QTest::newRow("prefix hit") << "4"
                                 << "ST4" << QStringList{"ST40001E"} << QStringList{};
-    QTest::newRow("trailing comma") << "4,"
-                                    << "ST" << QStringList{"ST0001E"} << QStringList{};
+    QTest::newRow("trailing comma adds no group")
+        << "4,"
+        << "ST" << QStringList{"ST0004E"} << QStringList{"ST0001E", "ST0013E"};
+    QTest::newRow("blanks around groups")
+        << "4, 13 ，5"
+        << "ST" << QStringList{"ST0013E", "ST0005E"} << QStringList{"ST0001E"};
+    QTest::newRow("only separators") << " , ，"
+                                     << "ST" << QStringList{} << QStringList{"ST0001E"};
 }
 
 void TestRosterImport::masks() {
@@ -246,6 +257,12 @@ void TestRosterImport::photoNames_data() {
     QTest::newRow("four characters cut") << "张三.jpeg"
                                          << "张三."
                                          << "";
+    QTest::newRow("no name before the comma") << ",市场部.jpg"
+                                              << ""
+                                              << "市场部";
+    QTest::newRow("blank name before the comma") << "  ，市场部.jpg"
+                                                 << "  "
+                                                 << "市场部";
 }
 
 void TestRosterImport::photoNames() {
@@ -255,6 +272,7 @@ void TestRosterImport::photoNames() {
     const photoimport::PhotoName parsed = photoimport::parsePhotoName(file);
     QCOMPARE(parsed.name, name);
     QCOMPARE(parsed.part, part);
+    QCOMPARE(parsed.hasName(), !name.trimmed().isEmpty());
 }
 
 void TestRosterImport::shrinkRule_data() {
@@ -426,11 +444,13 @@ void TestRosterImport::numberGeneratorReplacesRoster() {
     QCOMPARE(job.imported() + job.excluded(), 1000);
     QVERIFY(job.log().startsWith(QStringLiteral("ST0004E\nST0013E\nST0014E\n")));
 
+    // A mask that leaves no code is refused before anything changes.
     options.mask = QStringLiteral("0");
+    QVERIFY(!numbergen::keepsAnyCode(options));
     NumberGeneration all(options);
-    QCOMPARE(all.runToEnd(), RosterImport::Outcome::Finished);
-    QCOMPARE(all.imported(), 0);
-    QVERIFY(names(folder.db()).isEmpty());
+    QCOMPARE(all.runToEnd(), RosterImport::Outcome::Failed);
+    QVERIFY(!all.errorText().isEmpty());
+    QCOMPARE(names(folder.db()).size(), rows.size());
 }
 
 void TestRosterImport::cancelLeavesRosterAsItWas_data() {
@@ -451,7 +471,7 @@ void TestRosterImport::cancelLeavesRosterAsItWas() {
     const QStringList indexesBefore = indexes(folder.db());
     QVERIFY(indexesBefore.size() >= 5);
     QTemporaryDir pictures;
-    QList<QStringList> rows;
+    QList<workbook::Row> rows;
     QStringList lines;
     QStringList files;
     for (int i = 0; i < 60000; ++i) {
@@ -508,6 +528,103 @@ void TestRosterImport::failureHalfWayLeavesRosterAsItWas() {
     QCOMPARE(job.runToEnd(), RosterImport::Outcome::Failed);
     QVERIFY(job.errorText().contains(QStringLiteral("refused")));
     QCOMPARE(dumpRoster(folder.db()), before);
+}
+
+// A DOS end-of-file mark, a bell or a replacement character costs its line, not the file.
+void TestRosterImport::strayControlBytesSkipOnlyTheirLines() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("名单.txt"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(QStringLiteral("张三,研发部\r\n李%1四,市场部\r\n王五\a,行政部\r\n赵六\r\n")
+                   .arg(QChar(0xFFFD))
+                   .toUtf8() +
+               "\x1a");
+    file.close();
+    QStringList lines;
+    QString error;
+    QVERIFY2(TxtImport::readLines(path, &lines, &error), qPrintable(error));
+    TxtImport job(lines, QStringLiteral(","), false);
+    QCOMPARE(job.runToEnd(), RosterImport::Outcome::Finished);
+    QCOMPARE(names(folder.db()), (QStringList{"张三/研发部", "赵六/"}));
+    QCOMPARE(job.unreadableLines(), 2);
+    QCOMPARE(job.log(), QStringLiteral("\n屏蔽无法识别的数据：第2行\n屏蔽无法识别的数据：第3行"));
+}
+
+void TestRosterImport::blankNamesAreSkippedAndCounted_data() {
+    QTest::addColumn<int>("kind");
+    QTest::newRow("excel") << 0;
+    QTest::newRow("text") << 1;
+    QTest::newRow("photos") << 2;
+}
+
+// Every import passes over a name that is blank after trimming and says how many it skipped.
+void TestRosterImport::blankNamesAreSkippedAndCounted() {
+    QFETCH(int, kind);
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    QTemporaryDir pictures;
+    std::unique_ptr<RosterImport> job;
+    if (kind == 0) {
+        job = std::make_unique<ExcelImport>(
+            QList<workbook::Row>{{"   ", "市场部"}, {"张三", "研发部"}, {QString(), "x"}},
+            QList<bool>{true, false}, QStringLiteral(" "), false, false);
+    } else if (kind == 1) {
+        job = std::make_unique<TxtImport>(QStringList{"   ,市场部", "张三,研发部", "", "\t,x"},
+                                          QStringLiteral(","), false);
+    } else {
+        QStringList files;
+        for (const QString name : {",市场部.jpg", "张三,研发部.jpg", " ，x.jpg"}) {
+            files << pictures.filePath(name);
+            writeImage(files.last(), 10, 10);
+        }
+        job = std::make_unique<PhotoImport>(files, false, 8, false);
+    }
+    QCOMPARE(job->runToEnd(), RosterImport::Outcome::Finished);
+    QCOMPARE(job->imported(), 1);
+    QCOMPARE(job->blankNames(), 2);
+    QCOMPARE(job->log().count(QStringLiteral("屏蔽空白数据")), 2);
+    QCOMPARE(names(folder.db()).size(), 1);
+    QVERIFY(names(folder.db()).first().startsWith(QStringLiteral("张三/研发部")));
+}
+
+void TestRosterImport::replaceThatWritesNothingKeepsRoster_data() {
+    QTest::addColumn<int>("kind");
+    QTest::newRow("excel title row only") << 0;
+    QTest::newRow("text of blank lines") << 1;
+    QTest::newRow("photos without names") << 2;
+}
+
+// A read that yields no participant never empties the roster, whatever the option says.
+void TestRosterImport::replaceThatWritesNothingKeepsRoster() {
+    QFETCH(int, kind);
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    const QList<int> ids = folder.addUsers({"甲|一部", "乙|二部"});
+    QVERIFY(store::exec(folder.db(),
+                        "UPDATE UserList SET UserPhoto='Photos/U1.jpg', JxID='|1|', "
+                        "UserStatus=3 WHERE ID=?",
+                        {ids.first()}));
+    writeImage(folder.path("Photos/U1.jpg"), 10, 10);
+    const QStringList before = dumpRoster(folder.db());
+    QTemporaryDir pictures;
+    std::unique_ptr<RosterImport> job;
+    if (kind == 0) {
+        job = std::make_unique<ExcelImport>(QList<workbook::Row>{{"姓名", "部门"}},
+                                            QList<bool>{true, false}, " ", true, true);
+    } else if (kind == 1) {
+        job = std::make_unique<TxtImport>(QStringList{"", "  ", ",研发部"}, ",", true);
+    } else {
+        writeImage(pictures.filePath(QStringLiteral(",研发部.jpg")), 10, 10);
+        job = std::make_unique<PhotoImport>(
+            QStringList{pictures.filePath(QStringLiteral(",研发部.jpg"))}, false, 8, true);
+    }
+    QCOMPARE(job->runToEnd(), RosterImport::Outcome::Finished);
+    QCOMPARE(job->imported(), 0);
+    QCOMPARE(dumpRoster(folder.db()), before);
+    QVERIFY(QFile::exists(folder.path("Photos/U1.jpg")));
 }
 
 QTEST_MAIN(TestRosterImport)
