@@ -106,6 +106,23 @@ int parseRowNumber(QStringView text) {
     return ok && number >= 1 && number <= kMaxRows ? number - 1 : -1;
 }
 
+// The text inside the current element and all it holds, read in a loop: a file may nest
+// elements deeper than any stack.
+QString readNestedText(QXmlStreamReader &xml) {
+    QString text;
+    for (int depth = 1; depth > 0 && !xml.atEnd();) {
+        const auto token = xml.readNext();
+        if (token == QXmlStreamReader::StartElement)
+            ++depth;
+        else if (token == QXmlStreamReader::EndElement)
+            --depth;
+        else if (token == QXmlStreamReader::Characters ||
+                 token == QXmlStreamReader::EntityReference)
+            text += xml.text();
+    }
+    return text;
+}
+
 // Text of the <t> runs below the current element, leaving out phonetic guides (<rPh>).
 QString readRichText(QXmlStreamReader &xml) {
     const QString end = xml.name().toString();
@@ -117,7 +134,7 @@ QString readRichText(QXmlStreamReader &xml) {
             if (xml.name() == QLatin1String("rPh"))
                 ++phonetic;
             else if (xml.name() == QLatin1String("t") && phonetic == 0)
-                text += xml.readElementText(QXmlStreamReader::IncludeChildElements);
+                text += readNestedText(xml);
         } else if (token == QXmlStreamReader::EndElement) {
             if (xml.name() == QLatin1String("rPh"))
                 --phonetic;

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void referencesPastTheGrid();
     void strayCellInTheFarCorner();
     void partUnpackingPastItsLimit();
+    void deeplyNestedText();
     void failedSheetLeavesNoRows();
     void cancelStopsTheRead();
 };
@@ -240,6 +241,16 @@ void TestWorkbook::partUnpackingPastItsLimit() {
     book.setPartLimit(4 * 1024 * 1024);
     QVERIFY2(book.readSheet(0, -1, &sheet, &error), qPrintable(error));
     QCOMPARE(sheet.rows.at(0).value(0), QStringLiteral("a"));
+}
+
+// Found by fuzzing: nesting deeper than the stack once brought the reader down.
+void TestWorkbook::deeplyNestedText() {
+    workbook::Workbook book;
+    QString error;
+    QVERIFY(book.open(fixture(QStringLiteral("hostile-deep.xlsx")), &error));
+    workbook::Sheet sheet;
+    QVERIFY2(book.readSheet(0, -1, &sheet, &error), qPrintable(error));
+    QCOMPARE(sheet.rows.at(0).value(0), QStringLiteral("x"));
 }
 
 // A good sheet read before must not leave its rows behind when the next sheet breaks off.
