@@ -20,6 +20,7 @@
 #include "core/store.h"
 #include "stage/protocol.h"
 #include "stage/view/stagefactory.h"
+#include "support/childwidget.h"
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
@@ -73,13 +74,6 @@ void paintPrize(const QString &file) {
 }
 
 namespace {
-
-template <class T>
-T *child(const QWidget &parent, const char *name) {
-    auto *found = parent.findChild<T *>(QString::fromLatin1(name));
-    if (!found) qFatal("no control named %s", name);
-    return found;
-}
 
 void click(const QWidget &parent, const char *name) {
     child<QAbstractButton>(parent, name)->click();

@@ -10,19 +10,11 @@
 #include "core/appstate.h"
 #include "core/helpers.h"
 #include "core/profile.h"
+#include "support/childwidget.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
-namespace {
-
-template <class T>
-T *child(const QWidget &parent, const char *name) {
-    auto *found = parent.findChild<T *>(QString::fromLatin1(name));
-    if (!found) qFatal("no control named %s", name);
-    return found;
-}
-
-}  // namespace
+namespace {}  // namespace
 
 class TestGuide : public QObject {
     Q_OBJECT

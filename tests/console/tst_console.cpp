@@ -19,19 +19,13 @@
 #include "roster/view/numbergeneratordialog.h"
 #include "roster/view/rostermanagerdialog.h"
 #include "stage/protocol.h"
+#include "support/childwidget.h"
 #include "support/dialogwatch.h"
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
 namespace {
-
-template <class T>
-T *child(const QWidget &parent, const char *name) {
-    auto *found = parent.findChild<T *>(QString::fromLatin1(name));
-    if (!found) qFatal("no control named %s", name);
-    return found;
-}
 
 void click(const QWidget &parent, const char *name) {
     if (auto *link = parent.findChild<LinkLabel *>(QString::fromLatin1(name)))

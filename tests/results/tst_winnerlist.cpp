@@ -11,18 +11,12 @@
 #include "results/view/printwinners.h"
 #include "results/view/winnerlistdialog.h"
 #include "results/winnerlist.h"
+#include "support/childwidget.h"
 #include "support/sampleevening.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
 namespace {
-
-template <typename T>
-T *child(const QWidget &dialog, const char *name) {
-    T *widget = dialog.findChild<T *>(QLatin1String(name));
-    if (!widget) qFatal("no %s", name);
-    return widget;
-}
 
 QTreeWidget *winnerList(const QWidget &dialog) {
     return child<QTreeWidget>(dialog, "winnerList");

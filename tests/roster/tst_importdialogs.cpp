@@ -14,13 +14,13 @@
 #include <QTreeWidget>
 #include <QtTest>
 
-#include "childwidget.h"
 #include "core/store.h"
 #include "roster/view/excelimportdialog.h"
 #include "roster/view/numbergeneratordialog.h"
 #include "roster/view/photoimportdialog.h"
 #include "roster/view/rosterscreens.h"
 #include "roster/view/textimportdialog.h"
+#include "support/childwidget.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 

@@ -13,7 +13,6 @@
 #include <QtTest>
 
 #include "awards/view/camerahook.h"
-#include "childwidget.h"
 #include "core/appstate.h"
 #include "core/store.h"
 #include "roster/rosterpage.h"
@@ -23,6 +22,7 @@
 #include "roster/view/rosterscreens.h"
 #include "stage/protocol.h"
 #include "stage/view/stagefactory.h"
+#include "support/childwidget.h"
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"

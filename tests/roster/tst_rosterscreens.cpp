@@ -13,7 +13,6 @@
 #include <QTreeWidget>
 #include <QtTest>
 
-#include "childwidget.h"
 #include "chrome/widgethelpers.h"
 #include "core/fonts.h"
 #include "roster/view/addparticipantdialog.h"
@@ -24,6 +23,7 @@
 #include "roster/view/rostermanagerdialog.h"
 #include "roster/view/textimportdialog.h"
 #include "stage/view/stagefactory.h"
+#include "support/childwidget.h"
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
