@@ -6,6 +6,7 @@
 #include <QXmlStreamReader>
 
 #include "core/store.h"
+#include "roster/xlsformulas.h"
 
 #include <freexl.h>
 #include <zip.h>
@@ -567,6 +568,13 @@ QString xlsCellText(const FreeXL_CellValue &cell) {
     }
 }
 
+// FreeXL leaves formula cells empty; their cached results come from the file once more.
+FormulaResults readFormulaResults(const QString &path, const QString &sheetName) {
+    QFile file(path);
+    if (file.size() > kMaxPartBytes || !file.open(QIODevice::ReadOnly)) return {};
+    return xlsFormulaResults(file.readAll(), sheetName);
+}
+
 }  // namespace
 
 bool Workbook::readXlsSheet(int index, int limit, Sheet *sheet, QString *error,
@@ -583,6 +591,7 @@ bool Workbook::readXlsSheet(int index, int limit, Sheet *sheet, QString *error,
         return false;
     }
     if (limit >= 0) rows = qMin(rows, static_cast<unsigned int>(limit));
+    const FormulaResults formulas = readFormulaResults(m_path, m_xlsSheets.value(index));
     for (unsigned int r = 0; r < rows; ++r) {
         if (cancelled(control)) return false;
         if (control.progress && r % 1024 == 0) control.progress(r, rows);
@@ -593,7 +602,8 @@ bool Workbook::readXlsSheet(int index, int limit, Sheet *sheet, QString *error,
                 *error = kUnreadable;
                 return false;
             }
-            const QString text = xlsCellText(cell);
+            QString text = xlsCellText(cell);
+            if (text.isNull()) text = formulas.value(cellKey(r, c));
             if (text.isNull()) continue;
             row.set(c, text);
             sheet->columns = qMax(sheet->columns, c + 1);

@@ -81,8 +81,7 @@ void TestWorkbook::realWorkbooks_data() {
     QTest::addColumn<bool>("formulasCached");
     QTest::newRow("openpyxl xlsx") << "openpyxl.xlsx" << false;
     QTest::newRow("LibreOffice xlsx") << "libreoffice.xlsx" << true;
-    // FreeXL does not hand out the cached results of formulas in BIFF files.
-    QTest::newRow("LibreOffice xls") << "libreoffice.xls" << false;
+    QTest::newRow("LibreOffice xls") << "libreoffice.xls" << true;
 }
 
 void TestWorkbook::realWorkbooks() {
