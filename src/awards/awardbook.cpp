@@ -9,6 +9,7 @@
 #include "core/helpers.h"
 #include "core/settings.h"
 #include "core/ui.h"
+#include "roster/photofiles.h"
 
 const QString AwardBook::kPhotoPrefix = QStringLiteral("Photos/JP");
 const QString AwardBook::kCameraFile = QStringLiteral("Photos/camertemp.jpg");
@@ -166,7 +167,7 @@ AwardBook::PhotoPlan AwardBook::planPhoto(int id, const QString &txtPhoto) {
     PhotoPlan plan;
     if (state == QLatin1String("no")) {
         // Only the .jpg name goes: a picture kept under another extension stays on disk.
-        plan.removeFile = appPath + kPhotoPrefix + QString::number(id) + QStringLiteral(".jpg");
+        plan.removeFile = kPhotoPrefix + QString::number(id) + QStringLiteral(".jpg");
     } else if (state == QLatin1String("camre")) {
         const QString target = kPhotoPrefix + QString::number(id) + QStringLiteral(".jpg");
         if (fileExists(appPath + kCameraFile)) {
@@ -174,7 +175,7 @@ AwardBook::PhotoPlan AwardBook::planPhoto(int id, const QString &txtPhoto) {
             plan.copyFrom = appPath + kCameraFile;
         } else {
             plan.cameraMissing = true;
-            plan.removeFile = appPath + target;
+            plan.removeFile = target;
         }
     } else {
         plan.stored = kPhotoPrefix + QString::number(id) + getExt(getFileName(state));
@@ -183,9 +184,11 @@ AwardBook::PhotoPlan AwardBook::planPhoto(int id, const QString &txtPhoto) {
     return plan;
 }
 
-void AwardBook::applyPhoto(const PhotoPlan &plan) {
+void AwardBook::applyPhoto(const PhotoPlan &plan) const {
     const QString appPath = appState().appPath;
-    if (!plan.removeFile.isEmpty() && fileExists(plan.removeFile)) QFile::remove(plan.removeFile);
+    // Called once the row is written, so a picture this award gave up is only removed when the
+    // program owns it and no other row still shows it.
+    if (!plan.removeFile.isEmpty()) roster::removeUnnamedPhotos(m_db, appPath, {plan.removeFile});
     if (plan.copyFrom.isEmpty()) return;
     const QString target = appPath + plan.stored;
     // Saving an unchanged picture copies a file onto itself: nothing to do, and removing the
@@ -280,10 +283,7 @@ bool AwardBook::remove(const QList<int> &ids, QString *error) {
         },
         error);
     if (!removed) return false;
-    for (const QString &picture : pictures) {
-        const QString file = appState().appPath + picture.trimmed();
-        if (!picture.trimmed().isEmpty() && fileExists(file)) QFile::remove(file);
-    }
+    roster::removeUnnamedPhotos(m_db, appState().appPath, pictures);
     if (ids.contains(appState().selJxid) && appState().selJxid > 0)
         settings::write(QStringLiteral("selJxid"), 0);
     return true;

@@ -107,11 +107,11 @@ private:
     struct PhotoPlan {
         QString stored;      // the JPPhoto value to write
         QString copyFrom;    // absolute source to copy to `stored`, or empty
-        QString removeFile;  // absolute file to delete, or empty
+        QString removeFile;  // stored path of a picture that may go, or empty
         bool cameraMissing = false;
     };
     static PhotoPlan planPhoto(int id, const QString &txtPhoto);
-    static void applyPhoto(const PhotoPlan &plan);
+    void applyPhoto(const PhotoPlan &plan) const;
     bool renumber(QString *error);
     bool inTransaction(const std::function<bool(QString *)> &work, QString *error);
 

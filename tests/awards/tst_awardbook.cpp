@@ -1,6 +1,8 @@
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSqlQuery>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include "awards/awardbook.h"
@@ -334,14 +336,22 @@ void TestAwardBook::deleteTwoAndRenumber() {
     const int twoAndFour = addWinner(QStringLiteral("甲"), QStringLiteral("|2||4|"));
     const int twoAndFive = addWinner(QStringLiteral("乙"), QStringLiteral("|2||5|"));
     QDir().mkpath(m_folder->path(QStringLiteral("Photos")));
-    for (const QString &name : {QStringLiteral("JP2.png"), QStringLiteral("JP3.png")}) {
-        QFile file(m_folder->path(QStringLiteral("Photos/") + name));
+    // Award 4 shows a participant's photo; award 5 a file outside the program folder.
+    QTemporaryDir outside(m_folder->path(QStringLiteral("../outside-XXXXXX")));
+    const QString outsidePicture = QStringLiteral("../") + QFileInfo(outside.path()).fileName() +
+                                   QStringLiteral("/prize.png");
+    for (const QString &name : {QStringLiteral("Photos/JP2.png"), QStringLiteral("Photos/JP3.png"),
+                                QStringLiteral("Photos/U9.png"), outsidePicture}) {
+        QFile file(m_folder->path(name));
         QVERIFY(file.open(QIODevice::WriteOnly));
     }
-    store::exec(m_folder->db(), QStringLiteral("UPDATE JPList SET JPPhoto=? WHERE ID=?"),
-                {QStringLiteral("Photos\\JP2.png"), 2});
-    store::exec(m_folder->db(), QStringLiteral("UPDATE JPList SET JPPhoto=? WHERE ID=?"),
-                {QStringLiteral("Photos/JP3.png"), 3});
+    const QStringList pictures{QStringLiteral("Photos\\JP2.png"), QStringLiteral("Photos/JP3.png"),
+                               QStringLiteral("Photos/U9.png"), outsidePicture};
+    for (int id = 2; id <= 5; ++id)
+        store::exec(m_folder->db(), QStringLiteral("UPDATE JPList SET JPPhoto=? WHERE ID=?"),
+                    {pictures.at(id - 2), id});
+    store::exec(m_folder->db(), QStringLiteral("UPDATE UserList SET UserPhoto=? WHERE ID=?"),
+                {QStringLiteral("Photos/U9.png"), twoAndFour});
 
     QVERIFY(book.remove({2, 4}, nullptr));
     QCOMPARE(order(), (QList<int>{101, 302, 503}));
@@ -351,9 +361,11 @@ void TestAwardBook::deleteTwoAndRenumber() {
     QCOMPARE(holder(twoAndFive).status, 3);
     QVERIFY(!QFile::exists(m_folder->path(QStringLiteral("Photos/JP2.png"))));
     QVERIFY(QFile::exists(m_folder->path(QStringLiteral("Photos/JP3.png"))));
+    QVERIFY(QFile::exists(m_folder->path(QStringLiteral("Photos/U9.png"))));
 
     QVERIFY(book.remove({1, 3, 5}, nullptr));
     QVERIFY(book.list().isEmpty());
+    QVERIFY(QFile::exists(m_folder->path(outsidePicture)));
 }
 
 void TestAwardBook::allOrNothing_data() {
