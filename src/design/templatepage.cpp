@@ -12,9 +12,12 @@ namespace design {
 
 namespace {
 
+// The page size is kept as a 16-bit value.
+constexpr qlonglong kMaxStageSide = 32767;
+
 bool isNumber(const QString &text) {
     bool ok = false;
-    text.trimmed().toInt(&ok);
+    text.trimmed().toLongLong(&ok);
     return ok;
 }
 
@@ -44,8 +47,12 @@ QString templatePath(const QString &appPath, const QString &name) {
 SizeCheck checkStageSize(const QString &width, const QString &height) {
     if (!isNumber(width)) return {QStringLiteral("分辨率宽度需要输入数字"), true};
     if (!isNumber(height)) return {QStringLiteral("分辨率高度需要输入数字"), false};
-    if (width.trimmed().toInt() < 257) return {QStringLiteral("分辨率宽度最小不低于257px"), true};
-    if (height.trimmed().toInt() < 177) return {QStringLiteral("分辨率高度不能低于177px"), false};
+    if (width.trimmed().toLongLong() < 257) return {QStringLiteral("分辨率宽度最小不低于257px"), true};
+    if (height.trimmed().toLongLong() < 177) return {QStringLiteral("分辨率高度不能低于177px"), false};
+    if (width.trimmed().toLongLong() > kMaxStageSide)
+        return {QStringLiteral("分辨率宽度最大不能超过32767px"), true};
+    if (height.trimmed().toLongLong() > kMaxStageSide)
+        return {QStringLiteral("分辨率高度最大不能超过32767px"), false};
     return {};
 }
 

@@ -11,7 +11,8 @@ QStringList listTemplates(const QString &appPath);
 QString templatePath(const QString &appPath, const QString &name);
 
 // The first fault of a stage size typed on the console, checked in order: width not a number,
-// height not a number, width below 257, height below 177. Empty when both pass; `widthField`
+// height not a number, width below 257, height below 177, width or height past the 16-bit
+// limit of 32767. Empty when both pass; `widthField`
 // tells which field gets the focus.
 struct SizeCheck {
     QString message;
