@@ -69,9 +69,11 @@ Settled settlePicture(const QString &source, const QString &target, bool compres
     if (!size.isValid()) return Settled::Failed;
     const QSize shrunk = shrunkSize(size, sliderValue);
     if (!shrunk.isValid()) return copyOver(source, target) ? Settled::Copied : Settled::Failed;
-    const QImage image = reader.read();
-    if (image.isNull()) return Settled::Failed;
-    const QImage scaled = image.scaled(shrunk, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    // Decoded straight at the new size: a camera's 48-megapixel photo never exists in memory
+    // at full size (JPEG decodes at a fraction of its size; other formats scale while reading).
+    reader.setScaledSize(shrunk);
+    const QImage scaled = reader.read();
+    if (scaled.isNull()) return Settled::Failed;
     return saveJpeg(scaled, target) ? Settled::Shrunk : Settled::Failed;
 }
 
