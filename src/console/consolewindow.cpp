@@ -23,8 +23,8 @@
 #include "core/store.h"
 #include "core/ui.h"
 #include "draw/progress.h"
-#include "results/exportwinners.h"
 #include "results/view/winnerlistdialog.h"
+#include "roster/replaceguard.h"
 #include "roster/view/rosterscreens.h"
 #include "sound/view/hotkeysettingsdialog.h"
 #include "sound/view/musicsettingsdialog.h"
@@ -405,9 +405,16 @@ void ConsoleWindow::refreshProgress() {
 }
 
 void ConsoleWindow::resetDraw() {
-    const auto snapshot = [](const QString &path) { return !exportWinners(path, false).isEmpty(); };
-    if (draw::oneKeyReset(store::mainConn(), m_progressLabel->text(), snapshot))
-        Q_EMIT events().resultsChanged();
+    // Asked whenever a win or a give-up is stored, whatever the rounded progress shows.
+    const auto answer = roster::confirmReset(store::mainConn(), appState().appPath);
+    if (answer == roster::ResetAnswer::Refused) return;
+    if (!draw::clearAllWins(store::mainConn())) {
+        qCWarning(lcConsole) << "the one-key reset could not clear the wins";
+        return;
+    }
+    if (answer == roster::ResetAnswer::Confirmed)
+        ui().message(QStringLiteral("已恢复至初始抽奖状态!"), MsgStyle::Information, titles::notice);
+    Q_EMIT events().resultsChanged();
 }
 
 void ConsoleWindow::openAwardManager() {

@@ -33,5 +33,7 @@ bool range(const Options &options, int *start, int *end);
 // Whether the options give at least one code once the mask has left some out. A generator that
 // would give none is refused before anything changes.
 bool keepsAnyCode(const Options &options);
+inline const QString kNoCodeLeftMessage =
+    QStringLiteral("屏蔽号码后没有可以生成的号码，请修改屏蔽号码。");
 
 }  // namespace numbergen

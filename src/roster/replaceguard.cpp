@@ -8,6 +8,7 @@
 #include <QSqlQuery>
 
 #include "core/store.h"
+#include "core/ui.h"
 #include "roster/rosterpage.h"
 
 namespace roster {
@@ -21,6 +22,9 @@ StoredRecords storedRecords(QSqlDatabase db) {
                                                     "length(replace(JxID, '|', ''))), 0) / 2 "
                                                     "FROM UserList WHERE JxID > ''"))
                        .toLongLong();
+    records.giveUps =
+        store::scalar(db, QStringLiteral("SELECT COUNT(*) FROM UserList WHERE UserStatus=1"))
+            .toLongLong();
     return records;
 }
 
@@ -33,10 +37,39 @@ QString replaceQuestion(const StoredRecords &records) {
 }
 
 QString resetQuestion(const StoredRecords &records) {
+    const QString giveUps =
+        records.giveUps > 0 ? QStringLiteral("和 %1 条弃奖记录").arg(records.giveUps) : QString();
     return QStringLiteral(
-               "将清除现有 %1 条中奖记录。清除前会在 History 文件夹保存一份名单快照。"
+               "将清除现有 %1 条中奖记录%2。清除前会在 History 文件夹保存一份名单快照。"
                "\n确认要清空所有中奖记录,复原至初始状态么?")
-        .arg(records.wins);
+        .arg(records.wins)
+        .arg(giveUps);
+}
+
+namespace {
+
+bool snapshotWritten(QSqlDatabase db, const QString &appPath) {
+    QString error;
+    if (!writeRosterSnapshot(db, appPath, QDateTime::currentDateTime(), &error).isEmpty())
+        return true;
+    ui().message(QStringLiteral("无法保存名单快照,名单未作任何改动。\n") + error,
+                 MsgStyle::Critical, titles::error);
+    return false;
+}
+
+}  // namespace
+
+bool confirmReplace(QSqlDatabase db, const QString &appPath, const QString &title) {
+    const StoredRecords records = storedRecords(db);
+    if (records.isEmpty()) return true;
+    return ui().question(replaceQuestion(records), title) && snapshotWritten(db, appPath);
+}
+
+ResetAnswer confirmReset(QSqlDatabase db, const QString &appPath) {
+    const StoredRecords records = storedRecords(db);
+    if (!records.hasDrawRecords()) return ResetAnswer::NothingRecorded;
+    if (!ui().question(resetQuestion(records), titles::warning)) return ResetAnswer::Refused;
+    return snapshotWritten(db, appPath) ? ResetAnswer::Confirmed : ResetAnswer::Refused;
 }
 
 bool importOpensOnAppend(QSqlDatabase db) {

@@ -10,8 +10,10 @@ namespace roster {
 
 struct StoredRecords {
     qint64 participants = 0;
-    qint64 wins = 0;  // (participant, award) pairs
+    qint64 wins = 0;     // (participant, award) pairs
+    qint64 giveUps = 0;  // participants who gave their prize up
     bool isEmpty() const { return participants == 0 && wins == 0; }
+    bool hasDrawRecords() const { return wins > 0 || giveUps > 0; }
 };
 
 StoredRecords storedRecords(QSqlDatabase db);
@@ -20,6 +22,15 @@ StoredRecords storedRecords(QSqlDatabase db);
 // of the wins; only to be asked when the records are not empty.
 QString replaceQuestion(const StoredRecords &records);
 QString resetQuestion(const StoredRecords &records);
+
+// Before a replace of the roster: when anything is stored, asks with replaceQuestion (under
+// title) and, on Yes, writes the snapshot. True when the replace may go on; a snapshot that
+// cannot be written is told and stops it.
+bool confirmReplace(QSqlDatabase db, const QString &appPath, const QString &title);
+
+// Before the one-key reset of the wins.
+enum class ResetAnswer { NothingRecorded, Confirmed, Refused };
+ResetAnswer confirmReset(QSqlDatabase db, const QString &appPath);
 
 // An import opens on "append" whenever someone is on the roster.
 bool importOpensOnAppend(QSqlDatabase db);

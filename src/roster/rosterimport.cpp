@@ -203,6 +203,8 @@ bool TxtImport::processItem(qint64 index, QString *error) {
         appendLog(QStringLiteral("\n重复数据：") + row.name + m_separator + row.part);
         return true;
     }
+    if (row.diffNumTooLarge)
+        appendLog(QStringLiteral("\n区分编号超出范围,记为0：第%1行").arg(index + 1));
     if (!writer().insert(row.name, row.part, row.photo, row.diffNum, error)) return false;
     ++m_imported;
     return true;
@@ -261,9 +263,13 @@ bool PhotoImport::processItem(qint64 index, QString *error) {
         default:
             break;
     }
-    if (QFile::exists(staged)) m_staged << newName;
-    if (!writer().insert(parsed.name, part, QStringLiteral("Photos/") + newName, 0, error))
-        return false;
+    // A picture that could not be settled leaves the row without one, never pointing nowhere.
+    QString photo;
+    if (QFile::exists(staged)) {
+        m_staged << newName;
+        photo = QStringLiteral("Photos/") + newName;
+    }
+    if (!writer().insert(parsed.name, part, photo, 0, error)) return false;
     ++m_imported;
     return true;
 }
@@ -293,7 +299,7 @@ NumberGeneration::NumberGeneration(const numbergen::Options &options, QObject *p
 
 bool NumberGeneration::canStart(QString *error) {
     if (numbergen::keepsAnyCode(m_options)) return true;
-    *error = QStringLiteral("屏蔽号码后没有可以生成的号码，请修改屏蔽号码。");
+    *error = numbergen::kNoCodeLeftMessage;
     return false;
 }
 

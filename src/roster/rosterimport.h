@@ -43,6 +43,8 @@ public:
     qint64 duplicates() const { return m_duplicates; }
     // Rows passed over because their name is blank after trimming.
     qint64 blankNames() const { return m_blanks; }
+    // Every row passed over that is not a duplicate: blank names, and unreadable lines of text.
+    virtual qint64 skipped() const { return m_blanks; }
     const QString &log() const { return m_log; }
 
 Q_SIGNALS:
@@ -119,6 +121,7 @@ public:
     static bool readLines(const QString &path, QStringList *lines, QString *error);
     // Lines passed over for a control or replacement character (each logged with its number).
     qint64 unreadableLines() const { return m_unreadable; }
+    qint64 skipped() const override { return m_blanks + m_unreadable; }
 
 protected:
     qint64 itemCount() const override { return m_lines.size(); }

@@ -150,6 +150,12 @@ bool isNumeric(const QString &text) {
     return ok;
 }
 
+bool diffNumFits(const QString &text) {
+    bool ok = false;
+    text.trimmed().toInt(&ok);
+    return ok || !isNumeric(text);
+}
+
 QString diffNumText(const QVariant &value) {
     if (value.isNull()) return QString();
     const QString text = value.toString();
@@ -208,12 +214,6 @@ bool deleteParticipants(QSqlDatabase db, const QList<int> &ids, QString *error) 
         return false;
     removeUnnamedPhotos(db, appState().appPath, photos);
     return true;
-}
-
-bool deleteParticipants(QSqlDatabase db, const QList<int> &ids, const QStringList &photos,
-                        QString *error) {
-    Q_UNUSED(photos);
-    return deleteParticipants(db, ids, error);
 }
 
 bool setDiffNum(QSqlDatabase db, const QList<int> &ids, int diffNum, QString *error) {

@@ -46,6 +46,10 @@ QColor statusColor(int status);
 // The distinction number as shown: empty when it is not a number.
 QString diffNumText(const QVariant &value);
 bool isNumeric(const QString &text);
+// Whether a typed distinction number fits the stored 32-bit value; a longer number is refused
+// with kDiffNumTooLarge rather than stored as 0.
+bool diffNumFits(const QString &text);
+inline const QString kDiffNumTooLarge = QStringLiteral("“区分编号”不能大于2147483647");
 
 bool loadParticipant(QSqlDatabase db, int id, Participant *participant);
 
@@ -53,9 +57,6 @@ bool loadParticipant(QSqlDatabase db, int id, Participant *participant);
 // row names (the store's own paths decide, never a list shown on screen); false with a message
 // on failure.
 bool deleteParticipants(QSqlDatabase db, const QList<int> &ids, QString *error);
-// The same; the photo list is not used any more.
-bool deleteParticipants(QSqlDatabase db, const QList<int> &ids, const QStringList &photos,
-                        QString *error);
 bool setDiffNum(QSqlDatabase db, const QList<int> &ids, int diffNum, QString *error);
 
 // The picture of an editor after a save. photoState is the hidden picture state: "no",

@@ -100,18 +100,21 @@ QStringList splitLines(const QString &text) {
     return lines;
 }
 
-int diffNumber(const QString &text) {
+int diffNumber(const QString &text, bool *tooLarge) {
     bool ok = false;
     const double value = text.trimmed().toDouble(&ok);
     if (!ok || !std::isfinite(value)) return 0;
-    if (value > std::numeric_limits<int>::max() || value < std::numeric_limits<int>::min())
+    if (value > std::numeric_limits<int>::max() || value < std::numeric_limits<int>::min()) {
+        if (tooLarge) *tooLarge = true;
         return 0;
+    }
     return static_cast<int>(std::lround(value));
 }
 
 TxtRow TxtLineParser::parse(const QString &line) {
     const QStringList fields = m_separator.isEmpty() ? QStringList{line} : line.split(m_separator);
     TxtRow row = m_last;
+    row.diffNumTooLarge = false;
     row.name = fields.at(0).trimmed();
     switch (fields.size()) {
         case 1:
@@ -130,7 +133,7 @@ TxtRow TxtLineParser::parse(const QString &line) {
         case 4:
             row.part = fields.at(1).trimmed();
             row.photo = fields.at(2).trimmed();
-            row.diffNum = diffNumber(fields.at(3));
+            row.diffNum = diffNumber(fields.at(3), &row.diffNumTooLarge);
             break;
         default:
             break;

@@ -25,6 +25,7 @@ struct TxtRow {
     QString part;
     QString photo;
     int diffNum = 0;
+    bool diffNumTooLarge = false;  // a number past 32 bits, stored as 0
 };
 
 // Turns lines into rows. Remark, photo and distinction number of a line that has no separator
@@ -40,7 +41,8 @@ private:
     TxtRow m_last;
 };
 
-// A distinction number typed as text: a number becomes a 32-bit integer, anything else 0.
-int diffNumber(const QString &text);
+// A distinction number typed as text: a number becomes a 32-bit integer, anything else 0;
+// tooLarge tells a number that does not fit.
+int diffNumber(const QString &text, bool *tooLarge = nullptr);
 
 }  // namespace textimport

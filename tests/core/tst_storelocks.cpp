@@ -1,6 +1,8 @@
-#include <QAbstractFileIconProvider>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
+#include <QFileSystemModel>
+#include <QPushButton>
 #include <QtTest>
 
 #include <sys/stat.h>
@@ -9,10 +11,13 @@
 
 #include "core/appstate.h"
 #include "core/store.h"
-#include "roster/replaceguard.h"
 #include "roster/rosterimport.h"
-#include "roster/rosterpage.h"
+#include "roster/view/rostermanagerdialog.h"
+#include "roster/view/textimportdialog.h"
 #include "roster/workbook.h"
+#include "support/childwidget.h"
+#include "support/recordingstage.h"
+#include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
 namespace {
@@ -49,7 +54,7 @@ private Q_SLOTS:
     void init();
     void cleanup() { m_folder.reset(); }
     void heldAfterImportAndExport();
-    void heldAfterListingTheProgramFolder();
+    void heldAfterAFileDialogShowsTheProgramFolder();
     void storeFilesAreNeverReadAsImports_data();
     void storeFilesAreNeverReadAsImports();
 
@@ -70,28 +75,44 @@ void TestStoreLocks::init() {
 }
 
 void TestStoreLocks::heldAfterImportAndExport() {
-    TxtImport job({QStringLiteral("丙,部门"), QStringLiteral("丁,部门")}, QStringLiteral(","),
-                  false);
-    QCOMPARE(job.runToEnd(), RosterImport::Outcome::Finished);
+    ScriptedUi *scripted = installScriptedUi();
+    installRecordingStages();
+    QTemporaryDir dir;
+    QFile text(dir.filePath(QStringLiteral("名单.txt")));
+    QVERIFY(text.open(QIODevice::WriteOnly));
+    text.write("丙,部门\n丁,部门\n");
+    text.close();
+    TextImportDialog import(text.fileName());
+    child<QPushButton>(import, "startButton")->click();
+    import.waitForJob();
     QVERIFY(holdsStoreLocks());
-    QString error;
-    QVERIFY(!roster::writeRosterSnapshot(m_folder->db(), appState().appPath,
-                                         QDateTime::currentDateTime(), &error)
-                 .isEmpty());
-    QVERIFY(roster::writeCsv(m_folder->path("record/名单.csv"), {{"甲"}}, &error));
+
+    RosterManagerDialog manager;
+    manager.showParticipants(QString(), 1);
+    scripted->files.enqueue(m_folder->path("record/名单.csv"));
+    child<QPushButton>(manager, "exportButton")->click();
+    QCOMPARE(scripted->last().text, QStringLiteral("导出完毕"));
     QVERIFY(holdsStoreLocks());
 }
 
-// What a file dialog's model does for each file of the program folder: an icon and a type.
-void TestStoreLocks::heldAfterListingTheProgramFolder() {
-    const QAbstractFileIconProvider provider;
-    const QFileInfoList files =
-        QDir(m_folder->path()).entryInfoList(QDir::Files | QDir::Hidden | QDir::System);
-    QVERIFY(files.size() > 3);
-    for (const QFileInfo &file : files) {
-        provider.icon(file);
-        provider.type(file);
-    }
+// A file dialog's model reads an icon and a type for each file of the folder it shows.
+void TestStoreLocks::heldAfterAFileDialogShowsTheProgramFolder() {
+    QFileDialog dialog(nullptr, QStringLiteral("导入Txt文件"), m_folder->path());
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setFilter(QDir::AllEntries | QDir::Hidden | QDir::System);
+    auto *model = dialog.findChild<QFileSystemModel *>();
+    QVERIFY(model);
+    QSignalSpy loaded(model, &QFileSystemModel::directoryLoaded);
+    dialog.show();
+    QVERIFY(loaded.count() > 0 || loaded.wait());
+    const QModelIndex folder = model->index(m_folder->path());
+    QTRY_VERIFY(model->rowCount(folder) > 3);
+    const auto everyTypeKnown = [&] {
+        for (int row = 0; row < model->rowCount(folder); ++row)
+            if (model->index(row, 2, folder).data().toString().isEmpty()) return false;
+        return true;
+    };
+    QTRY_VERIFY(everyTypeKnown());
     QVERIFY(holdsStoreLocks());
 }
 

@@ -1,5 +1,6 @@
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QDir>
 #include <QGroupBox>
 #include <QImage>
 #include <QLabel>
@@ -15,6 +16,7 @@
 #include <QtTest>
 
 #include "core/store.h"
+#include "roster/replaceguard.h"
 #include "roster/view/excelimportdialog.h"
 #include "roster/view/numbergeneratordialog.h"
 #include "roster/view/photoimportdialog.h"
@@ -30,7 +32,7 @@ QString fixture(const QString &name) {
     return QStringLiteral(QUELLIO_SOURCE_DIR "/tests/roster/fixtures/") + name;
 }
 
-QStringList roster(QSqlDatabase db) {
+QStringList rosterRows(QSqlDatabase db) {
     QSqlQuery query(QStringLiteral("SELECT ID || '|' || UserName || '|' || ifnull(UserPart, '') || "
                                    "'|' || DiffNum FROM UserList ORDER BY ID"),
                     db);
@@ -88,6 +90,10 @@ private Q_SLOTS:
     void numberToolsPreviewAndQuestion();
     void blankFileChoiceStops();
     void dialogDestroyedMidwayRollsBack();
+    void failedSheetCannotBeImported();
+    void cancelledSheetReadLeavesNothing();
+    void emptyRosterOpensOnReplaceWithoutQuestion();
+    void refusedMaskOrJobKeepsDialogUsable();
 };
 
 void TestImportDialogs::excelPreviewAndImport_data() {
@@ -104,6 +110,7 @@ void TestImportDialogs::excelPreviewAndImport() {
     folder.addUsers({"旧人"});
     ScriptedUi *scripted = installScriptedUi();
     ExcelImportDialog form(fixture(file));
+    form.waitForSheet();
     auto *sheets = child<QListWidget>(form, "sheetList");
     auto *columns = child<QTreeWidget>(form, "columnList");
     auto *preview = child<QTreeWidget>(form, "previewList");
@@ -124,8 +131,13 @@ void TestImportDialogs::excelPreviewAndImport() {
     QCOMPARE(preview->topLevelItem(3)->text(1), QStringLiteral("以下省略更多内容..."));
 
     sheets->setCurrentRow(1);
+    form.waitForSheet();
     QCOMPARE(columns->topLevelItemCount(), 2);
     columns->topLevelItem(0)->setCheckState(0, Qt::Checked);
+    // Someone is on the roster: the dialog opened on append, and a replace asks first.
+    QVERIFY(child<QRadioButton>(form, "appendButton")->isChecked());
+    child<QRadioButton>(form, "replaceButton")->setChecked(true);
+    scripted->answers.enqueue(true);
     start->click();
     QVERIFY(form.isImporting());
     QVERIFY(!sheets->isEnabled());
@@ -135,8 +147,10 @@ void TestImportDialogs::excelPreviewAndImport() {
     QCOMPARE(logText(form, "duplicatesEdit"), QStringLiteral("重复数据：陈七"));
     QVERIFY(!button(form, "okButton")->isHidden());
     QVERIFY(start->isHidden());
-    QCOMPARE(roster(folder.db()), (QStringList{"1|陈七|行政部|0", "2|周八|客服部|0"}));
-    QCOMPARE(scripted->records.size(), 0);
+    QCOMPARE(rosterRows(folder.db()), (QStringList{"1|陈七|行政部|0", "2|周八|客服部|0"}));
+    QCOMPARE(scripted->texts(),
+             QStringList{roster::replaceQuestion(roster::StoredRecords{1, 0, 0})});
+    QCOMPARE(QDir(folder.path("History")).entryList({"名单快照*.csv"}).size(), 1);
 }
 
 void TestImportDialogs::excelWarnsAboutWideSheets() {
@@ -144,6 +158,7 @@ void TestImportDialogs::excelWarnsAboutWideSheets() {
     QVERIFY(folder.start());
     ScriptedUi *scripted = installScriptedUi();
     ExcelImportDialog form(fixture(QStringLiteral("wide.xlsx")));
+    form.waitForSheet();
     QCOMPARE(scripted->last().text,
              QStringLiteral("Excel中存在过多的列，这样会导致导入速度十分缓慢\n"
                             "建议您修改Excel文件删除无用列再进行导入！"));
@@ -165,7 +180,7 @@ void TestImportDialogs::unreadableFilesEndInError() {
     TempProgramFolder folder;
     QVERIFY(folder.start());
     folder.addUsers({"甲|一部|3"});
-    const QStringList before = roster(folder.db());
+    const QStringList before = rosterRows(folder.db());
     ScriptedUi *scripted = installScriptedUi();
     if (excel) {
         ExcelImportDialog form(fixture(file));
@@ -181,7 +196,7 @@ void TestImportDialogs::unreadableFilesEndInError() {
     QCOMPARE(scripted->last().title, QStringLiteral("错误"));
     QCOMPARE(scripted->last().style, MsgStyle::Critical);
     QVERIFY(!scripted->last().text.isEmpty());
-    QCOMPARE(roster(folder.db()), before);
+    QCOMPARE(rosterRows(folder.db()), before);
 }
 
 void TestImportDialogs::excelTemplateOpensDemo() {
@@ -189,6 +204,7 @@ void TestImportDialogs::excelTemplateOpensDemo() {
     QVERIFY(folder.start());
     ScriptedUi *scripted = installScriptedUi();
     ExcelImportDialog form(folder.path("demo.xlsx"));
+    form.waitForSheet();
     QCOMPARE(child<QListWidget>(form, "sheetList")->item(0)->text(), QStringLiteral("抽奖名单"));
     button(form, "templateButton")->click();
     QCOMPARE(scripted->openedUrls.size(), 1);
@@ -202,14 +218,13 @@ void TestImportDialogs::textImportShowsResult() {
     installScriptedUi();
     TextImportDialog form(fixture(QStringLiteral("utf16le-crlf.txt")));
     QCOMPARE(edit(form, "separatorEdit")->text(), QStringLiteral(","));
-    QVERIFY(child<QRadioButton>(form, "replaceButton")->isChecked());
-    child<QRadioButton>(form, "appendButton")->setChecked(true);
+    QVERIFY(child<QRadioButton>(form, "appendButton")->isChecked());
     button(form, "startButton")->click();
     form.waitForJob();
     QCOMPARE(labelText(form, "resultLabel"), QStringLiteral("共导入数据4条，屏蔽重复数据1条"));
     QCOMPARE(logText(form, "duplicatesEdit"), QStringLiteral("重复数据：张三,研发部"));
-    QCOMPARE(roster(folder.db()).size(), 5);
-    QCOMPARE(roster(folder.db()).first(), QStringLiteral("1|旧人||0"));
+    QCOMPARE(rosterRows(folder.db()).size(), 5);
+    QCOMPARE(rosterRows(folder.db()).first(), QStringLiteral("1|旧人||0"));
 }
 
 void TestImportDialogs::closeDuringImportAsks_data() {
@@ -223,7 +238,7 @@ void TestImportDialogs::closeDuringImportAsks() {
     TempProgramFolder folder;
     QVERIFY(folder.start());
     folder.addUsers({"甲|一部|3"});
-    const QStringList before = roster(folder.db());
+    const QStringList before = rosterRows(folder.db());
     ScriptedUi *scripted = installScriptedUi();
     NumberGeneratorDialog form;
     edit(form, "endEdit")->setText(QStringLiteral("99999"));
@@ -237,12 +252,12 @@ void TestImportDialogs::closeDuringImportAsks() {
     QCOMPARE(scripted->last().title, QStringLiteral("提示"));
     if (yes) {
         QVERIFY(!form.isImporting());
-        QCOMPARE(roster(folder.db()), before);
+        QCOMPARE(rosterRows(folder.db()), before);
         return;
     }
     form.waitForJob();
     QCOMPARE(labelText(form, "resultLabel"), QStringLiteral("共导入99999条，屏蔽0条"));
-    QCOMPARE(roster(folder.db()).size(), 99999);
+    QCOMPARE(rosterRows(folder.db()).size(), 99999);
 }
 
 void TestImportDialogs::photoDialogFlow() {
@@ -266,7 +281,7 @@ void TestImportDialogs::photoDialogFlow() {
     button(form, "startButton")->click();
     form.waitForJob();
     QCOMPARE(logText(form, "logEdit"), QStringLiteral("导入名单2条\n重复0条,请点确定按钮刷新"));
-    QCOMPARE(roster(folder.db()), (QStringList{"1|张三|宣传部 |0", "2|李四| |0"}));
+    QCOMPARE(rosterRows(folder.db()), (QStringList{"1|张三|宣传部 |0", "2|李四| |0"}));
     QCOMPARE(QImage(folder.path("Photos/U1.jpg")).size(), QSize(500, 375));
 }
 
@@ -287,10 +302,9 @@ void TestImportDialogs::numberToolsPreviewAndQuestion() {
     QPushButton *start = button(form, "startButton");
     scripted->answers.enqueue(false);
     start->click();
-    QCOMPARE(scripted->last().text,
-             QStringLiteral("生成数字编号将会完全覆盖原来名单\n您确认要生成编号么？"));
+    QCOMPARE(scripted->last().text, roster::replaceQuestion(roster::StoredRecords{1, 0, 0}));
     QCOMPARE(scripted->last().title, QStringLiteral("重要提示"));
-    QCOMPARE(roster(folder.db()), QStringList{"1|甲||0"});
+    QCOMPARE(rosterRows(folder.db()), QStringList{"1|甲||0"});
     scripted->answers.enqueue(true);
     start->click();
     QPushButton *ok = button(form, "okButton");
@@ -300,7 +314,7 @@ void TestImportDialogs::numberToolsPreviewAndQuestion() {
     QVERIFY(logText(form, "maskedCodesEdit")
                 .startsWith(QStringLiteral("屏蔽数据如下：\nST004E\nST013E\n")));
     QVERIFY(ok->isEnabled());
-    QCOMPARE(roster(folder.db()).first(), QStringLiteral("1|ST001E||0"));
+    QCOMPARE(rosterRows(folder.db()).first(), QStringLiteral("1|ST001E||0"));
 }
 
 void TestImportDialogs::blankFileChoiceStops() {
@@ -318,7 +332,7 @@ void TestImportDialogs::dialogDestroyedMidwayRollsBack() {
     TempProgramFolder folder;
     QVERIFY(folder.start());
     folder.addUsers({"甲|一部|3"});
-    const QStringList before = roster(folder.db());
+    const QStringList before = rosterRows(folder.db());
     ScriptedUi *scripted = installScriptedUi();
     auto form = std::make_unique<NumberGeneratorDialog>();
     edit(*form, "endEdit")->setText(QStringLiteral("99999"));
@@ -326,7 +340,70 @@ void TestImportDialogs::dialogDestroyedMidwayRollsBack() {
     button(*form, "startButton")->click();
     QTRY_VERIFY(child<QProgressBar>(*form, "progressBar")->value() > 0);
     form.reset();
-    QCOMPARE(roster(folder.db()), before);
+    QCOMPARE(rosterRows(folder.db()), before);
+}
+
+void TestImportDialogs::failedSheetCannotBeImported() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    ScriptedUi *scripted = installScriptedUi();
+    ExcelImportDialog form(fixture(QStringLiteral("half-broken.xlsx")));
+    form.waitForSheet();
+    auto *columns = child<QTreeWidget>(form, "columnList");
+    columns->topLevelItem(0)->setCheckState(0, Qt::Checked);
+    QVERIFY(button(form, "startButton")->isEnabled());
+    child<QListWidget>(form, "sheetList")->setCurrentRow(1);
+    form.waitForSheet();
+    QCOMPARE(scripted->last().title, QStringLiteral("错误"));
+    QCOMPARE(columns->topLevelItemCount(), 0);
+    QVERIFY(!button(form, "startButton")->isEnabled());
+}
+
+void TestImportDialogs::cancelledSheetReadLeavesNothing() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    installScriptedUi();
+    ExcelImportDialog form(fixture(QStringLiteral("libreoffice.xlsx")));
+    QVERIFY(form.isReadingSheet());
+    QVERIFY(!child<QProgressBar>(form, "progressBar")->isHidden());
+    child<QPushButton>(form, "cancelButton")->click();
+    QVERIFY(!form.isReadingSheet());
+    QCOMPARE(child<QTreeWidget>(form, "columnList")->topLevelItemCount(), 0);
+    QVERIFY(!button(form, "startButton")->isEnabled());
+}
+
+void TestImportDialogs::emptyRosterOpensOnReplaceWithoutQuestion() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    ScriptedUi *scripted = installScriptedUi();
+    TextImportDialog form(fixture(QStringLiteral("utf8-lf.txt")));
+    QVERIFY(child<QRadioButton>(form, "replaceButton")->isChecked());
+    button(form, "startButton")->click();
+    form.waitForJob();
+    QVERIFY(scripted->records.isEmpty());
+    QVERIFY(!rosterRows(folder.db()).isEmpty());
+}
+
+void TestImportDialogs::refusedMaskOrJobKeepsDialogUsable() {
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    folder.addUsers({"甲"});
+    ScriptedUi *scripted = installScriptedUi();
+    NumberGeneratorDialog form;
+    edit(form, "maskEdit")->setText(QStringLiteral("0, 1"));
+    button(form, "startButton")->click();
+    QCOMPARE(scripted->texts(), QStringList{numbergen::kNoCodeLeftMessage});
+    QVERIFY(!button(form, "startButton")->isHidden());
+    // A store that refuses the transaction: the job cannot start, the dialog stays usable.
+    edit(form, "maskEdit")->clear();
+    QVERIFY(folder.db().transaction());
+    scripted->answers.enqueue(true);
+    button(form, "startButton")->click();
+    QVERIFY(!form.isImporting());
+    QVERIFY(!button(form, "startButton")->isHidden());
+    QVERIFY(button(form, "startButton")->isEnabled());
+    QVERIFY(folder.db().rollback());
+    QCOMPARE(rosterRows(folder.db()), QStringList{"1|甲||0"});
 }
 
 QTEST_MAIN(TestImportDialogs)

@@ -26,13 +26,17 @@ void TestReplaceGuard::countsParticipantsAndWins() {
                         {ids[0]}));
     QVERIFY(store::exec(folder.db(), "UPDATE UserList SET JxID='|2|', UserStatus=3 WHERE ID=?",
                         {ids[1]}));
+    QVERIFY(store::exec(folder.db(), "UPDATE UserList SET JxID='无', UserStatus=1 WHERE ID=?",
+                        {ids[2]}));
     const roster::StoredRecords records = roster::storedRecords(folder.db());
     QCOMPARE(records.participants, 3);
     QCOMPARE(records.wins, 3);
+    QCOMPARE(records.giveUps, 1);
     QVERIFY(roster::importOpensOnAppend(folder.db()));
     QVERIFY(roster::replaceQuestion(records).startsWith(
         QStringLiteral("将删除现有 3 名参与者和 3 条中奖记录")));
-    QVERIFY(roster::resetQuestion(records).contains(QStringLiteral("3 条中奖记录")));
+    QVERIFY(roster::resetQuestion(records).startsWith(
+        QStringLiteral("将清除现有 3 条中奖记录和 1 条弃奖记录。")));
 }
 
 void TestReplaceGuard::snapshotHoldsEveryParticipantAndNeverOverwrites() {

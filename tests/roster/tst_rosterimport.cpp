@@ -1,11 +1,13 @@
 #include <QFile>
 #include <QImage>
+#include <QImageReader>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QTimer>
 #include <QtTest>
 
 #include "core/appstate.h"
+#include "core/store.h"
 #include "roster/numbergen.h"
 #include "roster/photoimport.h"
 #include "roster/rosterimport.h"
@@ -132,6 +134,8 @@ void TestRosterImport::lineFields_data() {
         << "" << QStringList{"a,b"} << QStringList{"a,b", "", "", "0"};
     QTest::newRow("number not numeric")
         << "," << QStringList{"a,b,c,x"} << QStringList{"a", "b", "c", "0"};
+    QTest::newRow("number past 32 bits is told")  // "!": stored as 0, and the log says so
+        << "," << QStringList{"a,b,c,12345678901"} << QStringList{"a", "b", "c", "0!"};
     QTest::newRow("apostrophe kept")
         << "|" << QStringList{"O'Brien|外联部"} << QStringList{"O'Brien", "外联部", "", "0"};
 }
@@ -144,7 +148,8 @@ void TestRosterImport::lineFields() {
     textimport::TxtRow row;
     for (const QString &line : lines)
         row = parser.parse(line);
-    QCOMPARE((QStringList{row.name, row.part, row.photo, QString::number(row.diffNum)}), rows);
+    const QString diff = QString::number(row.diffNum) + (row.diffNumTooLarge ? "!" : "");
+    QCOMPARE((QStringList{row.name, row.part, row.photo, diff}), rows);
 }
 
 void TestRosterImport::codes_data() {
@@ -318,6 +323,15 @@ void TestRosterImport::settlesPictures() {
     QCOMPARE(photoimport::settlePicture(wide, dir.filePath("D.bmp"), false, 8), Settled::Copied);
     QCOMPARE(photoimport::settlePicture(dir.filePath("none.jpg"), dir.filePath("E.jpg"), true, 8),
              Settled::Failed);
+    // A photo too big to decode whole under the reader's limit is decoded at the new size.
+    const QString big = dir.filePath(QStringLiteral("big.jpg"));
+    writeImage(big, 1600, 1200);
+    const int limit = QImageReader::allocationLimit();
+    QImageReader::setAllocationLimit(1);  // MB: the full picture needs 7.5
+    const Settled settled = photoimport::settlePicture(big, dir.filePath("F.jpg"), true, 4);
+    QImageReader::setAllocationLimit(limit);
+    QCOMPARE(settled, Settled::Shrunk);
+    QCOMPARE(QImage(dir.filePath("F.jpg")).size(), QSize(400, 300));
 }
 
 void TestRosterImport::excelImportMergesAndRefusesDuplicates() {
@@ -402,16 +416,24 @@ void TestRosterImport::photoImportStagesPictures() {
     writeImage(a.filePath(QStringLiteral("张三,宣传部.jpg")), 1000, 500);
     writeImage(a.filePath(QStringLiteral("李四.png")), 900, 900);
     writeImage(b.filePath(QStringLiteral("张三,宣传部.jpg")), 20, 20);
+    QFile broken(a.filePath(QStringLiteral("赵六.jpg")));
+    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no picture") > 0);
+    broken.close();
     PhotoImport job(
         {a.filePath(QStringLiteral("张三,宣传部.jpg")), a.filePath(QStringLiteral("李四.png")),
-         b.filePath(QStringLiteral("张三,宣传部.jpg"))},
+         b.filePath(QStringLiteral("张三,宣传部.jpg")), broken.fileName()},
         true, 8, true);
     QCOMPARE(job.runToEnd(), RosterImport::Outcome::Finished);
-    QCOMPARE(job.imported(), 2);
+    QCOMPARE(job.imported(), 3);
     QCOMPARE(job.duplicates(), 1);
     QVERIFY(job.log().contains(QStringLiteral("PNG不支持压缩∶")));
     QVERIFY(job.log().contains(QStringLiteral("重复图片∶")));
-    QCOMPARE(names(folder.db()), (QStringList{"张三/宣传部 ", "李四/ "}));
+    QVERIFY(job.log().contains(QStringLiteral("压缩失败∶")));
+    QCOMPARE(names(folder.db()), (QStringList{"张三/宣传部 ", "李四/ ", "赵六/ "}));
+    // The picture that failed is not pointed at.
+    QCOMPARE(store::scalar(folder.db(), "SELECT UserPhoto FROM UserList WHERE UserName='赵六'")
+                 .toString(),
+             QString());
     QCOMPARE(QImage(folder.path("Photos/U1.jpg")).size(), QSize(800, 400));
     QCOMPARE(QImage(folder.path("Photos/U2.png")).size(), QSize(900, 900));
     QCOMPARE(

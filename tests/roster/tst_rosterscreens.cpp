@@ -158,6 +158,7 @@ void TestRosterScreens::excelImport() {
     Shots shots;
     QTemporaryDir dir;
     ExcelImportDialog form(fixture(QStringLiteral("libreoffice.xlsx")));
+    form.waitForSheet();
     child<QTreeWidget>(form, "columnList")->topLevelItem(1)->setCheckState(0, Qt::Checked);
     child<QCheckBox>(form, "headerRowBox")->setChecked(true);
     shots.take(form, QStringLiteral("import-excel-preview"));
@@ -171,6 +172,7 @@ void TestRosterScreens::excelImport() {
     const QString bigFile = dir.filePath(QStringLiteral("big.xlsx"));
     QVERIFY(testxlsx::write(bigFile, QStringLiteral("全体员工"), rows));
     ExcelImportDialog big(bigFile);
+    big.waitForSheet();
     child<QTreeWidget>(big, "columnList")->topLevelItem(0)->setCheckState(0, Qt::Checked);
     child<QCheckBox>(big, "headerRowBox")->setChecked(true);
     child<QPushButton>(big, "startButton")->click();

@@ -77,8 +77,13 @@ void AddParticipantDialog::addParticipant() {
                      QStringLiteral("新增失败"));
         return;
     }
-    const int id = store::getNextID(QStringLiteral("UserList"), QStringLiteral("ID"));
     const QString diff = m_diffNumEdit->text().trimmed();
+    if (!roster::diffNumFits(diff)) {
+        ui().message(roster::kDiffNumTooLarge, MsgStyle::Exclamation, titles::warning);
+        m_diffNumEdit->setFocus();
+        return;
+    }
+    const int id = store::getNextID(QStringLiteral("UserList"), QStringLiteral("ID"));
     const int diffNum = roster::isNumeric(diff) ? diff.toInt() : 0;
     const QString photo = roster::settlePhoto(id, m_photoStateEdit->text(), QString());
     QString error;

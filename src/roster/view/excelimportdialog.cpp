@@ -1,6 +1,7 @@
 #include "roster/view/excelimportdialog.h"
 
 #include <QCheckBox>
+#include <QEventLoop>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -38,8 +39,10 @@ ExcelImportDialog::ExcelImportDialog(const QString &path, QWidget *parent)
     m_separatorEdit->setMaxLength(3);
     m_separatorEdit->setFixedWidth(60);
     m_appendButton = new QRadioButton(QStringLiteral("导入的名单追加到原有名单之后"), this);
+    m_appendButton->setObjectName(QStringLiteral("appendButton"));
     m_replaceButton = new QRadioButton(QStringLiteral("完全替换原有名单"), this);
-    m_replaceButton->setChecked(true);
+    m_replaceButton->setObjectName(QStringLiteral("replaceButton"));
+    checkDefaultMode(m_appendButton, m_replaceButton);
     m_previewBox = new QGroupBox(QStringLiteral("导入后信息样式（演示前3条记录）"), this);
     m_previewBox->setObjectName(QStringLiteral("previewBox"));
     m_previewList = new QTreeWidget(m_previewBox);
@@ -60,6 +63,7 @@ ExcelImportDialog::ExcelImportDialog(const QString &path, QWidget *parent)
     m_startButton = new QPushButton(QStringLiteral("开始导入"), this);
     m_startButton->setObjectName(QStringLiteral("startButton"));
     m_cancelButton = new QPushButton(QStringLiteral("取消"), this);
+    m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
     m_okButton = new QPushButton(QStringLiteral("确定"), this);
     m_okButton->setObjectName(QStringLiteral("okButton"));
     m_okButton->hide();
@@ -73,7 +77,12 @@ ExcelImportDialog::ExcelImportDialog(const QString &path, QWidget *parent)
     connect(m_headerRowBox, &QCheckBox::toggled, this, &ExcelImportDialog::preview);
     connect(m_separatorEdit, &QLineEdit::textChanged, this, &ExcelImportDialog::preview);
     connect(m_startButton, &QPushButton::clicked, this, &ExcelImportDialog::startImport);
-    connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_cancelButton, &QPushButton::clicked, this, [this] {
+        if (isReadingSheet())
+            cancelRead();
+        else
+            reject();
+    });
     connect(m_okButton, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_templateButton, &QPushButton::clicked, this, [] {
         const QUrl demo = QUrl::fromLocalFile(appState().path(QStringLiteral("demo.xlsx")));
@@ -133,17 +142,82 @@ void ExcelImportDialog::openWorkbook(const QString &path) {
     }
 }
 
+ExcelImportDialog::~ExcelImportDialog() {
+    cancelRead();
+}
+
 void ExcelImportDialog::chooseSheet(int index) {
+    cancelRead();
+    // Whatever was read before goes first: a sheet that fails must leave nothing to import.
+    m_sheet = workbook::Sheet();
+    m_columnList->clear();
+    m_previewList->clear();
+    m_startButton->setEnabled(false);
     if (index < 0) return;
-    QString error;
-    if (!m_book.readSheet(index, -1, &m_sheet, &error)) {
-        ui().message(error, MsgStyle::Critical, titles::error);
+    m_readSheet = workbook::Sheet();
+    m_readError.clear();
+    m_readOk = false;
+    m_cancelRead = false;
+    const int generation = ++m_readGeneration;
+    workbook::ReadControl control;
+    control.cancel = &m_cancelRead;
+    control.progress = [this, generation](qint64 done, qint64 total) {
+        QMetaObject::invokeMethod(
+            this,
+            [this, generation, done, total] {
+                if (generation == m_readGeneration && total > 0)
+                    progressBar()->setValue(static_cast<int>(done * 1000 / total));
+            },
+            Qt::QueuedConnection);
+    };
+    m_readThread.reset(QThread::create([this, index, control] {
+        m_readOk = m_book.readSheet(index, -1, &m_readSheet, &m_readError, control);
+    }));
+    connect(m_readThread.get(), &QThread::finished, this, [this, generation] {
+        if (generation == m_readGeneration) sheetRead();
+    });
+    progressBar()->setRange(0, 1000);
+    progressBar()->setValue(0);
+    progressBar()->show();
+    m_readThread->start();
+}
+
+void ExcelImportDialog::cancelRead() {
+    if (!m_readThread) return;
+    ++m_readGeneration;  // a finish already on its way is stale
+    m_cancelRead = true;
+    m_readThread->wait();
+    m_readThread.reset();
+    progressBar()->hide();
+}
+
+void ExcelImportDialog::waitForSheet() {
+    if (!isReadingSheet()) return;
+    QEventLoop loop;
+    connect(this, &ExcelImportDialog::sheetReadFinished, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+void ExcelImportDialog::sheetRead() {
+    m_readThread->wait();
+    m_readThread.reset();
+    progressBar()->hide();
+    if (!m_readOk) {
+        if (!m_readError.isEmpty()) ui().message(m_readError, MsgStyle::Critical, titles::error);
+        emit sheetReadFinished(false);
         return;
     }
+    m_sheet = std::move(m_readSheet);
+    m_readSheet = workbook::Sheet();
     if (m_sheet.columns > 10)
         ui().message(QStringLiteral("Excel中存在过多的列，这样会导致导入速度十分缓慢\n"
                                     "建议您修改Excel文件删除无用列再进行导入！"),
                      MsgStyle::Exclamation, titles::warning);
+    listColumns();
+    emit sheetReadFinished(true);
+}
+
+void ExcelImportDialog::listColumns() {
     const QSignalBlocker blocker(m_columnList);
     m_columnList->clear();
     for (int column = 0; column < m_sheet.columns; ++column) {
@@ -152,8 +226,6 @@ void ExcelImportDialog::chooseSheet(int index) {
         item->setText(1, QStringLiteral("F%1").arg(column + 1));
         item->setData(0, Qt::UserRole, QStringLiteral("K%1").arg(column));
     }
-    m_previewList->clear();
-    m_startButton->setEnabled(false);
 }
 
 QList<bool> ExcelImportDialog::nameColumns() const {
@@ -191,6 +263,7 @@ void ExcelImportDialog::setInputsEnabled(bool enabled) {
 }
 
 void ExcelImportDialog::startImport() {
+    if (m_replaceButton->isChecked() && !confirmReplace()) return;
     setInputsEnabled(false);
     if (!runJob(std::make_unique<ExcelImport>(m_sheet.rows, nameColumns(), m_separatorEdit->text(),
                                               m_headerRowBox->isChecked(),
@@ -209,9 +282,7 @@ void ExcelImportDialog::jobFinished(RosterImport::Outcome outcome) {
         m_previewList->hide();
     }
     if (job()->duplicates() > 0) m_previewBox->setTitle(QStringLiteral("重复数据"));
-    m_resultLabel->setText(QStringLiteral("共导入数据%1条，屏蔽重复数据%2条")
-                               .arg(job()->imported())
-                               .arg(job()->duplicates()));
+    m_resultLabel->setText(resultText());
     m_resultLabel->show();
     m_okButton->show();
     m_startButton->hide();

@@ -1,5 +1,10 @@
 #pragma once
 
+#include <QThread>
+
+#include <atomic>
+#include <memory>
+
 #include "roster/view/importdialog.h"
 #include "roster/workbook.h"
 
@@ -19,6 +24,16 @@ class ExcelImportDialog : public ImportDialog {
     Q_OBJECT
 public:
     explicit ExcelImportDialog(const QString &path, QWidget *parent = nullptr);
+    ~ExcelImportDialog() override;
+
+    bool isReadingSheet() const { return m_readThread != nullptr; }
+    // Waits on the event loop until the sheet being read is there (tests, screenshots).
+    void waitForSheet();
+
+Q_SIGNALS:
+    // A chosen sheet has been read (ok) or failed or was cancelled; only a read sheet can be
+    // imported.
+    void sheetReadFinished(bool ok);
 
 protected:
     void jobFinished(RosterImport::Outcome outcome) override;
@@ -26,7 +41,12 @@ protected:
 private:
     void buildLayout();
     void openWorkbook(const QString &path);
+    // Reads the chosen sheet on a worker thread; the dialog keeps answering, shows the progress
+    // and can cancel.
     void chooseSheet(int index);
+    void sheetRead();
+    void cancelRead();
+    void listColumns();
     void preview();
     void startImport();
     QList<bool> nameColumns() const;
@@ -51,4 +71,12 @@ private:
 
     workbook::Workbook m_book;
     workbook::Sheet m_sheet;
+
+    // The read in progress: the worker alone writes the three results until it has finished.
+    std::unique_ptr<QThread> m_readThread;
+    std::atomic_bool m_cancelRead{false};
+    int m_readGeneration = 0;
+    workbook::Sheet m_readSheet;
+    QString m_readError;
+    bool m_readOk = false;
 };

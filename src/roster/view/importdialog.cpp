@@ -3,9 +3,13 @@
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QProgressBar>
+#include <QRadioButton>
 
+#include "core/appstate.h"
 #include "core/events.h"
+#include "core/store.h"
 #include "core/ui.h"
+#include "roster/replaceguard.h"
 
 ImportDialog::ImportDialog(const QString &closeQuestion, QWidget *parent)
     : QDialog(parent), m_closeQuestion(closeQuestion) {
@@ -78,4 +82,24 @@ void ImportDialog::reject() {
         close();
     else
         QDialog::reject();
+}
+
+void ImportDialog::checkDefaultMode(QRadioButton *append, QRadioButton *replace) {
+    if (roster::importOpensOnAppend(store::mainConn()))
+        append->setChecked(true);
+    else
+        replace->setChecked(true);
+}
+
+bool ImportDialog::confirmReplace(const QString &title) {
+    return roster::confirmReplace(store::mainConn(), appState().appPath, title);
+}
+
+QString ImportDialog::resultText() const {
+    QString text = QStringLiteral("共导入数据%1条，屏蔽重复数据%2条")
+                       .arg(m_job->imported())
+                       .arg(m_job->duplicates());
+    if (m_job->skipped() > 0)
+        text += QStringLiteral("，跳过空白或无法识别的数据%1条").arg(m_job->skipped());
+    return text;
 }

@@ -3,9 +3,11 @@
 #include <QDialog>
 #include <memory>
 
+#include "core/ui.h"
 #include "roster/rosterimport.h"
 
 class QProgressBar;
+class QRadioButton;
 
 // What the four bulk imports share: the job on the event loop, the progress bar, and the close
 // question while the job runs (Yes cancels it, and the roster stays as it was before).
@@ -30,6 +32,13 @@ protected:
     void reject() override;
     // The message of a failed job, in a box titled "错误".
     void showFailure(const QString &text);
+    // "共导入数据N条，屏蔽重复数据M条", and how many rows were passed over when any were.
+    QString resultText() const;
+    // Checks "append" when someone is on the roster, else "replace": a late import during the
+    // party must not wipe the evening's results by default.
+    static void checkDefaultMode(QRadioButton *append, QRadioButton *replace);
+    // Before a replace: asks with what would go and writes the snapshot; false stops the job.
+    static bool confirmReplace(const QString &title = titles::notice);
 
 private:
     QProgressBar *m_progressBar = nullptr;

@@ -12,7 +12,9 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include "core/store.h"
 #include "core/ui.h"
+#include "roster/replaceguard.h"
 #include "roster/view/editorparts.h"
 
 namespace {
@@ -142,30 +144,48 @@ bool NumberGeneratorDialog::showSample() {
     return true;
 }
 
+bool NumberGeneratorDialog::confirmGenerating() {
+    if (!numbergen::keepsAnyCode(options())) {
+        ui().message(numbergen::kNoCodeLeftMessage,
+                     MsgStyle::Exclamation, titles::warning);
+        m_maskEdit->setFocus();
+        return false;
+    }
+    const QString title = QStringLiteral("重要提示");
+    if (roster::storedRecords(store::mainConn()).isEmpty())
+        return ui().question(
+            QStringLiteral("生成数字编号将会完全覆盖原来名单\n您确认要生成编号么？"), title);
+    return confirmReplace(title);
+}
+
+void NumberGeneratorDialog::showGenerating(bool generating) {
+    for (QWidget *w : QList<QWidget *>{m_prefixEdit, m_suffixEdit, m_startEdit, m_endEdit, m_padBox,
+                                       m_maskEdit})
+        w->setEnabled(!generating);
+    m_padEdit->setEnabled(!generating && m_padBox->isChecked());
+    m_startButton->setVisible(!generating);
+    m_cancelButton->setVisible(!generating);
+    m_okButton->setVisible(generating);
+    m_okButton->setEnabled(false);
+    m_progressPanel->setVisible(generating);
+}
+
 void NumberGeneratorDialog::startGenerating() {
     if (numbergen::previewText(options()).isEmpty()) {
         showSample();
         return;
     }
-    if (!ui().question(QStringLiteral("生成数字编号将会完全覆盖原来名单\n您确认要生成编号么？"),
-                       QStringLiteral("重要提示")))
-        return;
-    for (QWidget *w : QList<QWidget *>{m_prefixEdit, m_suffixEdit, m_startEdit, m_endEdit, m_padBox,
-                                       m_padEdit, m_maskEdit})
-        w->setEnabled(false);
-    m_startButton->hide();
-    m_cancelButton->hide();
-    m_okButton->show();
-    m_okButton->setEnabled(false);
+    if (!confirmGenerating()) return;
+    showGenerating(true);
     m_maskedCodesEdit->setPlainText(kMaskedHeading);
-    m_progressPanel->show();
     auto generation = std::make_unique<NumberGeneration>(options());
     connect(generation.get(), &RosterImport::progress, this, [this] {
         showMaskedCodes();
         m_maskedCodesEdit->verticalScrollBar()->setValue(
             m_maskedCodesEdit->verticalScrollBar()->maximum());
     });
-    runJob(std::move(generation));
+    // A job that could not start has said why; the operator may change the options.
+    if (!runJob(std::move(generation))) showGenerating(false);
 }
 
 void NumberGeneratorDialog::showMaskedCodes() {

@@ -26,6 +26,9 @@ private:
     bool showSample();
     void boundEdited(QLineEdit *edit, const QString &emptyMessage);
     void startGenerating();
+    // The mask must leave a code; then the question, and the snapshot when something is stored.
+    bool confirmGenerating();
+    void showGenerating(bool generating);
     void showMaskedCodes();
 
     QLineEdit *m_prefixEdit = nullptr;

@@ -108,22 +108,29 @@ void PhotoImportDialog::chooseFiles() {
     m_startButton->setEnabled(true);
 }
 
-void PhotoImportDialog::startImport() {
-    m_startButton->hide();
-    m_cancelButton->hide();
-    m_chooseButton->hide();
-    m_okButton->show();
+void PhotoImportDialog::showImporting(bool importing) {
+    m_startButton->setVisible(!importing);
+    m_cancelButton->setVisible(!importing);
+    m_chooseButton->setVisible(!importing);
+    m_okButton->setVisible(importing);
     m_okButton->setEnabled(false);
-    m_logEdit->show();
+    if (importing) m_logEdit->show();
     for (QWidget *w : QList<QWidget *>{m_shrinkBox, m_sizeSlider, m_appendButton, m_replaceButton})
-        w->setEnabled(false);
+        w->setEnabled(!importing);
+    m_sizeSlider->setEnabled(!importing && m_shrinkBox->isChecked());
+}
+
+void PhotoImportDialog::startImport() {
+    if (m_replaceButton->isChecked() && !confirmReplace()) return;
+    showImporting(true);
     auto photos = std::make_unique<PhotoImport>(
         m_files, m_shrinkBox->isChecked(), m_sizeSlider->value(), m_replaceButton->isChecked());
     connect(photos.get(), &RosterImport::progress, this, [this](qint64 done, qint64 total) {
         m_statusLabel->setText(QStringLiteral("导入数据中......,完成%1/%2").arg(done).arg(total));
         m_logEdit->setPlainText(job()->log().mid(1));
     });
-    runJob(std::move(photos));
+    // A job that could not start has said why; the operator may try again.
+    if (!runJob(std::move(photos))) showImporting(false);
 }
 
 void PhotoImportDialog::jobFinished(RosterImport::Outcome outcome) {
@@ -134,6 +141,8 @@ void PhotoImportDialog::jobFinished(RosterImport::Outcome outcome) {
     text += QStringLiteral("导入名单%1条\n重复%2条,请点确定按钮刷新")
                 .arg(job()->imported())
                 .arg(job()->duplicates());
+    if (job()->skipped() > 0)
+        text += QStringLiteral("\n文件名中没有姓名,跳过%1张").arg(job()->skipped());
     m_logEdit->setPlainText(text);
     m_logEdit->verticalScrollBar()->setValue(m_logEdit->verticalScrollBar()->maximum());
     m_statusLabel->hide();

@@ -23,6 +23,7 @@ private:
     void buildLayout(QWidget *chooseBox);
     void chooseFiles();
     void startImport();
+    void showImporting(bool importing);
 
     QPushButton *m_chooseButton = nullptr;
     QCheckBox *m_shrinkBox = nullptr;

@@ -271,8 +271,10 @@ void RosterManagerDialog::showParticipants(const QString &search, int page, int 
         const bool wanted = selectId > 0 ? participant.id == selectId : place == result.recordCount;
         if (!selected && wanted) selected = m_participantList->topLevelItem(place - 1);
     }
-    if (result.rows.isEmpty()) clearEditor();
-    setEditorEnabled(!result.rows.isEmpty());
+    // The editor works on the selected row: on a page where none is selected (a long roster
+    // selects none by default) it waits for a click.
+    clearEditor();
+    setEditorEnabled(selected != nullptr);
     m_previousPageButton->setEnabled(result.pageCount > 0 && m_page > 1);
     m_nextPageButton->setEnabled(m_page < result.pageCount);
     if (selected) {
@@ -292,6 +294,7 @@ void RosterManagerDialog::updateCounters(int total, int won, int gaveUp, int pag
 }
 
 void RosterManagerDialog::loadEditor(QTreeWidgetItem *item) {
+    setEditorEnabled(item != nullptr);
     if (!item) return;
     m_pictureBox->clearPicture();
     roster::Participant participant;
@@ -315,6 +318,18 @@ void RosterManagerDialog::saveParticipant() {
                      titles::warning);
         m_diffNumEdit->setFocus();
         selectAllText(m_diffNumEdit);
+        return;
+    }
+    if (!roster::diffNumFits(diff)) {
+        ui().message(roster::kDiffNumTooLarge, MsgStyle::Exclamation, titles::warning);
+        m_diffNumEdit->setFocus();
+        selectAllText(m_diffNumEdit);
+        return;
+    }
+    // Nobody may be nameless: the stage would scroll an empty cell and the draw could pick it.
+    if (m_nameEdit->text().trimmed().isEmpty()) {
+        ui().message(QStringLiteral("请输入抽奖名单!"), MsgStyle::Information, titles::notice);
+        m_nameEdit->setFocus();
         return;
     }
     QTreeWidgetItem *item = m_participantList->currentItem();
@@ -346,20 +361,18 @@ void RosterManagerDialog::saveParticipant() {
     m_participantList->setFocus();
 }
 
-QList<int> RosterManagerDialog::tickedIds(QStringList *photos) const {
+QList<int> RosterManagerDialog::tickedIds() const {
     QList<int> ids;
     for (int i = 0; i < m_participantList->topLevelItemCount(); ++i) {
         const QTreeWidgetItem *item = m_participantList->topLevelItem(i);
         if (item->checkState(ColTick) != Qt::Checked) continue;
         ids << item->data(ColTick, kIdRole).toInt();
-        if (photos) *photos << item->text(ColPhoto);
     }
     return ids;
 }
 
 void RosterManagerDialog::deleteTicked() {
-    QStringList photos;
-    const QList<int> ids = tickedIds(&photos);
+    const QList<int> ids = tickedIds();
     if (ids.isEmpty()) {
         ui().message(QStringLiteral("请勾选需要删除的名单!"), MsgStyle::Critical,
                      QStringLiteral("删除失败"));
@@ -367,7 +380,7 @@ void RosterManagerDialog::deleteTicked() {
     }
     if (!ui().question(QStringLiteral("确认要删除选择的抽奖名单么?"), titles::warning)) return;
     QString error;
-    if (!roster::deleteParticipants(store::mainConn(), ids, photos, &error)) {
+    if (!roster::deleteParticipants(store::mainConn(), ids, &error)) {
         ui().message(error, MsgStyle::Critical, titles::error);
         return;
     }

@@ -37,7 +37,7 @@ private:
     QToolBar *buildToolbar(QWidget *parent);
     QWidget *buildEditor();
     void addRow(int place, const roster::Participant &participant);
-    QList<int> tickedIds(QStringList *photos = nullptr) const;
+    QList<int> tickedIds() const;
     void setAllTicks(bool ticked);
     void setEditorEnabled(bool enabled);
     void clearEditor();

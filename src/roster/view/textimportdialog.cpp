@@ -1,5 +1,7 @@
 #include "roster/view/textimportdialog.h"
 
+#include <algorithm>
+
 #include <QEvent>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -30,7 +32,7 @@ TextImportDialog::TextImportDialog(const QString &path, QWidget *parent)
     m_appendButton->setObjectName(QStringLiteral("appendButton"));
     m_replaceButton = new QRadioButton(QStringLiteral("完全替换原有名单"), this);
     m_replaceButton->setObjectName(QStringLiteral("replaceButton"));
-    m_replaceButton->setChecked(true);
+    checkDefaultMode(m_appendButton, m_replaceButton);
     m_resultBox = new QGroupBox(QStringLiteral("导入信息"), this);
     m_duplicatesEdit = new QPlainTextEdit(m_resultBox);
     m_duplicatesEdit->setObjectName(QStringLiteral("duplicatesEdit"));
@@ -96,6 +98,12 @@ void TextImportDialog::startImport() {
         setInputsEnabled(true);
         return;
     }
+    const bool anyText = std::any_of(lines.cbegin(), lines.cend(),
+                                     [](const QString &line) { return !line.trimmed().isEmpty(); });
+    if (m_replaceButton->isChecked() && anyText && !confirmReplace()) {
+        setInputsEnabled(true);
+        return;
+    }
     if (!runJob(std::make_unique<TxtImport>(lines, m_separatorEdit->text(),
                                             m_replaceButton->isChecked())))
         setInputsEnabled(true);
@@ -106,14 +114,12 @@ void TextImportDialog::jobFinished(RosterImport::Outcome outcome) {
         setInputsEnabled(true);
         return;
     }
-    if (job()->duplicates() > 0) {
-        m_resultBox->setTitle(QStringLiteral("重复数据"));
+    if (job()->duplicates() > 0) m_resultBox->setTitle(QStringLiteral("重复数据"));
+    if (!job()->log().isEmpty()) {
         m_duplicatesEdit->setPlainText(job()->log().mid(1));
         m_duplicatesEdit->show();
     }
-    m_resultLabel->setText(QStringLiteral("共导入数据%1条，屏蔽重复数据%2条")
-                               .arg(job()->imported())
-                               .arg(job()->duplicates()));
+    m_resultLabel->setText(resultText());
     m_resultLabel->show();
     m_okButton->show();
     m_startButton->hide();
