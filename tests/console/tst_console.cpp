@@ -207,7 +207,7 @@ void TestConsole::panelSlidesBetweenItsTwoPlaces() {
 }
 
 void TestConsole::oneKeyReset_data() {
-    QTest::addColumn<int>("slots");
+    QTest::addColumn<int>("awardSlots");
     QTest::addColumn<int>("winners");
     QTest::addColumn<QString>("progress");
     QTest::addColumn<bool>("asks");
@@ -217,11 +217,11 @@ void TestConsole::oneKeyReset_data() {
 }
 
 void TestConsole::oneKeyReset() {
-    QFETCH(int, slots);
+    QFETCH(int, awardSlots);
     QFETCH(int, winners);
     QFETCH(QString, progress);
     QFETCH(bool, asks);
-    const int award = m_folder->addAward(QStringLiteral("一等奖"), slots, 1);
+    const int award = m_folder->addAward(QStringLiteral("一等奖"), awardSlots, 1);
     const QList<int> ids = m_folder->addUsers({"甲|研发部", "乙|市场部"});
     for (int i = 0; i < winners; ++i)
         store::exec(
