@@ -96,18 +96,19 @@ bool TextDialogBase::loadRow() {
 }
 
 void TextDialogBase::showStyle() {
-    QFont font(m_style->family());
-    font.setPointSizeF(design::pointsForPixels(std::max(1, m_style->pixelSize())));
-    font.setBold(m_style->bold());
-    font.setItalic(m_style->italic());
-    font.setUnderline(m_style->underline());
-    m_contentEdit->setFont(font);
-    // White text stays readable on a dark grey.
+    // The program's style sheet sets fonts, so the editor's look is a style sheet as well.
     const bool white = m_style->colorText() == QLatin1String("0xFFFFFF");
-    m_contentEdit->setStyleSheet(QStringLiteral("QTextEdit { color: %1; background: %2; }")
-                                     .arg(design::colorFromText(m_style->colorText()).name(),
-                                          white ? QStringLiteral("#404040")
-                                                : palette().color(QPalette::Base).name()));
+    m_contentEdit->setStyleSheet(
+        QStringLiteral("QTextEdit { font-family: '%1'; font-size: %2pt; font-weight: %3; "
+                       "font-style: %4; text-decoration: %5; color: %6; background: %7; }")
+            .arg(m_style->family())
+            .arg(design::pointsForPixels(std::max(1, m_style->pixelSize())))
+            .arg(m_style->bold() ? QStringLiteral("bold") : QStringLiteral("normal"),
+                 m_style->italic() ? QStringLiteral("italic") : QStringLiteral("normal"),
+                 m_style->underline() ? QStringLiteral("underline") : QStringLiteral("none"),
+                 design::colorFromText(m_style->colorText()).name(),
+                 // White text stays readable on a dark grey.
+                 white ? QStringLiteral("#404040") : palette().color(QPalette::Base).name()));
 }
 
 QVariantMap TextDialogBase::commonColumns(bool withText) const {
