@@ -46,6 +46,13 @@ Item {
 
     Component.onCompleted: Qt.callLater(function () { send("loadok") }) // qmllint disable type
 
+    // Geometry of one page object, for the host's tests and tools.
+    function objectInfo(name) {
+        var o = page.objects[name]
+        return o ? { x: o.x, y: o.y, width: o.width, height: o.height, z: o.z } : {}
+    }
+    function objectNames() { return Object.keys(page.objects) }
+
     // --- objects --------------------------------------------------------------------------
 
     function addObject(command, value) {

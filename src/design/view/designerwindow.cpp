@@ -91,6 +91,11 @@ DesignerWindow::DesignerWindow(QWidget *parent) : QDialog(parent) {
     updateObjectButtons();
     updateSaveButton();
     m_stage->loadMovie(state.path(state.movieDesign));
+    // Keys and the right button arrive at the surface that shows the movie, made by the load.
+    if (QWidget *view = m_stage->widget()) {
+        auto *surface = view->findChild<QQuickWidget *>();
+        (surface ? static_cast<QWidget *>(surface) : view)->installEventFilter(this);
+    }
 }
 
 DesignerWindow::~DesignerWindow() {
@@ -118,7 +123,8 @@ void DesignerWindow::buildToolBar(QLayout *layout) {
     undo->setShortcut(QKeySequence::Undo);
     QAction *redo = history->createRedoAction(this, QStringLiteral("重做"));
     redo->setObjectName(QStringLiteral("redoAction"));
-    redo->setShortcuts({QKeySequence(QStringLiteral("Ctrl+Y")), QKeySequence::Redo});
+    redo->setShortcuts({QKeySequence(QStringLiteral("Ctrl+Y")),
+                        QKeySequence(QStringLiteral("Ctrl+Shift+Z"))});
     bar->addAction(undo);
     bar->addAction(redo);
     bar->addSeparator();
@@ -154,9 +160,6 @@ QWidget *DesignerWindow::buildPage() {
     if (QWidget *view = m_stage->widget()) {
         view->setParent(m_viewport);
         view->hide();
-        // Keys and the right button arrive at the surface that shows the movie.
-        auto *surface = view->findChild<QQuickWidget *>();
-        (surface ? static_cast<QWidget *>(surface) : view)->installEventFilter(this);
     }
     return page;
 }
