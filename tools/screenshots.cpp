@@ -7,12 +7,12 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QImage>
 #include <QMouseEvent>
-#include <QComboBox>
 #include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
@@ -36,10 +36,10 @@
 #include "design/view/designerwindow.h"
 #include "design/view/objectdialogs.h"
 #include "design/view/textdialogs.h"
-#include "stage/view/qmlstage.h"
 #include "results/printout.h"
 #include "results/winnerrows.h"
 #include "sound/view/hotkeysettingsdialog.h"
+#include "stage/view/qmlstage.h"
 
 namespace {
 
@@ -144,8 +144,8 @@ void shootDesigner(const QString &out) {
     appState().skinFile = design::templatePath(state.appPath, name);
     DesignerWindow designer;
     designer.resize(1366, 800);
-    designer.findChild<QComboBox *>(QStringLiteral("zoomCombo"))->setCurrentText(
-        QStringLiteral("50%"));
+    designer.findChild<QComboBox *>(QStringLiteral("zoomCombo"))
+        ->setCurrentText(QStringLiteral("50%"));
     save(&designer, out + QStringLiteral("/designer-objects.png"));
     auto *tabs = designer.findChild<QTabWidget *>(QStringLiteral("tabs"));
     tabs->setCurrentIndex(1);

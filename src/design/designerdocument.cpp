@@ -70,7 +70,9 @@ QStringList switchableSystemObjects() {
             sysobj::scr_luckls, sysobj::txt_zbt,    sysobj::txt_fbt};
 }
 
-bool isUserObject(const QString &name) { return name.trimmed().size() >= 11; }
+bool isUserObject(const QString &name) {
+    return name.trimmed().size() >= 11;
+}
 
 DesignerDocument::DesignerDocument(const QString &appPath, const QString &templateFile,
                                    Stage &stage, QObject *parent)
@@ -84,9 +86,13 @@ DesignerDocument::DesignerDocument(const QString &appPath, const QString &templa
     m_undoStack.setUndoLimit(300);
 }
 
-DesignerDocument::~DesignerDocument() { closeConnection(); }
+DesignerDocument::~DesignerDocument() {
+    closeConnection();
+}
 
-QSqlDatabase DesignerDocument::db() const { return QSqlDatabase::database(m_connection, false); }
+QSqlDatabase DesignerDocument::db() const {
+    return QSqlDatabase::database(m_connection, false);
+}
 
 bool DesignerDocument::open(QString *error) {
     closeConnection();
@@ -97,7 +103,9 @@ bool DesignerDocument::open(QString *error) {
     return store::openTemplate(m_workingFile, m_connection, error);
 }
 
-void DesignerDocument::closeConnection() { store::close(m_connection); }
+void DesignerDocument::closeConnection() {
+    store::close(m_connection);
+}
 
 QStringList DesignerDocument::loadStage() {
     const PayloadContext context = contextFor(Reader::Designer);
@@ -150,7 +158,8 @@ void DesignerDocument::advanceInsertionPoint() {
 
 QString DesignerDocument::addText() {
     const QString name = QStringLiteral("txt_") + makeRandomName(16);
-    const int depth = qint16(store::getNextID(QStringLiteral("LuckObj"), QStringLiteral("ObjDepth"), db()));
+    const int depth =
+        qint16(store::getNextID(QStringLiteral("LuckObj"), QStringLiteral("ObjDepth"), db()));
     const QPoint at = m_insertAt;
     const bool ok = record(QStringLiteral("添加文字"), [&] {
         m_stage.setVariable(proto::vbAddTxt, addTextPayload(name, depth, at.x(), at.y()));
@@ -171,7 +180,8 @@ QString DesignerDocument::addText() {
 
 QString DesignerDocument::addScrollText() {
     const QString name = QStringLiteral("scr_") + makeRandomName(16);
-    const int depth = qint16(store::getNextID(QStringLiteral("LuckObj"), QStringLiteral("ObjDepth"), db()));
+    const int depth =
+        qint16(store::getNextID(QStringLiteral("LuckObj"), QStringLiteral("ObjDepth"), db()));
     const QPoint at = m_insertAt;
     const bool ok = record(QStringLiteral("添加滚动文字"), [&] {
         const bool stored = store::exec(
@@ -183,7 +193,8 @@ QString DesignerDocument::addScrollText() {
                            "'0x000000',14,'false','false','false',1,1)"),
             {name, depth, at.x(), at.y(), QStringLiteral("请双击输入滚动文字信息...")});
         if (stored)
-            m_stage.setVariable(proto::vbAddStxt, addScrollTextPayload(name, depth, at.x(), at.y()));
+            m_stage.setVariable(proto::vbAddStxt,
+                                addScrollTextPayload(name, depth, at.x(), at.y()));
         return stored;
     });
     if (!ok) return QString();
@@ -210,7 +221,8 @@ QString DesignerDocument::addFileObject(const QString &sourceFile, const QString
     const QString relative = copyPicture(sourceFile, filePrefix);
     if (relative.isEmpty()) return QString();
     const QString name = namePrefix + makeRandomName(16);
-    const int depth = qint16(store::getNextID(QStringLiteral("LuckObj"), QStringLiteral("ObjDepth"), db()));
+    const int depth =
+        qint16(store::getNextID(QStringLiteral("LuckObj"), QStringLiteral("ObjDepth"), db()));
     const QPoint at = m_insertAt;
     const bool image = type == proto::vbAddImg;
     const bool ok = record(image ? QStringLiteral("添加图片") : QStringLiteral("添加动画"), [&] {
@@ -222,9 +234,9 @@ QString DesignerDocument::addFileObject(const QString &sourceFile, const QString
             {name, type, depth, at.x(), at.y(), relative});
         const QString absolute = m_appPath + relative;
         if (stored)
-            m_stage.setVariable(type, image ? addImagePayload(name, depth, at.x(), at.y(), absolute)
-                                            : addAnimationPayload(name, depth, at.x(), at.y(),
-                                                                  absolute));
+            m_stage.setVariable(type,
+                                image ? addImagePayload(name, depth, at.x(), at.y(), absolute)
+                                      : addAnimationPayload(name, depth, at.x(), at.y(), absolute));
         return stored;
     });
     if (!ok) return QString();
@@ -254,7 +266,8 @@ bool DesignerDocument::storeGeometry(const QString &name, const QString &x, cons
     const QString objName = name.trimmed();
     return record(QStringLiteral("移动"), [&] {
         if (kind == QLatin1String("txt"))
-            return store::exec(db(), QStringLiteral("UPDATE LuckObj SET ObjX=?, ObjY=? WHERE ObjName=?"),
+            return store::exec(db(),
+                               QStringLiteral("UPDATE LuckObj SET ObjX=?, ObjY=? WHERE ObjName=?"),
                                {x.trimmed().toDouble(), y.trimmed().toDouble(), objName});
         if (kind == QLatin1String("img") || kind == QLatin1String("swf") ||
             kind == QLatin1String("scr") || kind == QLatin1String("ssm"))
@@ -282,9 +295,9 @@ bool DesignerDocument::nudge(const QString &name, int dx, int dy) {
 
 void DesignerDocument::setVisible(const QString &name, bool visible) {
     record(visible ? QStringLiteral("显示") : QStringLiteral("隐藏"), [&] {
-        const bool ok = store::exec(
-            db(), QStringLiteral("UPDATE LuckObj SET isVisible=? WHERE ObjName=?"),
-            {visible ? 1 : 0, name});
+        const bool ok =
+            store::exec(db(), QStringLiteral("UPDATE LuckObj SET isVisible=? WHERE ObjName=?"),
+                        {visible ? 1 : 0, name});
         if (visible)
             refreshObject(name);
         else
@@ -385,17 +398,19 @@ bool DesignerDocument::updateImage(const QString &name, int alpha, bool reflecti
     if (!readObject(name, &row)) return false;
     const int factor = reflectionChanged ? 2 : 1;
     const int height = reflection ? row.ObjH * factor : qRound(row.ObjH / double(factor));
-    return updateObject(name, {{QStringLiteral("ObjAlpha"), alpha},
-                               {QStringLiteral("isImgFilter"),
-                                reflection ? proto::trueText : proto::falseText},
-                               {QStringLiteral("ObjH"), height}});
+    return updateObject(
+        name, {{QStringLiteral("ObjAlpha"), alpha},
+               {QStringLiteral("isImgFilter"), reflection ? proto::trueText : proto::falseText},
+               {QStringLiteral("ObjH"), height}});
 }
 
 bool DesignerDocument::readObject(const QString &name, ObjRow *row) const {
     return readVisibleObject(db(), name, row);
 }
 
-PlayRow DesignerDocument::readPlayRow(const QString &row) const { return readPlay(db(), row); }
+PlayRow DesignerDocument::readPlayRow(const QString &row) const {
+    return readPlay(db(), row);
+}
 
 void DesignerDocument::refreshObject(const QString &name) {
     design::refreshObject(m_stage, db(), name, contextFor(Reader::Designer));
@@ -404,7 +419,8 @@ void DesignerDocument::refreshObject(const QString &name) {
 QStringList DesignerDocument::referencedFiles(QSqlDatabase database) const {
     QStringList files;
     QSqlQuery query(database);
-    if (!query.exec(QStringLiteral("SELECT ImgPath FROM LuckObj WHERE ImgPath IS NOT NULL"))) return files;
+    if (!query.exec(QStringLiteral("SELECT ImgPath FROM LuckObj WHERE ImgPath IS NOT NULL")))
+        return files;
     while (query.next()) {
         const QString path = normalizeSlashes(query.value(0).toString());
         if (!path.isEmpty()) files << QDir::cleanPath(m_appPath + path);
@@ -414,8 +430,7 @@ QStringList DesignerDocument::referencedFiles(QSqlDatabase database) const {
 
 // Only pictures the designer put under skin/sPhoto/ are deleted, and none that a row still names
 // (an undone delete brings a picture back into use).
-void DesignerDocument::deleteUnreferenced(const QStringList &files,
-                                          const QStringList &referenced) {
+void DesignerDocument::deleteUnreferenced(const QStringList &files, const QStringList &referenced) {
     for (const QString &file : files) {
         const QString clean = QDir::cleanPath(file);
         if (referenced.contains(clean) || !getFileName(clean).contains(QLatin1Char('.'))) continue;

@@ -36,10 +36,12 @@ int pixelSize(const QString &sizeText) {
     return match.hasMatch() ? match.captured(1).toInt() : 0;
 }
 
-QString pixelSizeText(int size) { return QString::number(size) + QStringLiteral("px"); }
+QString pixelSizeText(int size) {
+    return QString::number(size) + QStringLiteral("px");
+}
 
 QStringList textObjectSizes() {
-    return withPx({10, 12, 14, 16, 18, 20, 22, 24, 30, 36, 38, 40,
+    return withPx({10, 12, 14, 16, 18, 20, 22, 24, 30, 36,  38,  40,
                    42, 46, 52, 56, 62, 70, 72, 80, 90, 100, 110, 128});
 }
 
@@ -48,10 +50,12 @@ QStringList scrollTextSizes() {
 }
 
 QStringList drawFontSizes() {
-    return withPx({10, 12, 14, 16, 18, 20, 24, 30, 36, 38, 40, 42,
+    return withPx({10, 12, 14, 16, 18, 20, 24, 30, 36,  38,  40, 42,
                    46, 52, 56, 62, 70, 72, 86, 96, 100, 118, 128});
 }
 
-double pointsForPixels(int pixels) { return pixels * 3.0 / 4.0; }
+double pointsForPixels(int pixels) {
+    return pixels * 3.0 / 4.0;
+}
 
 }  // namespace design

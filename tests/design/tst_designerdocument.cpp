@@ -34,9 +34,8 @@ struct Workbench {
     }
     // One column of a LuckObj row of the working copy; invalid when the row is gone.
     QVariant column(const QString &name, const QString &col) const {
-        return store::scalar(doc->db(),
-                             QStringLiteral("SELECT %1 FROM LuckObj WHERE ObjName=?").arg(col),
-                             {name});
+        return store::scalar(
+            doc->db(), QStringLiteral("SELECT %1 FROM LuckObj WHERE ObjName=?").arg(col), {name});
     }
     QString picture() const {
         const QString file = folder.path(QStringLiteral("pic.png"));
@@ -72,10 +71,14 @@ void TestDesignerDocument::objectOfEachKind_data() {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QString>("command");
     QTest::addColumn<bool>("sized");  // text objects keep no size
-    QTest::newRow("text") << "txt" << "vbAddTxt" << false;
-    QTest::newRow("scrolling text") << "scr" << "vbAddStxt" << true;
-    QTest::newRow("picture") << "img" << "vbAddImg" << true;
-    QTest::newRow("animation") << "swf" << "vbAddSwf" << true;
+    QTest::newRow("text") << "txt"
+                          << "vbAddTxt" << false;
+    QTest::newRow("scrolling text") << "scr"
+                                    << "vbAddStxt" << true;
+    QTest::newRow("picture") << "img"
+                             << "vbAddImg" << true;
+    QTest::newRow("animation") << "swf"
+                               << "vbAddSwf" << true;
 }
 
 // Add, move and resize, hide, re-layer and delete, each checked against the stored row.
@@ -173,11 +176,16 @@ void TestDesignerDocument::pictureDeletedOnlyWhenNoRowNamesIt() {
 void TestDesignerDocument::colourKeepsSixDigits_data() {
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("written");
-    QTest::newRow("red") << "0xFF0000" << "0xFF0000";
-    QTest::newRow("blue") << "0x0000FF" << "0x0000FF";
-    QTest::newRow("short") << "0xFF" << "0x0000FF";
-    QTest::newRow("lower case") << "0xfac996" << "0xFAC996";
-    QTest::newRow("unreadable") << "red" << "0x000000";
+    QTest::newRow("red") << "0xFF0000"
+                         << "0xFF0000";
+    QTest::newRow("blue") << "0x0000FF"
+                          << "0x0000FF";
+    QTest::newRow("short") << "0xFF"
+                           << "0x0000FF";
+    QTest::newRow("lower case") << "0xfac996"
+                                << "0xFAC996";
+    QTest::newRow("unreadable") << "red"
+                                << "0x000000";
 }
 
 void TestDesignerDocument::colourKeepsSixDigits() {

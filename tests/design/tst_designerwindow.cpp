@@ -140,8 +140,9 @@ void TestDesignerWindow::dragSnapResizeKeysAndUndo() {
     QCOMPARE(d.window->selectedObject(), design::sysobj::txt_jxname);
     const int x = d.stored("txt_jxname", "ObjX").toInt();
     const int w = d.info("txt_jxname").value("width").toInt();
-    QVERIFY2(QList<int>({x, x + w / 2, x + w}).contains(guide.toInt()),
-             qPrintable(QStringLiteral("guide %1, object %2 + %3").arg(guide.toInt()).arg(x).arg(w)));
+    QVERIFY2(
+        QList<int>({x, x + w / 2, x + w}).contains(guide.toInt()),
+        qPrintable(QStringLiteral("guide %1, object %2 + %3").arg(guide.toInt()).arg(x).arg(w)));
     QVERIFY(x != 100);
     QVERIFY(d.stored("txt_jxname", "ObjY").toInt() > 250);
     QVERIFY(saveLit(*d.window));
@@ -323,5 +324,7 @@ void TestDesignerWindow::consoleOpensTheDesigner() {
     setStageFactory({});
 }
 
-int main(int argc, char *argv[]) { return runOnProjector<TestDesignerWindow>(argc, argv); }
+int main(int argc, char *argv[]) {
+    return runOnProjector<TestDesignerWindow>(argc, argv);
+}
 #include "tst_designerwindow.moc"

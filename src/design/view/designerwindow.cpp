@@ -52,7 +52,8 @@ DesignerWindow::DesignerWindow(QWidget *parent) : QDialog(parent) {
 
     m_stage = createStage(nullptr);
     const AppState &state = appState();
-    m_document = std::make_unique<design::DesignerDocument>(state.appPath, state.skinFile, *m_stage);
+    m_document =
+        std::make_unique<design::DesignerDocument>(state.appPath, state.skinFile, *m_stage);
     QString error;
     if (!m_document->open(&error)) qCWarning(lcDesign) << "designer:" << error;
     buildToolBar(layout);
@@ -123,8 +124,8 @@ void DesignerWindow::buildToolBar(QLayout *layout) {
     undo->setShortcut(QKeySequence::Undo);
     QAction *redo = history->createRedoAction(this, QStringLiteral("重做"));
     redo->setObjectName(QStringLiteral("redoAction"));
-    redo->setShortcuts({QKeySequence(QStringLiteral("Ctrl+Y")),
-                        QKeySequence(QStringLiteral("Ctrl+Shift+Z"))});
+    redo->setShortcuts(
+        {QKeySequence(QStringLiteral("Ctrl+Y")), QKeySequence(QStringLiteral("Ctrl+Shift+Z"))});
     bar->addAction(undo);
     bar->addAction(redo);
     bar->addSeparator();
@@ -253,7 +254,9 @@ void DesignerWindow::onReloaded() {
         m_stage->setVariable(proto::selMcByName, selected + proto::kSep + proto::trueText);
 }
 
-void DesignerWindow::updateSaveButton() { m_saveAction->setEnabled(m_document->isModified()); }
+void DesignerWindow::updateSaveButton() {
+    m_saveAction->setEnabled(m_document->isModified());
+}
 
 // --- zoom and scrolling ------------------------------------------------------------------------
 
@@ -312,12 +315,23 @@ bool DesignerWindow::eventFilter(QObject *watched, QEvent *event) {
     const auto *key = static_cast<QKeyEvent *>(event);
     const int step = key->modifiers() & Qt::ShiftModifier ? 10 : 1;
     switch (key->key()) {
-        case Qt::Key_Left: nudgeSelection(-step, 0); return true;
-        case Qt::Key_Right: nudgeSelection(step, 0); return true;
-        case Qt::Key_Up: nudgeSelection(0, -step); return true;
-        case Qt::Key_Down: nudgeSelection(0, step); return true;
-        case Qt::Key_Delete: deleteSelected(); return true;
-        default: return QDialog::eventFilter(watched, event);
+        case Qt::Key_Left:
+            nudgeSelection(-step, 0);
+            return true;
+        case Qt::Key_Right:
+            nudgeSelection(step, 0);
+            return true;
+        case Qt::Key_Up:
+            nudgeSelection(0, -step);
+            return true;
+        case Qt::Key_Down:
+            nudgeSelection(0, step);
+            return true;
+        case Qt::Key_Delete:
+            deleteSelected();
+            return true;
+        default:
+            return QDialog::eventFilter(watched, event);
     }
 }
 

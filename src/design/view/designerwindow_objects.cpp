@@ -81,7 +81,8 @@ QWidget *DesignerWindow::buildObjectsTab() {
     auto *addText = toolButton(adding, QStringLiteral("添加文字"), QStringLiteral("addTextButton"));
     auto *addScroll =
         toolButton(adding, QStringLiteral("滚动文字"), QStringLiteral("addScrollTextButton"));
-    auto *addImage = toolButton(adding, QStringLiteral("添加图片"), QStringLiteral("addImageButton"));
+    auto *addImage =
+        toolButton(adding, QStringLiteral("添加图片"), QStringLiteral("addImageButton"));
     auto *addAnim =
         toolButton(adding, QStringLiteral("添加动画"), QStringLiteral("addAnimationButton"));
     addLayout->addWidget(addText, 0, 0);
@@ -148,18 +149,18 @@ void DesignerWindow::updateObjectButtons() {
 }
 
 void DesignerWindow::addFileObject(bool image) {
-    const QString folder =
-        QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
     // Animations play as GIF, WebP or APNG on the stage.
     const QString file =
-        image ? ui().openFile(QStringLiteral("添加图片"), folder,
-                              dialogFilter(QStringLiteral(
-                                  "图片文件(*.png,*.jpg,*.gif,*.bmp,*.jpeg)|*.png;*.jpg;*.gif;*.bmp;"
-                                  "*.jpeg|PNG Files(*.png)|*.png|JPG Files(*.jpg)|*.jpg|GIF "
-                                  "Files(*.gif)|*.gif|BMP Files(*.bmp)|*.bmp")))
-              : ui().openFile(QStringLiteral("添加Flash动画"), folder,
-                              dialogFilter(QStringLiteral(
-                                  "动画文件(*.gif,*.webp,*.png)|*.gif;*.webp;*.png;*.apng")));
+        image
+            ? ui().openFile(QStringLiteral("添加图片"), folder,
+                            dialogFilter(QStringLiteral(
+                                "图片文件(*.png,*.jpg,*.gif,*.bmp,*.jpeg)|*.png;*.jpg;*.gif;*.bmp;"
+                                "*.jpeg|PNG Files(*.png)|*.png|JPG Files(*.jpg)|*.jpg|GIF "
+                                "Files(*.gif)|*.gif|BMP Files(*.bmp)|*.bmp")))
+            : ui().openFile(QStringLiteral("添加Flash动画"), folder,
+                            dialogFilter(QStringLiteral(
+                                "动画文件(*.gif,*.webp,*.png)|*.gif;*.webp;*.png;*.apng")));
     if (file.trimmed().isEmpty()) return;
     if (image)
         m_document->addImage(file);

@@ -8,8 +8,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QRegularExpressionValidator>
 #include <QPushButton>
+#include <QRegularExpressionValidator>
 #include <QSlider>
 #include <QToolButton>
 
@@ -53,7 +53,9 @@ bool chooseColorFor(QPushButton *button) {
     return true;
 }
 
-QString colorOf(QPushButton *button) { return button->property(kColorProperty).toString(); }
+QString colorOf(QPushButton *button) {
+    return button->property(kColorProperty).toString();
+}
 
 void setColorOf(QPushButton *button, const QString &text) {
     const QColor color = design::colorFromText(text);
@@ -155,7 +157,9 @@ void FontStyleBox::chooseColor() {
     setColorText(design::colorText(color));
 }
 
-QString FontStyleBox::family() const { return m_fontCombo->currentText(); }
+QString FontStyleBox::family() const {
+    return m_fontCombo->currentText();
+}
 
 void FontStyleBox::setFamily(const QString &family) {
     // A template may name a font this machine lacks: it stays, as typed.
@@ -163,7 +167,9 @@ void FontStyleBox::setFamily(const QString &family) {
     m_fontCombo->setCurrentText(family);
 }
 
-int FontStyleBox::pixelSize() const { return design::pixelSize(m_sizeCombo->currentText()); }
+int FontStyleBox::pixelSize() const {
+    return design::pixelSize(m_sizeCombo->currentText());
+}
 
 void FontStyleBox::setPixelSize(int size) {
     const QString text = design::pixelSizeText(size);
@@ -177,11 +183,21 @@ void FontStyleBox::setColorText(const QString &text) {
     Q_EMIT styleChanged();
 }
 
-int FontStyleBox::alpha() const { return m_alphaSlider->value(); }
-void FontStyleBox::setAlpha(int alpha) { m_alphaSlider->setValue(alpha); }
-bool FontStyleBox::bold() const { return m_boldButton->isChecked(); }
-bool FontStyleBox::italic() const { return m_italicButton->isChecked(); }
-bool FontStyleBox::underline() const { return m_underlineButton->isChecked(); }
+int FontStyleBox::alpha() const {
+    return m_alphaSlider->value();
+}
+void FontStyleBox::setAlpha(int alpha) {
+    m_alphaSlider->setValue(alpha);
+}
+bool FontStyleBox::bold() const {
+    return m_boldButton->isChecked();
+}
+bool FontStyleBox::italic() const {
+    return m_italicButton->isChecked();
+}
+bool FontStyleBox::underline() const {
+    return m_underlineButton->isChecked();
+}
 
 void FontStyleBox::setFlags(bool bold, bool italic, bool underline) {
     m_boldButton->setChecked(bold);
@@ -206,5 +222,9 @@ void FontStyleBox::setAlignment(const QString &align) {
         m_alignCenter->setChecked(true);
 }
 
-bool FontStyleBox::shadow() const { return m_shadowCheck->isChecked(); }
-void FontStyleBox::setShadow(bool on) { m_shadowCheck->setChecked(on); }
+bool FontStyleBox::shadow() const {
+    return m_shadowCheck->isChecked();
+}
+void FontStyleBox::setShadow(bool on) {
+    m_shadowCheck->setChecked(on);
+}

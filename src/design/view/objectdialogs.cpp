@@ -157,12 +157,13 @@ void DrawFontDialog::save() {
 VariablesHelpDialog::VariablesHelpDialog(QWidget *parent) : QDialog(parent) {
     setWindowTitle(QStringLiteral("什么是变量呢?"));
     auto *text = new QLabel(
-        QStringLiteral("<p>模板里的文字可以带上变量，抽奖时会换成当前奖项的内容：</p>"
-                       "<p><b>$Name2</b>　奖项名称，例如“一等奖”<br>"
-                       "<b>$Name1</b>　奖品名称，例如“笔记本电脑”<br>"
-                       "<b>$1</b>　该奖项的名额<br>"
-                       "<b>$2</b>　该奖项还剩下的名额</p>"
-                       "<p>例如“名额 $1 名，剩余 $2 名”在抽奖时显示为“名额 10 名，剩余 4 名”。</p>"),
+        QStringLiteral(
+            "<p>模板里的文字可以带上变量，抽奖时会换成当前奖项的内容：</p>"
+            "<p><b>$Name2</b>　奖项名称，例如“一等奖”<br>"
+            "<b>$Name1</b>　奖品名称，例如“笔记本电脑”<br>"
+            "<b>$1</b>　该奖项的名额<br>"
+            "<b>$2</b>　该奖项还剩下的名额</p>"
+            "<p>例如“名额 $1 名，剩余 $2 名”在抽奖时显示为“名额 10 名，剩余 4 名”。</p>"),
         this);
     text->setWordWrap(true);
     text->setMinimumWidth(380);

@@ -60,7 +60,8 @@ DrawAreaPanel::DrawAreaPanel(design::DesignerDocument &document, Stage &stage, Q
     : QWidget(parent), m_document(document), m_stage(stage) {
     m_bgTypeCombo = listCombo(this, QStringLiteral("bgTypeCombo"),
                               {QStringLiteral("方形背景"), QStringLiteral("圆角背景")});
-    m_bgColorButton = colorButton(this, QStringLiteral("bgColorButton"), QStringLiteral("0xFFFFFF"));
+    m_bgColorButton =
+        colorButton(this, QStringLiteral("bgColorButton"), QStringLiteral("0xFFFFFF"));
     m_bgAlphaSlider = designSlider(this, QStringLiteral("bgAlphaSlider"), 0, 100, 5, 10, 0);
     m_dotXEdit = digitsEdit(this, QStringLiteral("dotXEdit"), 0);
     m_dotYEdit = digitsEdit(this, QStringLiteral("dotYEdit"), 0);
@@ -70,9 +71,9 @@ DrawAreaPanel::DrawAreaPanel(design::DesignerDocument &document, Stage &stage, Q
     m_viewNumEdit = digitsEdit(this, QStringLiteral("viewNumEdit"), 6);
     m_demoTextEdit = new QLineEdit(QStringLiteral("演示数据"), this);
     m_demoTextEdit->setObjectName(QStringLiteral("demoTextEdit"));
-    m_luckTypeCombo = listCombo(this, QStringLiteral("luckTypeCombo"),
-                                {QStringLiteral("纯文字抽奖"), QStringLiteral("纯图片抽奖"),
-                                 QStringLiteral("图片加文字")});
+    m_luckTypeCombo = listCombo(
+        this, QStringLiteral("luckTypeCombo"),
+        {QStringLiteral("纯文字抽奖"), QStringLiteral("纯图片抽奖"), QStringLiteral("图片加文字")});
     m_luckTypeCombo->setCurrentIndex(std::clamp<int>(appState().luckType, 0, 2));
 
     auto *form = new QFormLayout;
@@ -93,10 +94,12 @@ DrawAreaPanel::DrawAreaPanel(design::DesignerDocument &document, Stage &stage, Q
     layout->addStretch();
 
     connect(m_bgTypeCombo, &QComboBox::activated, this, [this](int index) {
-        write(QStringLiteral("BgType"), index == 0 ? QStringLiteral("box") : QStringLiteral("round"));
+        write(QStringLiteral("BgType"),
+              index == 0 ? QStringLiteral("box") : QStringLiteral("round"));
     });
     connect(m_bgColorButton, &QPushButton::clicked, this, [this] {
-        if (chooseColorFor(m_bgColorButton)) write(QStringLiteral("BgColor"), colorOf(m_bgColorButton));
+        if (chooseColorFor(m_bgColorButton))
+            write(QStringLiteral("BgColor"), colorOf(m_bgColorButton));
     });
     onSliderSettled(m_bgAlphaSlider, this, [this] {
         if (!m_loading) write(QStringLiteral("BgAlpha"), m_bgAlphaSlider->value());
@@ -150,9 +153,9 @@ void DrawAreaPanel::preview() {
     values.paddingNum = m_paddingEdit->text();
     values.demoName = design::longestUserName(store::mainConn());
     values.demoText = m_demoTextEdit->text().trimmed();
-    m_stage.setVariable(proto::vbLuckBox,
-                        design::drawAreaPreviewPayload(
-                            m_document.readPlayRow(design::rows::blockValue), values));
+    m_stage.setVariable(
+        proto::vbLuckBox,
+        design::drawAreaPreviewPayload(m_document.readPlayRow(design::rows::blockValue), values));
 }
 
 void DrawAreaPanel::write(const QString &column, const QVariant &value) {
@@ -188,13 +191,15 @@ PlaybackPanel::PlaybackPanel(design::DesignerDocument &document, Stage &stage, Q
                                  {QStringLiteral("奖项名称"), QStringLiteral("奖项+奖品名称")});
     m_titleTypeCombo->setCurrentIndex(std::clamp<int>(appState().playTitleType, 0, 1));
     m_titlePaddingEdit = digitsEdit(this, QStringLiteral("titlePaddingEdit"), 0);
-    m_titleBgAlphaSlider = designSlider(this, QStringLiteral("titleBgAlphaSlider"), 0, 100, 1, 5, 0);
+    m_titleBgAlphaSlider =
+        designSlider(this, QStringLiteral("titleBgAlphaSlider"), 0, 100, 1, 5, 0);
     m_titleBgColorButton =
         colorButton(this, QStringLiteral("titleBgColorButton"), QStringLiteral("0xFFFFFF"));
-    auto *titleFont = fontButton(this, QStringLiteral("设置字体.."), QStringLiteral("titleFontButton"));
-    m_nameTypeCombo = listCombo(this, QStringLiteral("nameTypeCombo"),
-                                {QStringLiteral("抽奖名单"), QStringLiteral("图片"),
-                                 QStringLiteral("抽奖名单+图片")});
+    auto *titleFont =
+        fontButton(this, QStringLiteral("设置字体.."), QStringLiteral("titleFontButton"));
+    m_nameTypeCombo = listCombo(
+        this, QStringLiteral("nameTypeCombo"),
+        {QStringLiteral("抽奖名单"), QStringLiteral("图片"), QStringLiteral("抽奖名单+图片")});
     m_nameTypeCombo->setCurrentIndex(std::clamp<int>(appState().playType, 0, 2));
     m_nameDotXEdit = digitsEdit(this, QStringLiteral("nameDotXEdit"), 0);
     m_nameDotYEdit = digitsEdit(this, QStringLiteral("nameDotYEdit"), 0);
@@ -202,7 +207,8 @@ PlaybackPanel::PlaybackPanel(design::DesignerDocument &document, Stage &stage, Q
     m_nameBgAlphaSlider = designSlider(this, QStringLiteral("nameBgAlphaSlider"), 0, 100, 1, 5, 0);
     m_nameBgColorButton =
         colorButton(this, QStringLiteral("nameBgColorButton"), QStringLiteral("0xFFFFFF"));
-    auto *nameFont = fontButton(this, QStringLiteral("设置字体.."), QStringLiteral("nameFontButton"));
+    auto *nameFont =
+        fontButton(this, QStringLiteral("设置字体.."), QStringLiteral("nameFontButton"));
 
     auto *common = new QFormLayout;
     common->addRow(QStringLiteral("整体宽度："), m_boxWSlider);
@@ -268,8 +274,7 @@ void PlaybackPanel::connectSlider(QSlider *slider, const QString &row, const QSt
 // A box the operator has emptied leaves the row as it was.
 void PlaybackPanel::connectNumber(QLineEdit *edit, const QString &row, const QString &column) {
     connect(edit, &QLineEdit::textChanged, this, [this, edit, row, column] {
-        if (!m_loading && !edit->text().isEmpty())
-            write(row, column, qint16(edit->text().toInt()));
+        if (!m_loading && !edit->text().isEmpty()) write(row, column, qint16(edit->text().toInt()));
     });
 }
 
@@ -323,18 +328,18 @@ void PlaybackPanel::preview() {
     panel.nameDotY = m_nameDotYEdit->text();
     const AppState &state = appState();
     const design::BgRow &page = m_document.page();
-    const design::PlaybackValues values = design::designerPlayback(
-        m_document.readPlayRow(design::rows::playTitle),
-        m_document.readPlayRow(design::rows::playName), panel, page.BgW, page.BgH,
-        state.maxImgWidth, state.maxImgHeight);
+    const design::PlaybackValues values =
+        design::designerPlayback(m_document.readPlayRow(design::rows::playTitle),
+                                 m_document.readPlayRow(design::rows::playName), panel, page.BgW,
+                                 page.BgH, state.maxImgWidth, state.maxImgHeight);
     m_stage.setVariable(proto::vbLuckPlay, design::playbackStylePayload(values));
     sendScroll();
 }
 
 void PlaybackPanel::sendScroll() {
-    m_stage.setVariable(proto::vbStartScroll,
-                        design::startScrollPayload(m_scrollCheck->isChecked(),
-                                                   m_speedSlider->value(), design::Reader::Designer));
+    m_stage.setVariable(proto::vbStartScroll, design::startScrollPayload(m_scrollCheck->isChecked(),
+                                                                         m_speedSlider->value(),
+                                                                         design::Reader::Designer));
 }
 
 void PlaybackPanel::openFont(const QString &row) {

@@ -31,7 +31,9 @@ QComboBox *listCombo(QWidget *parent, const QString &name, const QStringList &it
     return combo;
 }
 
-QString flagText(bool on) { return on ? proto::trueText : proto::falseText; }
+QString flagText(bool on) {
+    return on ? proto::trueText : proto::falseText;
+}
 
 }  // namespace
 
@@ -84,7 +86,7 @@ bool TextDialogBase::loadRow() {
     if (m_name == design::sysobj::txt_zbt || m_name == design::sysobj::txt_fbt) {
         const AppState &state = appState();
         m_contentEdit->setPlainText(m_name == design::sysobj::txt_zbt ? state.title1
-                                                                       : state.title2);
+                                                                      : state.title2);
         m_contentEdit->setEnabled(false);
     } else {
         m_contentEdit->setPlainText(m_row.fTxt);
@@ -147,8 +149,8 @@ TextObjectDialog::TextObjectDialog(design::DesignerDocument &document, const QSt
     m_bgColorButton = colorButton(this, QStringLiteral("bgColorButton"), m_row.bgColor);
     connect(m_bgColorButton, &QPushButton::clicked, this,
             [this] { chooseColorFor(m_bgColorButton); });
-    m_bgAlphaSlider = designSlider(this, QStringLiteral("bgAlphaSlider"), 0, 100, 5, 10,
-                                    m_row.bgAlpha);
+    m_bgAlphaSlider =
+        designSlider(this, QStringLiteral("bgAlphaSlider"), 0, 100, 5, 10, m_row.bgAlpha);
     auto *form = new QFormLayout;
     form->addRow(QStringLiteral("边框类型："), m_borderTypeCombo);
     form->addRow(QStringLiteral("边框大小："), m_borderEdit);
@@ -194,8 +196,8 @@ ScrollTextDialog::ScrollTextDialog(design::DesignerDocument &document, const QSt
     m_bgColorButton = colorButton(this, QStringLiteral("bgColorButton"), m_row.bgColor);
     connect(m_bgColorButton, &QPushButton::clicked, this,
             [this] { chooseColorFor(m_bgColorButton); });
-    m_bgAlphaSlider = designSlider(this, QStringLiteral("bgAlphaSlider"), 0, 100, 5, 10,
-                                    m_row.bgAlpha);
+    m_bgAlphaSlider =
+        designSlider(this, QStringLiteral("bgAlphaSlider"), 0, 100, 5, 10, m_row.bgAlpha);
     m_speedSlider = designSlider(this, QStringLiteral("speedSlider"), 0, 10, 1, 5, m_row.SrcV);
     m_directionCombo = listCombo(
         this, QStringLiteral("directionCombo"),
