@@ -7,10 +7,12 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QImage>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
@@ -29,9 +31,15 @@
 #include "core/appstate.h"
 #include "core/startup.h"
 #include "core/store.h"
+#include "design/designerdocument.h"
+#include "design/templatepage.h"
+#include "design/view/designerwindow.h"
+#include "design/view/objectdialogs.h"
+#include "design/view/textdialogs.h"
 #include "results/printout.h"
 #include "results/winnerrows.h"
 #include "sound/view/hotkeysettingsdialog.h"
+#include "stage/view/qmlstage.h"
 
 namespace {
 
@@ -119,6 +127,47 @@ void shootPrintout(const QString &out) {
     QTextStream(stdout) << out << "/print-page1.png\n";
 }
 
+void sendMouse(QWindow *window, QEvent::Type type, const QPointF &at) {
+    QMouseEvent event(type, at, at, Qt::LeftButton,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(window, &event);
+}
+
+// The designer on the 16:9 factory template: each tab, the title selected and dragged onto the
+// page's centre line, the text and font dialogs.
+void shootDesigner(const QString &out) {
+    const AppState &state = appState();
+    const QStringList names = design::listTemplates(state.appPath);
+    const QString name = names.filter(QStringLiteral("16")).value(0, names.value(0));
+    design::copyToWorkingFile(state.appPath, name);
+    appState().skinFile = design::templatePath(state.appPath, name);
+    DesignerWindow designer;
+    designer.resize(1366, 800);
+    designer.findChild<QComboBox *>(QStringLiteral("zoomCombo"))
+        ->setCurrentText(QStringLiteral("50%"));
+    save(&designer, out + QStringLiteral("/designer-objects.png"));
+    auto *tabs = designer.findChild<QTabWidget *>(QStringLiteral("tabs"));
+    tabs->setCurrentIndex(1);
+    save(&designer, out + QStringLiteral("/designer-drawarea.png"));
+    tabs->setCurrentIndex(2);
+    save(&designer, out + QStringLiteral("/designer-playback.png"));
+    tabs->setCurrentIndex(0);
+    settle(300);
+    // Drag the award name (page 96,250) so its left edge nears the prize picture's edge.
+    QWindow *view = static_cast<QmlStage &>(designer.stage()).quickWindow();
+    const QPointF from(100 * 0.5, 260 * 0.5);
+    sendMouse(view, QEvent::MouseButtonPress, from);
+    sendMouse(view, QEvent::MouseMove, from + QPointF(20, 40));
+    sendMouse(view, QEvent::MouseMove, from + QPointF(3, 60));
+    save(&designer, out + QStringLiteral("/designer-selected.png"));
+    sendMouse(view, QEvent::MouseButtonRelease, from + QPointF(3, 60));
+    TextObjectDialog text(designer.document(), design::sysobj::txt_jxname);
+    save(&text, out + QStringLiteral("/designer-text-dialog.png"));
+    DrawFontDialog font(designer.document(), design::rows::blockValue);
+    save(&font, out + QStringLiteral("/designer-font-dialog.png"));
+}
+
 }  // namespace
 
 int main(int argc, char *argv[]) {
@@ -139,6 +188,7 @@ int main(int argc, char *argv[]) {
     shootDialogs(out);
     shootHotkeySettings(out);
     shootPrintout(out);
+    shootDesigner(out);
     shutDown();
     return 0;
 }

@@ -19,6 +19,7 @@
 #include "core/ui.h"
 #include "design/stageload.h"
 #include "design/templatepage.h"
+#include "design/view/designerwindow.h"
 #include "stage/protocol.h"
 #include "stage/view/stagefactory.h"
 
@@ -219,6 +220,9 @@ void TemplatePanel::openDesigner() {
     if (!design::copyToWorkingFile(appState().appPath, name))
         qCWarning(lcConsole) << "template" << name << "could not be copied to the working file";
     appState().skinFile = design::templatePath(appState().appPath, name);
-    ui().message(QStringLiteral("“%1”功能即将推出,敬请期待。").arg(QStringLiteral("模板编辑")),
-                 MsgStyle::Information, titles::notice);
+    // Saving in the designer raises templateSaved, which reloads this preview.
+    auto *designer = new DesignerWindow(window());
+    designer->setAttribute(Qt::WA_DeleteOnClose);
+    designer->setWindowModality(Qt::ApplicationModal);
+    designer->show();
 }
