@@ -14,6 +14,7 @@ packages=(
   qt6-svg-dev qt6-image-formats-plugins
   libsqlite3-dev libfreexl-dev libzip-dev
   fonts-noto-cjk xvfb xauth sqlite3
+  qt6-tools-dev qt6-l10n-tools qt6-translations-l10n appstream dpkg-dev file
 )
 
 # One query for all of them: starting dpkg-query once per package is most of the time taken.

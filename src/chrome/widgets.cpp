@@ -1,5 +1,6 @@
 #include "chrome/widgets.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QMouseEvent>
 #include <QPainter>
@@ -124,7 +125,7 @@ QHBoxLayout *okEscButtons(QWidget *dialog, QPushButton **ok, QPushButton **esc,
     (*ok)->setObjectName(QStringLiteral("okButton"));
     (*ok)->setDefault(true);
     (*ok)->setAutoDefault(false);
-    *esc = new QPushButton(QStringLiteral("退出"), dialog);
+    *esc = new QPushButton(QCoreApplication::translate("chrome", "退出"), dialog);
     (*esc)->setObjectName(QStringLiteral("escButton"));
     (*esc)->setAutoDefault(false);
     auto *row = new QHBoxLayout;

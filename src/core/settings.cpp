@@ -1,5 +1,7 @@
 #include "core/settings.h"
 
+#include <QCoreApplication>
+
 #include "core/appstate.h"
 #include "core/profile.h"
 
@@ -42,7 +44,8 @@ const MainKey &findKey(const QString &key) {
 }
 
 QString badNumber(const QString &section, const QString &key, const QString &text) {
-    return QStringLiteral("配置文件 config.ini 中 [%1] %2 的值“%3”不是有效的整数")
+    return QCoreApplication::translate("settings",
+                                       "配置文件 config.ini 中 [%1] %2 的值“%3”不是有效的整数")
         .arg(section, key, text);
 }
 
@@ -67,7 +70,9 @@ bool loadMain(QString *error) {
     AppState &state = appState();
     const ProfileFile profile(state.iniPath);
     if (!profile.exists()) {
-        if (error) *error = QStringLiteral("找不到配置文件: %1").arg(state.iniPath);
+        if (error)
+            *error =
+                QCoreApplication::translate("settings", "找不到配置文件: %1").arg(state.iniPath);
         return false;
     }
     for (const MainKey &entry : kMainKeys) {
@@ -99,6 +104,10 @@ void write(const QString &key, int value) {
 
 QString tutorialUrl() {
     return readIni(kMain, QStringLiteral("TutorialUrl"), appState().iniPath).trimmed();
+}
+
+QString language() {
+    return readIni(kMain, QStringLiteral("language"), appState().iniPath).trimmed();
 }
 
 }  // namespace settings

@@ -29,4 +29,8 @@ bool readInt(const QString &section, const QString &key, qint16 *value, QString 
 // the deployment has none: the program itself never goes online.
 QString tutorialUrl();
 
+// The key language of section main: "en" or "zh_CN" names the program's language, empty follows
+// the system.
+QString language();
+
 }  // namespace settings

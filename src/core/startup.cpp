@@ -1,5 +1,6 @@
 #include "core/startup.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QLockFile>
 
@@ -43,7 +44,8 @@ void setPaths(AppState &state, const QString &appPath) {
 bool checkMovies(const AppState &state, QString *error) {
     for (const QString &movie : {state.moviePreview, state.movieStage}) {
         if (!QFileInfo(state.path(movie)).isFile()) {
-            *error = QStringLiteral("找不到舞台文件: %1").arg(state.path(movie));
+            *error =
+                QCoreApplication::translate("startup", "找不到舞台文件: %1").arg(state.path(movie));
             return false;
         }
     }
@@ -53,18 +55,19 @@ bool checkMovies(const AppState &state, QString *error) {
 }  // namespace
 
 void loadError(const QString &text) {
-    ui().message(text, MsgStyle::Critical, QStringLiteral("加载错误"));
+    ui().message(text, MsgStyle::Critical, QCoreApplication::translate("startup", "加载错误"));
 }
 
 bool startUp(const QString &executableDir) {
     AppState &state = appState();
     const QString appPath = programfolder::resolve(executableDir);
     if (appPath.isEmpty()) {
-        loadError(QStringLiteral("找不到程序文件夹,请重新安装程序。"));
+        loadError(QCoreApplication::translate("startup", "找不到程序文件夹,请重新安装程序。"));
         return false;
     }
     if (!takeInstanceLock(appPath)) {
-        ui().message(QStringLiteral("程序已经在运行!!"), MsgStyle::Exclamation, titles::notice);
+        ui().message(QCoreApplication::translate("startup", "程序已经在运行!!"),
+                     MsgStyle::Exclamation, titles::notice);
         return false;
     }
     setPaths(state, appPath);

@@ -1,5 +1,6 @@
 #include "core/store.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -33,7 +34,9 @@ QSqlDatabase addConnection(const QString &path, const QString &connection) {
 
 bool openFile(QSqlDatabase &db, const QString &path, QString *error) {
     if (db.open()) return true;
-    if (error) *error = QStringLiteral("无法打开数据文件 %1: %2").arg(path, db.lastError().text());
+    if (error)
+        *error = QCoreApplication::translate("store", "无法打开数据文件 %1: %2")
+                     .arg(path, db.lastError().text());
     return false;
 }
 
@@ -101,7 +104,7 @@ QSqlDatabase mainConn() {
 
 bool open(const QString &path, QString *error, const QString &connection) {
     if (!QFileInfo(path).isFile()) {
-        setError(error, QStringLiteral("找不到数据文件: %1").arg(path));
+        setError(error, QCoreApplication::translate("store", "找不到数据文件: %1").arg(path));
         return false;
     }
     QSqlDatabase db = addConnection(path, connection);
@@ -131,7 +134,7 @@ void close(const QString &connection) {
 bool applyScript(QSqlDatabase db, const QString &resource, QString *error) {
     QFile file(resource);
     if (!file.open(QIODevice::ReadOnly)) {
-        setError(error, QStringLiteral("缺少内置脚本 %1").arg(resource));
+        setError(error, QCoreApplication::translate("store", "缺少内置脚本 %1").arg(resource));
         return false;
     }
     QString statement;
@@ -148,7 +151,7 @@ bool applyScript(QSqlDatabase db, const QString &resource, QString *error) {
 
 bool openTemplate(const QString &path, const QString &connection, QString *error, bool create) {
     if (!create && !QFileInfo(path).isFile()) {
-        setError(error, QStringLiteral("找不到模板文件: %1").arg(path));
+        setError(error, QCoreApplication::translate("store", "找不到模板文件: %1").arg(path));
         return false;
     }
     QSqlDatabase db = addConnection(path, connection);

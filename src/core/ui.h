@@ -7,6 +7,8 @@
 
 #include <memory>
 
+#include "core/language.h"
+
 enum class MsgStyle { Information, Exclamation, Critical };
 
 // Every message box, question, input box, file and colour dialog of the program goes through
@@ -46,7 +48,7 @@ void setUi(std::unique_ptr<Ui> service);
 
 // Common titles.
 namespace titles {
-inline const QString notice = QStringLiteral("提示");
-inline const QString warning = QStringLiteral("警告");
-inline const QString error = QStringLiteral("错误");
+inline const TranslatedText notice{"titles", QT_TRANSLATE_NOOP("titles", "提示")};
+inline const TranslatedText warning{"titles", QT_TRANSLATE_NOOP("titles", "警告")};
+inline const TranslatedText error{"titles", QT_TRANSLATE_NOOP("titles", "错误")};
 }  // namespace titles

@@ -1,5 +1,6 @@
 #include "results/exportwinners.h"
 
+#include <QCoreApplication>
 #include <QSaveFile>
 
 #include "core/appstate.h"
@@ -14,9 +15,13 @@ namespace {
 const QByteArray kLineEnd = QByteArrayLiteral("\r\n");
 
 // The third title is written this way on purpose; it differs from the printed "奖品名称".
-const QStringList kHeader = {QStringLiteral("序号"), QStringLiteral("奖项名称"),
-                             QStringLiteral("奖品成名"), QStringLiteral("中奖名单"),
-                             QStringLiteral("备注")};
+QStringList header() {
+    return {QCoreApplication::translate("results", "序号"),
+            QCoreApplication::translate("results", "奖项名称"),
+            QCoreApplication::translate("results", "奖品成名"),
+            QCoreApplication::translate("results", "中奖名单"),
+            QCoreApplication::translate("results", "备注")};
+}
 
 QByteArray csvField(const QString &text) {
     QByteArray bytes = text.toUtf8();
@@ -29,7 +34,7 @@ QByteArray csvField(const QString &text) {
 
 QByteArray winnersCsv() {
     QSqlDatabase db = store::mainConn();
-    QByteArray out = QByteArrayLiteral("\xEF\xBB\xBF") + csvLine(kHeader) + kLineEnd;
+    QByteArray out = QByteArrayLiteral("\xEF\xBB\xBF") + csvLine(header()) + kLineEnd;
     int number = 1;
     for (const Award &award : awardsInOrder(db)) {
         const auto winners = winnersOf(db, award.id, WinnerOrder::EarliestFirst);
@@ -55,16 +60,19 @@ QByteArray csvLine(const QStringList &fields) {
 QString defaultExportPath(const QDateTime &time) {
     const QDate date = time.date();
     const QTime clock = time.time();
-    return appState().path(QStringLiteral("record/中奖记录")) + QString::number(date.year()) +
-           QString::number(date.month()) + QString::number(date.day()) +
-           QString::number(clock.hour()) + QString::number(clock.minute()) + QStringLiteral(".csv");
+    return appState().path(QStringLiteral("record/") +
+                           QCoreApplication::translate("results", "中奖记录")) +
+           QString::number(date.year()) + QString::number(date.month()) +
+           QString::number(date.day()) + QString::number(clock.hour()) +
+           QString::number(clock.minute()) + QStringLiteral(".csv");
 }
 
 }  // namespace results
 
 QString exportWinners(const QString &path, bool showDone) {
     if (results::awardsInOrder(store::mainConn()).isEmpty()) {
-        ui().message(QStringLiteral("没有奖项导出失败!"), MsgStyle::Exclamation, titles::warning);
+        ui().message(QCoreApplication::translate("results", "没有奖项导出失败!"),
+                     MsgStyle::Exclamation, titles::warning);
         return QString();
     }
     const QString target =
@@ -76,7 +84,8 @@ QString exportWinners(const QString &path, bool showDone) {
         return QString();
     }
     if (showDone)
-        ui().message(target + QStringLiteral("\n导出名单完毕!!"), MsgStyle::Information,
-                     titles::notice);
+        ui().message(
+            target + QLatin1Char('\n') + QCoreApplication::translate("results", "导出名单完毕!!"),
+            MsgStyle::Information, titles::notice);
     return target;
 }

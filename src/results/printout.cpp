@@ -1,6 +1,7 @@
 #include "results/printout.h"
 
 #include <QColor>
+#include <QCoreApplication>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPageLayout>
@@ -26,10 +27,11 @@ constexpr double kRowPitch = (kHeight - kHeadHeight) / (kLaterPageRows + 1);
 constexpr double kPadding = 1.5;
 constexpr double kColumns[] = {20.0, 30.0, 40.0, 80.0};
 
-const QStringList &headTitles() {
-    static const QStringList titles = {QStringLiteral("序号"), QStringLiteral("奖项名称"),
-                                       QStringLiteral("奖品名称"), QStringLiteral("中奖名单")};
-    return titles;
+QStringList headTitles() {
+    return {QCoreApplication::translate("results", "序号"),
+            QCoreApplication::translate("results", "奖项名称"),
+            QCoreApplication::translate("results", "奖品名称"),
+            QCoreApplication::translate("results", "中奖名单")};
 }
 
 QFont font(const QString &family, double points, bool bold) {
@@ -135,10 +137,10 @@ QList<int> paginate(int rowCount) {
 }
 
 QString footText(const Document &document, int page, bool lastPage) {
-    const QString number = QStringLiteral("当前第") + QString::number(page) + QStringLiteral("页");
+    const QString number = QCoreApplication::translate("results", "当前第%1页").arg(page);
     if (!document.footWithTime) return number;
     return number + (lastPage ? QStringLiteral("  ") : QStringLiteral(" ")) +
-           QStringLiteral("打印时间∶") + document.printTime;
+           QCoreApplication::translate("results", "打印时间∶%1").arg(document.printTime);
 }
 
 void paintPage(QPainter &painter, double dotsPerMm, const Document &document, int page) {

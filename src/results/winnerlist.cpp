@@ -1,5 +1,6 @@
 #include "results/winnerlist.h"
 
+#include <QCoreApplication>
 #include <QSqlError>
 #include <QSqlQuery>
 
@@ -19,20 +20,20 @@ void setStatus(WinnerListRow &row, const QVariant &status) {
     const int value = status.isNull() ? -1 : status.toInt();
     switch (value) {
         case 0:
-            row.status = QStringLiteral("正常");
+            row.status = QCoreApplication::translate("results", "正常");
             break;
         case 1:
-            row.status = QStringLiteral("弃奖");
+            row.status = QCoreApplication::translate("results", "弃奖");
             row.greyRow = true;
             break;
         case 2:
-            row.status = QStringLiteral("已领奖");
+            row.status = QCoreApplication::translate("results", "已领奖");
             break;
         case 3:
-            row.status = QStringLiteral("中奖");
+            row.status = QCoreApplication::translate("results", "中奖");
             break;
         default:
-            row.status = QStringLiteral("未知");
+            row.status = QCoreApplication::translate("results", "未知");
             row.greyStatus = true;
     }
 }
@@ -81,11 +82,11 @@ WinnerList readWinnerList(QSqlDatabase db) {
 }
 
 QString winnerCountText(const WinnerList &list) {
-    return QStringLiteral("中奖人数：") + QString::number(list.rows.size());
+    return QCoreApplication::translate("results", "中奖人数：%1").arg(list.rows.size());
 }
 
 QString prizeTotalText(const WinnerList &list) {
-    return QStringLiteral("奖品总数：") + QString::number(list.prizeTotal);
+    return QCoreApplication::translate("results", "奖品总数：%1").arg(list.prizeTotal);
 }
 
 }  // namespace results

@@ -1,5 +1,6 @@
 #include "sound/hotkeys.h"
 
+#include <QCoreApplication>
 #include <QSqlQuery>
 #include <QVariant>
 
@@ -27,26 +28,29 @@ bool isTaken(QSqlDatabase db, int row, int code) {
 }  // namespace
 
 QString keyName(int code) {
-    if (code >= 65 && code <= 90) return QChar(code) + QStringLiteral("键");
-    if (code >= 48 && code <= 57) return QStringLiteral("数字") + QChar(code);
-    if (code >= 96 && code <= 105) return QStringLiteral("小键盘数字") + QChar(code - 48);
+    if (code >= 65 && code <= 90)
+        return QCoreApplication::translate("hotkeys", "%1键").arg(QChar(code));
+    if (code >= 48 && code <= 57)
+        return QCoreApplication::translate("hotkeys", "数字%1").arg(QChar(code));
+    if (code >= 96 && code <= 105)
+        return QCoreApplication::translate("hotkeys", "小键盘数字%1").arg(QChar(code - 48));
     switch (code) {
         case 8:
-            return QStringLiteral("BackSpace键");
+            return QCoreApplication::translate("hotkeys", "BackSpace键");
         case 13:
-            return QStringLiteral("回车键(Enter)");
+            return QCoreApplication::translate("hotkeys", "回车键(Enter)");
         case 32:
-            return QStringLiteral("空格键(Space)");
+            return QCoreApplication::translate("hotkeys", "空格键(Space)");
         case 33:
-            return QStringLiteral("PageUp键");
+            return QCoreApplication::translate("hotkeys", "PageUp键");
         case 34:
-            return QStringLiteral("PageDown键");
+            return QCoreApplication::translate("hotkeys", "PageDown键");
         case 38:
-            return QStringLiteral("↑键");
+            return QCoreApplication::translate("hotkeys", "↑键");
         case 40:
-            return QStringLiteral("↓键");
+            return QCoreApplication::translate("hotkeys", "↓键");
         case 46:
-            return QStringLiteral("Delete键");
+            return QCoreApplication::translate("hotkeys", "Delete键");
         default:
             return kUnsupported;
     }

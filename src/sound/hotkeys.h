@@ -5,6 +5,8 @@
 #include <QString>
 #include <Qt>
 
+#include "core/language.h"
+
 // The nine draw-screen hotkeys as stored in KeyBoard: key codes in the numbering the stored data
 // uses (letters 65-90, digits 48-57, keypad digits 96-105, Enter 13, Space 32, arrows 37-40...),
 // -1 for "no key".
@@ -13,9 +15,9 @@ namespace hotkeys {
 constexpr int kRowCount = 9;
 constexpr int kNoKey = -1;
 
-inline const QString kUnsupported = QStringLiteral("不支持该键");
-inline const QString kClash = QStringLiteral("重复,保存失效");
-inline const QString kNone = QStringLiteral("无");
+inline const TranslatedText kUnsupported{"hotkeys", QT_TRANSLATE_NOOP("hotkeys", "不支持该键")};
+inline const TranslatedText kClash{"hotkeys", QT_TRANSLATE_NOOP("hotkeys", "重复,保存失效")};
+inline const TranslatedText kNone{"hotkeys", QT_TRANSLATE_NOOP("hotkeys", "无")};
 
 // The text shown for a key code; kUnsupported for every code the draw cannot use, on purpose
 // also left and right (they step between awards) and the function keys.

@@ -1,5 +1,6 @@
 #include "results/view/printwinners.h"
 
+#include <QCoreApplication>
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -17,7 +18,7 @@ std::unique_ptr<QPagedPaintDevice> defaultPrinter() {
     if (info.isNull()) return nullptr;
     auto printer = std::make_unique<QPrinter>(info, QPrinter::HighResolution);
     printer->setFullPage(true);
-    printer->setDocName(QStringLiteral("中奖名单"));
+    printer->setDocName(QCoreApplication::translate("results", "中奖名单"));
     return printer;
 }
 
@@ -29,25 +30,28 @@ PrinterFactory &printerFactory() {
 // The printer, or after "找不到打印机" a PDF file the operator names; null when there is neither.
 std::unique_ptr<QPagedPaintDevice> openPrinter() {
     if (auto device = printerFactory()()) return device;
-    ui().message(QStringLiteral("找不到打印机"), MsgStyle::Exclamation, titles::warning);
-    const QString file =
-        ui().saveFile(QStringLiteral("保存为PDF文件"), QStringLiteral("中奖名单.pdf"),
-                      QStringLiteral("PDF文件 (*.pdf)"));
+    ui().message(QCoreApplication::translate("results", "找不到打印机"), MsgStyle::Exclamation,
+                 titles::warning);
+    const QString file = ui().saveFile(QCoreApplication::translate("results", "保存为PDF文件"),
+                                       QCoreApplication::translate("results", "中奖名单.pdf"),
+                                       QCoreApplication::translate("results", "PDF文件 (*.pdf)"));
     if (file.isEmpty()) return nullptr;
     auto writer = std::make_unique<QPdfWriter>(file);
     writer->setResolution(600);
-    writer->setTitle(QStringLiteral("中奖名单"));
+    writer->setTitle(QCoreApplication::translate("results", "中奖名单"));
     return writer;
 }
 
 bool paint(QPagedPaintDevice *device, const printout::Document &document) {
     if (printout::paintDocument(device, document) > 0) return true;
-    ui().message(QStringLiteral("打印错误"), MsgStyle::Critical, titles::error);
+    ui().message(QCoreApplication::translate("results", "打印错误"), MsgStyle::Critical,
+                 titles::error);
     return false;
 }
 
 void sayNoAward() {
-    ui().message(QStringLiteral("没有奖项无法打印!"), MsgStyle::Exclamation, titles::warning);
+    ui().message(QCoreApplication::translate("results", "没有奖项无法打印!"), MsgStyle::Exclamation,
+                 titles::warning);
 }
 
 printout::Row printRow(int number, const results::Award &award, const results::Winner &winner) {
@@ -76,7 +80,9 @@ bool printWinners(bool showDone) {
              results::winnersOf(db, award.id, results::WinnerOrder::LatestFirst))
             document.rows.append(printRow(document.rows.size() + 1, award, winner));
     if (!paint(device.get(), document)) return false;
-    if (showDone) ui().message(QStringLiteral("打印完成!"), MsgStyle::Information, titles::notice);
+    if (showDone)
+        ui().message(QCoreApplication::translate("results", "打印完成!"), MsgStyle::Information,
+                     titles::notice);
     return true;
 }
 
@@ -88,7 +94,8 @@ bool printBatch(const QString &ids, int awardId) {
         if (ok) idList << id;
     }
     if (idList.isEmpty()) {
-        ui().message(QStringLiteral("找不到当前获奖名单!"), MsgStyle::Exclamation, titles::warning);
+        ui().message(QCoreApplication::translate("results", "找不到当前获奖名单!"),
+                     MsgStyle::Exclamation, titles::warning);
         return false;
     }
     const auto device = openPrinter();
@@ -106,6 +113,7 @@ bool printBatch(const QString &ids, int awardId) {
     for (const results::Winner &winner : results::participantsById(db, idList))
         document.rows.append(printRow(document.rows.size() + 1, award, winner));
     if (!paint(device.get(), document)) return false;
-    ui().message(QStringLiteral("当前中奖名单打印完成!"), MsgStyle::Information, titles::notice);
+    ui().message(QCoreApplication::translate("results", "当前中奖名单打印完成!"),
+                 MsgStyle::Information, titles::notice);
     return true;
 }

@@ -32,7 +32,7 @@ QPushButton *toolButton(const QString &icon, const QString &caption, QWidget *pa
 }  // namespace
 
 WinnerListDialog::WinnerListDialog(QWidget *parent) : QDialog(parent) {
-    setWindowTitle(QStringLiteral("查看中奖"));
+    setWindowTitle(tr("查看中奖"));
     buildList();
     m_winnerCountLabel = new QLabel(this);
     m_winnerCountLabel->setObjectName(QStringLiteral("winnerCountLabel"));
@@ -64,11 +64,11 @@ WinnerListDialog::WinnerListDialog(QWidget *parent) : QDialog(parent) {
 
 QWidget *WinnerListDialog::buildToolbar() {
     auto *bar = new QWidget(this);
-    m_exportButton = toolButton(QStringLiteral("export"), QStringLiteral("导出名单"), bar);
+    m_exportButton = toolButton(QStringLiteral("export"), tr("导出名单"), bar);
     m_exportButton->setObjectName(QStringLiteral("exportButton"));
-    m_printButton = toolButton(QStringLiteral("print"), QStringLiteral("打印名单"), bar);
+    m_printButton = toolButton(QStringLiteral("print"), tr("打印名单"), bar);
     m_printButton->setObjectName(QStringLiteral("printButton"));
-    auto *hint = new QLabel(QStringLiteral("按奖项顺序列出每一个中奖记录"), bar);
+    auto *hint = new QLabel(tr("按奖项顺序列出每一个中奖记录"), bar);
     hint->setProperty("role", "hint");
     auto *layout = new QHBoxLayout(bar);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -83,9 +83,8 @@ void WinnerListDialog::buildList() {
     m_winnerList = new QTreeWidget(this);
     m_winnerList->setObjectName(QStringLiteral("winnerList"));
     m_winnerList->setColumnCount(ColumnCount);
-    m_winnerList->setHeaderLabels({QStringLiteral("序号"), QStringLiteral("奖项名称"),
-                                   QStringLiteral("奖品名称"), QStringLiteral("中奖名单"),
-                                   QStringLiteral("备注"), QStringLiteral("状态")});
+    m_winnerList->setHeaderLabels(
+        {tr("序号"), tr("奖项名称"), tr("奖品名称"), tr("中奖名单"), tr("备注"), tr("状态")});
     style::styleList(m_winnerList);
     const int widths[] = {60, 120, 150, 130, 150};
     for (int column = 0; column < StatusColumn; ++column)

@@ -20,9 +20,16 @@
 
 namespace {
 
-const char *const kCaptions[hotkeys::kRowCount] = {"开始抽奖∶", "停止抽奖∶", "取消滚动∶",
-                                                   "撤消中奖∶", "导出中奖∶", "打印中奖∶",
-                                                   "中奖播放∶", "音量控制∶", "全屏切换∶"};
+const char *const kCaptions[hotkeys::kRowCount] = {
+    QT_TRANSLATE_NOOP("HotkeySettingsDialog", "开始抽奖∶"),
+    QT_TRANSLATE_NOOP("HotkeySettingsDialog", "停止抽奖∶"),
+    QT_TRANSLATE_NOOP("HotkeySettingsDialog", "取消滚动∶"),
+    QT_TRANSLATE_NOOP("HotkeySettingsDialog", "撤消中奖∶"),
+    QT_TRANSLATE_NOOP("HotkeySettingsDialog", "导出中奖∶"),
+    QT_TRANSLATE_NOOP("HotkeySettingsDialog", "打印中奖∶"),
+    QT_TRANSLATE_NOOP("HotkeySettingsDialog", "中奖播放∶"),
+    QT_TRANSLATE_NOOP("HotkeySettingsDialog", "音量控制∶"),
+    QT_TRANSLATE_NOOP("HotkeySettingsDialog", "全屏切换∶")};
 // The first word of each row's object names.
 const char *const kRowNames[hotkeys::kRowCount] = {"start", "stop",   "clear", "cancel", "export",
                                                    "print", "parade", "sound", "screen"};
@@ -30,13 +37,12 @@ const char *const kRowNames[hotkeys::kRowCount] = {"start", "stop",   "clear", "
 }  // namespace
 
 HotkeySettingsDialog::HotkeySettingsDialog(QWidget *parent) : QDialog(parent) {
-    setWindowTitle(QStringLiteral("快捷键设置"));
-    QHBoxLayout *buttons =
-        okEscButtons(this, &m_saveButton, &m_cancelButton, QStringLiteral("保存"));
+    setWindowTitle(tr("快捷键设置"));
+    QHBoxLayout *buttons = okEscButtons(this, &m_saveButton, &m_cancelButton, tr("保存"));
     m_saveButton->setObjectName(QStringLiteral("saveButton"));
     m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
-    auto *hint = new QLabel(
-        QStringLiteral("点击输入框后直接按下要设置的键。开始与停止可以使用同一个键。"), this);
+    auto *hint =
+        new QLabel(tr("点击输入框后直接按下要设置的键。开始与停止可以使用同一个键。"), this);
     hint->setProperty("role", QStringLiteral("hint"));
     hint->setWordWrap(true);
 
@@ -55,16 +61,16 @@ HotkeySettingsDialog::HotkeySettingsDialog(QWidget *parent) : QDialog(parent) {
 }
 
 QWidget *HotkeySettingsDialog::buildKeyRows() {
-    auto *box = new QGroupBox(QStringLiteral("抽奖快捷键"), this);
+    auto *box = new QGroupBox(tr("抽奖快捷键"), this);
     auto *grid = new QGridLayout(box);
     grid->setColumnStretch(1, 1);
     for (int i = 0; i < hotkeys::kRowCount; ++i) {
         const QString name = QLatin1String(kRowNames[i]);
-        auto *caption = new QLabel(QString::fromUtf8(kCaptions[i]), box);
+        auto *caption = new QLabel(tr(kCaptions[i]), box);
         caption->setObjectName(name + QStringLiteral("KeyCaption"));
         auto *edit = new QLineEdit(hotkeys::kNone, box);
         edit->setObjectName(name + QStringLiteral("KeyEdit"));
-        edit->setToolTip(QStringLiteral("直接按下您需要设置的键"));
+        edit->setToolTip(tr("直接按下您需要设置的键"));
         edit->setMinimumWidth(190);
         edit->setContextMenuPolicy(Qt::NoContextMenu);
         edit->installEventFilter(this);
@@ -84,10 +90,10 @@ QWidget *HotkeySettingsDialog::buildKeyRows() {
 }
 
 QWidget *HotkeySettingsDialog::buildGuardRow() {
-    auto *box = new QGroupBox(QStringLiteral("防误操作"), this);
-    m_guardBox = new QCheckBox(QStringLiteral("开始/停止按键间隔时间(单位∶秒)"), box);
+    auto *box = new QGroupBox(tr("防误操作"), this);
+    m_guardBox = new QCheckBox(tr("开始/停止按键间隔时间(单位∶秒)"), box);
     m_guardBox->setObjectName(QStringLiteral("guardBox"));
-    m_guardBox->setToolTip(QStringLiteral("启用后在开始抽奖后的指定时间内无法按停止键"));
+    m_guardBox->setToolTip(tr("启用后在开始抽奖后的指定时间内无法按停止键"));
     m_guardSlider = new QSlider(Qt::Horizontal, box);
     m_guardSlider->setObjectName(QStringLiteral("guardSlider"));
     m_guardSlider->setRange(1, 100);
@@ -127,7 +133,7 @@ void HotkeySettingsDialog::load() {
 }
 
 void HotkeySettingsDialog::showGuardTime(int seconds) {
-    m_guardLabel->setText(QString::number(seconds) + QStringLiteral(" 秒"));
+    m_guardLabel->setText(tr("%1 秒").arg(seconds));
 }
 
 void HotkeySettingsDialog::setKeyText(int row, const QString &text, bool bad) {

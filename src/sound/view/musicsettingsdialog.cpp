@@ -14,31 +14,40 @@
 #include "chrome/widgets.h"
 #include "core/appstate.h"
 #include "core/helpers.h"
+#include "core/language.h"
 #include "core/ui.h"
 #include "sound/musicplayer.h"
 
 namespace {
 
-const char *const kCaptions[music::SlotCount] = {"背景音乐", "开始抽奖音乐", "中奖提示音乐",
-                                                 "播放中奖音乐"};
-const char *const kTips[music::SlotCount] = {"启用或禁止背景音乐", "启用或禁止抽奖音乐",
-                                             "启用或禁止中奖音乐", ""};
+const char *const kCaptions[music::SlotCount] = {
+    QT_TRANSLATE_NOOP("MusicSettingsDialog", "背景音乐"),
+    QT_TRANSLATE_NOOP("MusicSettingsDialog", "开始抽奖音乐"),
+    QT_TRANSLATE_NOOP("MusicSettingsDialog", "中奖提示音乐"),
+    QT_TRANSLATE_NOOP("MusicSettingsDialog", "播放中奖音乐")};
+const char *const kTips[music::SlotCount] = {
+    QT_TRANSLATE_NOOP("MusicSettingsDialog", "启用或禁止背景音乐"),
+    QT_TRANSLATE_NOOP("MusicSettingsDialog", "启用或禁止抽奖音乐"),
+    QT_TRANSLATE_NOOP("MusicSettingsDialog", "启用或禁止中奖音乐"), ""};
 // The first word of each row's object names, by music::Slot.
 const char *const kRowNames[music::SlotCount] = {"background", "start", "win", "parade"};
-const QString kNotSet = QStringLiteral("未设置音乐");
-const QString kFilter = QStringLiteral(
-    "音乐文件(*.mp3,*.wav)|*.mp3;*.wav|MP3 Files(*.mp3)|*.mp3|WAV Files(*.wav)|*.wav");
+const TranslatedText kNotSet{"MusicSettingsDialog",
+                             QT_TRANSLATE_NOOP("MusicSettingsDialog", "未设置音乐")};
+const TranslatedText kFilter{
+    "MusicSettingsDialog",
+    QT_TRANSLATE_NOOP(
+        "MusicSettingsDialog",
+        "音乐文件(*.mp3,*.wav)|*.mp3;*.wav|MP3 Files(*.mp3)|*.mp3|WAV Files(*.wav)|*.wav")};
 
 }  // namespace
 
 MusicSettingsDialog::MusicSettingsDialog(QWidget *parent) : QDialog(parent) {
-    setWindowTitle(QStringLiteral("音乐设置"));
-    QHBoxLayout *buttons =
-        okEscButtons(this, &m_saveButton, &m_cancelButton, QStringLiteral("保存"));
+    setWindowTitle(tr("音乐设置"));
+    QHBoxLayout *buttons = okEscButtons(this, &m_saveButton, &m_cancelButton, tr("保存"));
     m_saveButton->setObjectName(QStringLiteral("saveButton"));
     m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
-    auto *hint = new QLabel(
-        QStringLiteral("保存时选择的音乐会复制到程序的 Music 文件夹,程序搬到别处也能找到。"), this);
+    auto *hint =
+        new QLabel(tr("保存时选择的音乐会复制到程序的 Music 文件夹,程序搬到别处也能找到。"), this);
     hint->setProperty("role", QStringLiteral("hint"));
     hint->setWordWrap(true);
 
@@ -67,20 +76,20 @@ QWidget *MusicSettingsDialog::buildRows() {
     for (int i = 0; i < music::SlotCount; ++i) {
         SoundRow &row = m_rows[size_t(i)];
         const QString name = QLatin1String(kRowNames[i]);
-        row.enabledBox = new QCheckBox(QString::fromUtf8(kCaptions[i]), box);
+        row.enabledBox = new QCheckBox(tr(kCaptions[i]), box);
         row.enabledBox->setObjectName(name + QStringLiteral("EnabledBox"));
-        if (*kTips[i]) row.enabledBox->setToolTip(QString::fromUtf8(kTips[i]));
+        if (*kTips[i]) row.enabledBox->setToolTip(tr(kTips[i]));
         row.frame = new QFrame(box);
         row.frame->setObjectName(name + QStringLiteral("Frame"));
         row.frame->setFrameShape(QFrame::StyledPanel);
         row.fileLabel = new QLabel(kNotSet, row.frame);
         row.fileLabel->setObjectName(name + QStringLiteral("FileLabel"));
         row.fileLabel->setMinimumWidth(220);
-        row.chooseButton = new QPushButton(QStringLiteral("设置"), row.frame);
+        row.chooseButton = new QPushButton(tr("设置"), row.frame);
         row.chooseButton->setObjectName(name + QStringLiteral("ChooseButton"));
-        row.listenButton = new QPushButton(QStringLiteral("试听"), row.frame);
+        row.listenButton = new QPushButton(tr("试听"), row.frame);
         row.listenButton->setObjectName(name + QStringLiteral("ListenButton"));
-        row.stopButton = new QPushButton(QStringLiteral("停止"), row.frame);
+        row.stopButton = new QPushButton(tr("停止"), row.frame);
         row.stopButton->setObjectName(name + QStringLiteral("StopButton"));
         row.stopButton->setEnabled(false);
         auto *line = new QHBoxLayout(row.frame);
@@ -140,7 +149,7 @@ void MusicSettingsDialog::chooseFile(int row) {
     const QString current = m_rows[size_t(row)].path;
     const QString folder = current.isEmpty() ? appState().path(QStringLiteral("sys/"))
                                              : QFileInfo(current).absolutePath();
-    const QString file = ui().openFile(QStringLiteral("添加音乐"), folder, dialogFilter(kFilter));
+    const QString file = ui().openFile(tr("添加音乐"), folder, dialogFilter(kFilter));
     if (file.isEmpty() || !fileExists(file)) return;
     m_rows[size_t(row)].fileLabel->setText(QFileInfo(file).fileName());
     setPath(row, file);
@@ -196,6 +205,6 @@ void MusicSettingsDialog::save() {
     }
     music::saveSettings(appState().appPath, chosen);
     releasePlayer();
-    ui().message(QStringLiteral("音乐设置保存成功!"), MsgStyle::Information, titles::notice);
+    ui().message(tr("音乐设置保存成功!"), MsgStyle::Information, titles::notice);
     accept();
 }
