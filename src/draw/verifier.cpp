@@ -21,6 +21,8 @@ namespace draw {
 namespace {
 
 constexpr size_t kNone = size_t(-1);
+// A gap in the press numbers wider than this is a damaged number, not missing presses.
+constexpr quint64 kMaxGap = 100000;
 
 struct SessionState {
     QString commit;
@@ -60,12 +62,15 @@ private:
     void reset();
     void close(const AuditEvent &event);
     size_t newVerdict(const QString &session, quint64 number, int awardId);
-    size_t verdictOf(const AuditEvent &event) const;
+    size_t verdictOf(const AuditEvent &event);
     void problem(size_t verdict, const QString &text);
     void checkStore(QSqlDatabase store);
 
     RosterFileReader m_readRosterFile;
     QByteArray m_previousLine;
+    qint64 m_previousSeq = 0;
+    size_t m_previousOwner = kNone;
+    std::set<QString> m_seenHashes;
     Roster m_roster;
     Standings m_standings;
     std::map<QString, SessionState> m_sessions;
@@ -94,26 +99,49 @@ size_t Replay::newVerdict(const QString &session, quint64 number, int awardId) {
     return index;
 }
 
-size_t Replay::verdictOf(const AuditEvent &event) const {
+// The press a record or cancel names. One the log has not shown yet was removed or moved:
+// it and any others skipped are marked missing.
+size_t Replay::verdictOf(const AuditEvent &event) {
     if (!event.has(QStringLiteral("press"))) return m_lastVerdict;
-    const auto found = m_verdicts.find(idOf(event.value(QStringLiteral("session")),
-                                            event.value(QStringLiteral("press")).toULongLong()));
-    return found == m_verdicts.end() ? m_lastVerdict : found->second;
+    const QString session = event.value(QStringLiteral("session"));
+    const quint64 number = event.value(QStringLiteral("press")).toULongLong();
+    const auto found = m_verdicts.find(idOf(session, number));
+    if (found != m_verdicts.end()) return found->second;
+    SessionState &state = m_sessions[session];
+    if (number <= state.lastPress || number - state.lastPress > kMaxGap) return m_lastVerdict;
+    for (quint64 missing = state.lastPress + 1; missing <= number; ++missing)
+        problem(newVerdict(session, missing, 0), QStringLiteral("此次抽奖的记录缺失"));
+    state.lastPress = number;
+    return m_verdicts[idOf(session, number)];
 }
 
 void Replay::line(int number, const QString &text) {
     const QByteArray bytes = text.toUtf8();
-    const QString expectedPrev =
+    const QString previousHash =
         m_previousLine.isNull() ? chainStart() : sha256Hex(m_previousLine);
     m_previousLine = bytes;
     AuditLine parsed;
     if (!parseAuditLine(text, &parsed)) {
         problem(m_lastVerdict, QStringLiteral("第%1行无法读取").arg(number));
+        m_previousSeq = -1;
         return;
     }
+    const size_t previousOwner = m_previousOwner;
     const size_t owner = handle(parsed.event, number);
-    if (parsed.seq != number || parsed.prev != expectedPrev)
-        problem(owner, QStringLiteral("记录链在第%1行断开").arg(number));
+    m_previousOwner = owner;
+    const bool inOrder = parsed.seq == m_previousSeq + 1;
+    m_previousSeq = parsed.seq;
+    const bool chained = parsed.prev == previousHash;
+    m_seenHashes.insert(sha256Hex(bytes));
+    if (inOrder && chained) return;
+    const QString broken = QStringLiteral("记录链在第%1行断开").arg(number);
+    // In order but not chained: the line before was edited. Chained to a line met earlier: that
+    // line was moved, and its own place says so. Otherwise this line was moved or what came
+    // before it was removed.
+    if (inOrder)
+        problem(previousOwner, broken);
+    else if (!m_seenHashes.count(parsed.prev))
+        problem(owner, broken);
 }
 
 size_t Replay::handle(const AuditEvent &event, int lineNumber) {
@@ -158,7 +186,9 @@ size_t Replay::press(const AuditEvent &event) {
     PressRecord logged;
     const bool readable = parsePress(event, &logged);
     SessionState &state = m_sessions[session];
-    for (quint64 missing = state.lastPress + 1; readable && missing < logged.number; ++missing)
+    const bool plausible = logged.number - state.lastPress <= kMaxGap;
+    for (quint64 missing = state.lastPress + 1; readable && plausible && missing < logged.number;
+         ++missing)
         problem(newVerdict(session, missing, 0), QStringLiteral("此次抽奖的记录缺失"));
     const size_t verdict = newVerdict(session, logged.number, logged.awardId);
     m_lastVerdict = verdict;
@@ -264,7 +294,8 @@ void Replay::close(const AuditEvent &event) {
     const QString session = event.value(QStringLiteral("session"));
     SessionState &state = m_sessions[session];
     const quint64 presses = event.value(QStringLiteral("presses")).toULongLong();
-    for (quint64 missing = state.lastPress + 1; missing <= presses; ++missing)
+    for (quint64 missing = state.lastPress + 1;
+         missing <= presses && presses - state.lastPress <= kMaxGap; ++missing)
         problem(newVerdict(session, missing, 0), QStringLiteral("此次抽奖的记录缺失"));
     const QByteArray secret =
         QByteArray::fromHex(event.value(QStringLiteral("secret")).toLatin1());
