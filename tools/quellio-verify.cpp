@@ -22,7 +22,8 @@ const char *const kHelp =
 
 // The store as it is, read only: verifying never changes what it checks.
 QSqlDatabase openStoreReadOnly(const QString &path) {
-    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("verify"));
+    QSqlDatabase db =
+        QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("verify"));
     db.setDatabaseName(path);
     db.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
     if (QFileInfo::exists(path)) db.open();

@@ -110,8 +110,9 @@ bool giveUp(QSqlDatabase db, const QList<qint64> &ids, QString *error) {
                          {QStringLiteral("无"), id}, error);
         if (!ok) break;
     }
-    if (ok && !logDrawEvent(AuditEvent(auditevent::giveUp)
-                                .add(QStringLiteral("ids"), idListText({ids.begin(), ids.end()})))) {
+    if (ok &&
+        !logDrawEvent(AuditEvent(auditevent::giveUp)
+                          .add(QStringLiteral("ids"), idListText({ids.begin(), ids.end()})))) {
         ok = false;
         if (error) *error = kAuditWriteFailed;
     }

@@ -66,9 +66,10 @@ Standings readStandings(QSqlDatabase db) {
     Standings standings;
     QSqlQuery query(db);
     query.setForwardOnly(true);
-    query.exec(QStringLiteral("SELECT ID, JxID, UserStatus FROM UserList WHERE JxID > '' "
-                              "UNION SELECT ID, JxID, UserStatus FROM UserList "
-                              "WHERE UserStatus=1 OR UserStatus IS NULL"));
+    query.exec(
+        QStringLiteral("SELECT ID, JxID, UserStatus FROM UserList WHERE JxID > '' "
+                       "UNION SELECT ID, JxID, UserStatus FROM UserList "
+                       "WHERE UserStatus=1 OR UserStatus IS NULL"));
     while (query.next()) {
         const QVariant status = query.value(2);
         const Standing standing =

@@ -17,9 +17,9 @@ namespace draw {
 
 // What a participant's JxID and UserStatus mean for the pools.
 struct Standing {
-    bool out = false;        // UserStatus 1 (gave up) or none: never drawn
-    bool otherText = false;  // JxID holds more than award markers (a give-up's "无")
-    std::vector<int> awards; // the awards whose "|id|" JxID holds, ascending
+    bool out = false;         // UserStatus 1 (gave up) or none: never drawn
+    bool otherText = false;   // JxID holds more than award markers (a give-up's "无")
+    std::vector<int> awards;  // the awards whose "|id|" JxID holds, ascending
 
     bool holds(int awardId) const;
     bool hasAnyWin() const { return otherText || !awards.empty(); }

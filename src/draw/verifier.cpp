@@ -28,7 +28,7 @@ struct SessionState {
     QString commit;
     quint64 lastPress = 0;
     std::vector<std::pair<size_t, quint64>> seeds;  // verdict, logged seed
-    bool usable = false;                             // its roster could be read
+    bool usable = false;                            // its roster could be read
 };
 
 // A recorded batch: who won, and who of them still holds the win after the later events.
@@ -117,8 +117,7 @@ size_t Replay::verdictOf(const AuditEvent &event) {
 
 void Replay::line(int number, const QString &text) {
     const QByteArray bytes = text.toUtf8();
-    const QString previousHash =
-        m_previousLine.isNull() ? chainStart() : sha256Hex(m_previousLine);
+    const QString previousHash = m_previousLine.isNull() ? chainStart() : sha256Hex(m_previousLine);
     m_previousLine = bytes;
     AuditLine parsed;
     if (!parseAuditLine(text, &parsed)) {
@@ -196,8 +195,7 @@ size_t Replay::press(const AuditEvent &event) {
         problem(verdict, QStringLiteral("抽奖记录无法读取"));
         return verdict;
     }
-    if (logged.number <= state.lastPress)
-        problem(verdict, QStringLiteral("抽奖序号重复或倒退"));
+    if (logged.number <= state.lastPress) problem(verdict, QStringLiteral("抽奖序号重复或倒退"));
     state.lastPress = std::max(state.lastPress, logged.number);
     state.seeds.push_back({verdict, logged.seed});
     m_pressOf[verdict] = logged;
@@ -226,8 +224,7 @@ size_t Replay::record(const AuditEvent &event) {
     batch.awardId = event.value(QStringLiteral("award")).toInt();
     batch.storedAt = event.value(QStringLiteral("stored"));
     if (!parseIdList(event.value(QStringLiteral("winners")), &batch.winners) ||
-        press == m_pressOf.end() || verdict != m_lastVerdict ||
-        m_batchOf.count(verdict) != 0) {
+        press == m_pressOf.end() || verdict != m_lastVerdict || m_batchOf.count(verdict) != 0) {
         problem(verdict, QStringLiteral("入库记录找不到对应的抽奖"));
         return verdict;
     }
@@ -263,9 +260,8 @@ size_t Replay::cancel(const AuditEvent &event) {
         const auto found = m_standings.find(id);
         if (found == m_standings.end()) continue;
         Standing &standing = found->second;
-        standing.awards.erase(
-            std::remove(standing.awards.begin(), standing.awards.end(), awardId),
-            standing.awards.end());
+        standing.awards.erase(std::remove(standing.awards.begin(), standing.awards.end(), awardId),
+                              standing.awards.end());
         if (standing.awards.empty() && !standing.otherText) m_standings.erase(found);
     }
     return verdict;
@@ -297,8 +293,7 @@ void Replay::close(const AuditEvent &event) {
     for (quint64 missing = state.lastPress + 1;
          missing <= presses && presses - state.lastPress <= kMaxGap; ++missing)
         problem(newVerdict(session, missing, 0), QStringLiteral("此次抽奖的记录缺失"));
-    const QByteArray secret =
-        QByteArray::fromHex(event.value(QStringLiteral("secret")).toLatin1());
+    const QByteArray secret = QByteArray::fromHex(event.value(QStringLiteral("secret")).toLatin1());
     const bool committed = sha256Hex(secret) == state.commit;
     for (const auto &[verdict, seed] : state.seeds) {
         report.presses[verdict].revealed = true;
@@ -394,9 +389,11 @@ QString verdictText(const PressVerdict &verdict) {
                        .arg(verdict.awardId);
     text += verdict.holds() ? QStringLiteral("相符") : QStringLiteral("不符");
     QStringList notes;
-    if (verdict.recorded) notes << (verdict.cancelled ? QStringLiteral("已撤消") : QStringLiteral("已入库"));
+    if (verdict.recorded)
+        notes << (verdict.cancelled ? QStringLiteral("已撤消") : QStringLiteral("已入库"));
     if (!verdict.revealed) notes << QStringLiteral("密钥未公开");
-    if (!notes.isEmpty()) text += QStringLiteral(" (") + notes.join(QStringLiteral(", ")) + QLatin1Char(')');
+    if (!notes.isEmpty())
+        text += QStringLiteral(" (") + notes.join(QStringLiteral(", ")) + QLatin1Char(')');
     for (const QString &problem : verdict.problems)
         text += QStringLiteral("\n    ") + problem;
     return text;
@@ -428,8 +425,8 @@ QString reportText(const VerifyReport &report) {
 
 QString writeReportBeside(const QString &exportedPath) {
     const QFileInfo exported(exportedPath);
-    const QString path =
-        exported.absolutePath() + QLatin1Char('/') + exported.completeBaseName() + QStringLiteral("-核对.txt");
+    const QString path = exported.absolutePath() + QLatin1Char('/') + exported.completeBaseName() +
+                         QStringLiteral("-核对.txt");
     const QByteArray text =
         reportText(verifyProgramFolder(appState().appPath, store::mainConn())).toUtf8();
     QSaveFile file(path);

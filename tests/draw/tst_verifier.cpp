@@ -81,8 +81,8 @@ QString withField(const QString &line, const QString &key, const QString &value)
 void rechain(QStringList &lines) {
     QString prev = draw::chainStart();
     for (int i = 0; i < lines.size(); ++i) {
-        lines[i] = QStringLiteral("seq=%1\tprev=%2\t").arg(i + 1).arg(prev) +
-                   lines[i].section('\t', 2);
+        lines[i] =
+            QStringLiteral("seq=%1\tprev=%2\t").arg(i + 1).arg(prev) + lines[i].section('\t', 2);
         prev = draw::sha256Hex(lines[i].toUtf8());
     }
 }
@@ -141,20 +141,23 @@ void TestVerifier::tamperingFailsExactlyThatPress_data() {
         line = withField(line, "winners", winners.join(','));
         rechain(lines);
     }) << quint64(4);
-    QTest::newRow("last winner dropped, count lowered") << Tamper([](Evening &, QStringList &lines) {
-        for (const QString kind : {"press", "record"}) {
-            QString &line = lines[lineOf(lines, kind, 4)];
-            QStringList winners = field(line, "winners").split(',');
-            winners.removeLast();
-            line = withField(line, "winners", winners.join(','));
-            if (kind == QLatin1String("press"))
-                line = withField(line, "batch", QString::number(winners.size()));
-        }
-        rechain(lines);
-    }) << quint64(4);
+    QTest::newRow("last winner dropped, count lowered")
+        << Tamper([](Evening &, QStringList &lines) {
+               for (const QString kind : {"press", "record"}) {
+                   QString &line = lines[lineOf(lines, kind, 4)];
+                   QStringList winners = field(line, "winners").split(',');
+                   winners.removeLast();
+                   line = withField(line, "winners", winners.join(','));
+                   if (kind == QLatin1String("press"))
+                       line = withField(line, "batch", QString::number(winners.size()));
+               }
+               rechain(lines);
+           })
+        << quint64(4);
     QTest::newRow("a seed changed") << Tamper([](Evening &, QStringList &lines) {
         QString &line = lines[lineOf(lines, "press", 1)];
-        line = withField(line, "seed", draw::seedText(field(line, "seed").toULongLong(nullptr, 16) ^ 1));
+        line = withField(line, "seed",
+                         draw::seedText(field(line, "seed").toULongLong(nullptr, 16) ^ 1));
         rechain(lines);
     }) << quint64(1);
     QTest::newRow("the roster behind a press changed") << Tamper([](Evening &e, QStringList &) {
@@ -168,9 +171,9 @@ void TestVerifier::tamperingFailsExactlyThatPress_data() {
         file.write(bytes);
     }) << quint64(3);
     // Lines removed or moved break the chain where they were.
-    QTest::newRow("a line removed") << Tamper([](Evening &, QStringList &lines) {
-        lines.removeAt(lineOf(lines, "press", 3));
-    }) << quint64(3);
+    QTest::newRow("a line removed")
+        << Tamper([](Evening &, QStringList &lines) { lines.removeAt(lineOf(lines, "press", 3)); })
+        << quint64(3);
     QTest::newRow("two lines swapped") << Tamper([](Evening &, QStringList &lines) {
         lines.swapItemsAt(lineOf(lines, "press", 3), lineOf(lines, "record", 3));
     }) << quint64(3);
