@@ -104,7 +104,7 @@ bool parseAuditLine(const QString &text, AuditLine *line) {
     return true;
 }
 
-bool appendAuditEvent(const QString &appPath, AuditEvent event) {
+bool appendAuditEvent(const QString &appPath, AuditEvent event, bool durable) {
     QDir().mkpath(appPath + QStringLiteral("History"));
     QFile file(auditLogPath(appPath));
     if (!file.open(QIODevice::ReadWrite)) return false;
@@ -127,7 +127,7 @@ bool appendAuditEvent(const QString &appPath, AuditEvent event) {
     }
     text.append('\n');
     if (!file.seek(file.size()) || file.write(text) != text.size() || !file.flush()) return false;
-    return ::fsync(file.handle()) == 0;
+    return !durable || ::fdatasync(file.handle()) == 0;
 }
 
 AuditEvent pressEvent(const PressRecord &press) {

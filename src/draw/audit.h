@@ -41,9 +41,11 @@ QString chainStart();
 QString auditLineText(qint64 seq, const QString &prev, const AuditEvent &event);
 // Parses a line; false when it is not seq, prev and event followed by key=value fields.
 bool parseAuditLine(const QString &text, AuditLine *line);
-// Appends an event after the log's last line (with the time now) and forces it to disk. False
-// when the line could not be written: the caller must then not go on with what it logs.
-bool appendAuditEvent(const QString &appPath, AuditEvent event);
+// Appends an event after the log's last line (with the time now). False when the line could not
+// be written: the caller must then not go on with what it logs. A durable line is forced to disk
+// with every line before it; a press line need not be, since nothing is stored before the
+// record line that follows it.
+bool appendAuditEvent(const QString &appPath, AuditEvent event, bool durable = true);
 
 // One press of Start as its line holds it.
 struct PressRecord {

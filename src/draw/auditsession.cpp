@@ -29,7 +29,7 @@ bool AuditSession::log(AuditEvent event) {
     const bool isPress = event.kind == auditevent::press;
     event.fields.prepend({QStringLiteral("session"), m_secret.sessionId()});
     if (isPress) event.fields.insert(1, {QStringLiteral("press"), QString::number(m_presses + 1)});
-    if (!appendAuditEvent(m_appPath, event)) return false;
+    if (!appendAuditEvent(m_appPath, event, !isPress)) return false;
     if (isPress) ++m_presses;
     return true;
 }

@@ -305,36 +305,45 @@ void Replay::close(const AuditEvent &event) {
 }
 
 void Replay::checkStore(QSqlDatabase store) {
-    QSqlQuery byId(store);
-    byId.prepare(QStringLiteral("SELECT JxID FROM UserList WHERE ID=?"));
+    // One read of everybody holding a win (through the JxID index), not a query per winner:
+    // an evening has thousands of them.
+    struct Stored {
+        Standing standing;
+        QString time;
+    };
+    std::map<qint64, Stored> stored;
+    std::multimap<QString, qint64> byTime;
+    QSqlQuery query(store);
+    query.setForwardOnly(true);
+    query.exec(QStringLiteral("SELECT ID, JxID, UpdateTime FROM UserList WHERE JxID > ''"));
+    while (query.next()) {
+        const qint64 id = query.value(0).toLongLong();
+        stored[id] = {standingOf(query.value(1).toString(), false), query.value(2).toString()};
+        byTime.insert({query.value(2).toString(), id});
+    }
     std::map<std::pair<int, QString>, std::vector<size_t>> groups;
     for (size_t i = 0; i < m_batches.size(); ++i) {
         const Batch &batch = m_batches[i];
         groups[{batch.awardId, batch.storedAt}].push_back(i);
         for (qint64 id : batch.live) {
-            byId.bindValue(0, id);
-            const bool found = byId.exec() && byId.next();
-            if (!found || !standingOf(byId.value(0).toString(), false).holds(batch.awardId))
+            const auto found = stored.find(id);
+            if (found == stored.end() || !found->second.standing.holds(batch.awardId))
                 problem(batch.verdict, QStringLiteral("库中已没有中奖者 %1 的这次中奖").arg(id));
         }
     }
     // All winners of one batch carry its time: anybody else with that time and award was
     // stored without being in the logged batch.
-    QSqlQuery byTime(store);
-    byTime.prepare(QStringLiteral("SELECT ID, JxID FROM UserList WHERE UpdateTime=?"));
     for (const auto &[key, members] : groups) {
         std::set<qint64> logged;
         for (size_t i : members)
             logged.insert(m_batches[i].winners.begin(), m_batches[i].winners.end());
-        byTime.bindValue(0, key.second);
-        if (!byTime.exec()) continue;
-        while (byTime.next()) {
-            const qint64 id = byTime.value(0).toLongLong();
-            if (logged.count(id) || !standingOf(byTime.value(1).toString(), false).holds(key.first))
+        const auto [from, to] = byTime.equal_range(key.second);
+        for (auto it = from; it != to; ++it) {
+            if (logged.count(it->second) || !stored[it->second].standing.holds(key.first))
                 continue;
             for (size_t i : members)
                 problem(m_batches[i].verdict,
-                        QStringLiteral("库中这一批多出了未记录的中奖者 %1").arg(id));
+                        QStringLiteral("库中这一批多出了未记录的中奖者 %1").arg(it->second));
         }
     }
 }
