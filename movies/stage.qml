@@ -22,6 +22,7 @@ Item {
     property bool loadUserSent: false
     property bool stopSent: false
     property bool playbackOn: false
+    property string fingerprint: ""
 
     function send(command, args) { fsCommand(command, args === undefined ? "" : String(args)) }
 
@@ -55,6 +56,7 @@ Item {
         "vbLuckPlay1": function (v) { startParade(P.fields(v), false) },
         "vbStartScroll": function (v) { startScroll(v.indexOf("yes") === 0) },
         "vbCallPlay": function (v) { callPlay(v) },
+        "vbFingerprint": function (v) { fingerprint = v },
         "vbCallAsClear": function (v) { if (P.flag(v)) pressButton("btnClear") },
         "vbCallMusic": function (v) {
             pressButton(P.flag(v) ? "btnSoundOn" : "btnSoundOff")
@@ -291,6 +293,20 @@ Item {
     }
 
     LoadingScene { anchors.fill: parent; visible: root.scene === "loader" }
+
+    // The draw's commitment: the hall can note it before the first press and check the secret
+    // that the audit log reveals when the draw closes.
+    Text {
+        objectName: "fingerprint"
+        visible: root.scene === "draw" && root.fingerprint !== ""
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        anchors.margins: 10
+        text: "指纹 " + root.fingerprint
+        color: "#99FFFFFF"
+        font.pixelSize: 14
+        font.family: "monospace"
+    }
 
     ButtonBar {
         id: buttonBar

@@ -12,7 +12,7 @@ packages=(
   qml6-module-qtquick-shapes qml6-module-qt5compat-graphicaleffects qml6-module-qtquick-particles
   qt6-multimedia-dev qml6-module-qtmultimedia libqt6multimediawidgets6
   qt6-svg-dev qt6-image-formats-plugins
-  libsqlite3-dev libfreexl-dev libzip-dev
+  libsqlite3-dev libfreexl-dev libzip-dev libssl-dev
   fonts-noto-cjk xvfb xauth sqlite3
   qt6-tools-dev qt6-l10n-tools qt6-translations-l10n appstream dpkg-dev file
 )

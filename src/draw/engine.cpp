@@ -64,6 +64,10 @@ void warn(const QString &text) {
 
 DrawEngine::DrawEngine(Stage &stage, QObject *parent) : QObject(parent), m_stage(stage) {}
 
+bool DrawEngine::openAuditSession() {
+    return m_audit.open(appState().appPath, store::mainConn());
+}
+
 void DrawEngine::setBlockStyle(std::function<QString(int)> blockStyle) {
     m_blockStyle = std::move(blockStyle);
 }
@@ -187,7 +191,13 @@ DrawEngine::StartOutcome DrawEngine::pressStart() {
         return StartOutcome::Stepped;
     }
     m_session.winnerList.clear();
-    drawWinners();
+    if (!drawWinners()) {
+        send(proto::changBtn, proto::buttons::defulte);
+        m_session.drawState = Idle;
+        ui().message(kAuditWriteFailed + QStringLiteral(",本次抽奖未进行!"), MsgStyle::Critical,
+                     titles::error);
+        return StartOutcome::NotLogged;
+    }
     send(proto::vbndluck, luckTypePrefix() + m_session.winnerList);
     m_session.lastWinnerIds = m_session.winnerIds;
     if (m_session.winnerList.isEmpty()) {
@@ -224,27 +234,45 @@ void DrawEngine::keepRosterAfterOwnWrite(bool rosterWasCurrent) {
     if (rosterWasCurrent) m_session.rosterStamp = storeStamp(store::mainConn());
 }
 
-void DrawEngine::drawWinners() {
+bool DrawEngine::drawWinners() {
     refreshCandidates();
     const AwardRule &rule = m_session.award.rule;
     const Candidates &candidates = m_session.candidates;
 
     PressRecord &press = m_session.lastPress;
     press = PressRecord();
-    const QDateTime now = QDateTime::currentDateTime();
-    press.time = now.toOffsetFromUtc(now.offsetFromUtc());  // logged with its UTC offset
+    press.number = m_audit.nextPressNumber();
     press.awardId = rule.awardId;
     press.rule = rule;
     press.batchCount = m_session.batchCount;
-    press.seed = newSeed();
+    press.seed = m_audit.nextPressSeed();
     press.candidateCount = candidates.count();
     press.digest = m_session.candidatesDigest;
     press.winners =
         pickWinners(candidates.primary, candidates.fallback, press.seed, m_session.batchCount);
-    appendAudit(appState().appPath, press);
+    if (!m_audit.log(pressEvent(press))) return false;
 
     m_session.winnerList = joinWinnerItems(namesOf(press.winners), press.winners);
     m_session.winnerIds = idText(press.winners);
+    return true;
+}
+
+AuditEvent DrawEngine::recordEvent(const QString &storedAt, const QList<qint64> &ids) const {
+    AuditEvent event(auditevent::record);
+    event.add(QStringLiteral("press"), qint64(m_session.lastPress.number))
+        .add(QStringLiteral("award"), m_session.award.id)
+        .add(QStringLiteral("stored"), storedAt)
+        .add(QStringLiteral("winners"), idListText({ids.begin(), ids.end()}));
+    return event;
+}
+
+AuditEvent DrawEngine::cancelEvent() const {
+    const QList<qint64> ids = parseIds(m_session.lastWinnerIds);
+    AuditEvent event(auditevent::cancel);
+    event.add(QStringLiteral("press"), qint64(m_session.lastPress.number))
+        .add(QStringLiteral("award"), m_session.award.id)
+        .add(QStringLiteral("winners"), idListText({ids.begin(), ids.end()}));
+    return event;
 }
 
 QStringList DrawEngine::namesOf(const std::vector<qint64> &ids) {
@@ -293,6 +321,11 @@ bool DrawEngine::recordWinners() {
     }
     QString error = query.lastError().text();
     query.finish();
+    // The line goes out before the commit: a batch the log does not hold is not stored.
+    if (ok && !m_audit.log(recordEvent(time, ids))) {
+        ok = false;
+        error = kAuditWriteFailed;
+    }
     if (ok && !db.commit()) {
         ok = false;
         error = db.lastError().text();
@@ -336,8 +369,14 @@ bool DrawEngine::cancelLastBatch() {
             store::exec(db, QStringLiteral("UPDATE UserList SET JxID=? WHERE ID=?"),
                         {wins.remove(marker), id});
     }
-    if (!db.commit()) db.rollback();
+    const bool logged = m_audit.log(cancelEvent());
+    if (!logged || !db.commit()) db.rollback();
     keepRosterAfterOwnWrite(rosterCurrent);
+    if (!logged) {
+        ui().message(kAuditWriteFailed + QStringLiteral(",本次撤消未进行!"), MsgStyle::Critical,
+                     titles::error);
+        return false;
+    }
 
     loadAward(m_session.award.id, false);
     m_session.canCancel = false;

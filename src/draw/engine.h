@@ -6,6 +6,7 @@
 
 #include <functional>
 
+#include "draw/auditsession.h"
 #include "draw/progress.h"
 #include "draw/session.h"
 
@@ -20,9 +21,17 @@ namespace draw {
 class DrawEngine : public QObject {
     Q_OBJECT
 public:
-    enum class StartOutcome { Stepped, Empty, Drawn };
+    // NotLogged: the press could not be written to the audit log, so nothing was drawn.
+    enum class StartOutcome { Stepped, Empty, Drawn, NotLogged };
 
     explicit DrawEngine(Stage &stage, QObject *parent = nullptr);
+
+    // The session secret whose fingerprint the hall sees before the first press.
+    const DrawSecret &secret() const { return m_audit.secret(); }
+    // The audit session: opened (roster snapshot) when the window opens, or else before its
+    // first event; closed, revealing the secret, when the window closes.
+    bool openAuditSession();
+    void closeAuditSession() { m_audit.close(); }
 
     const DrawSession &session() const { return m_session; }
     DrawState state() const { return m_session.drawState; }
@@ -75,11 +84,14 @@ Q_SIGNALS:
     void drawEmpty();
 
 private:
-    void drawWinners();
+    // False when the press could not be logged: then nothing is drawn.
+    bool drawWinners();
     // The candidates of the loaded award, read again only when the award's rule or the store
     // has changed since the last read.
     void refreshCandidates();
     void keepRosterAfterOwnWrite(bool rosterWasCurrent);
+    AuditEvent recordEvent(const QString &storedAt, const QList<qint64> &ids) const;
+    AuditEvent cancelEvent() const;
     QStringList namesOf(const std::vector<qint64> &ids);
     QString luckTypePrefix() const;
     void send(const QString &name, const QString &value);
@@ -87,6 +99,7 @@ private:
     Stage &m_stage;
     DrawSession m_session;
     std::function<QString(int)> m_blockStyle;
+    AuditSession m_audit;
 };
 
 }  // namespace draw

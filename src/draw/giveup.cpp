@@ -8,6 +8,7 @@
 #include <set>
 
 #include "core/store.h"
+#include "draw/auditsession.h"
 
 namespace draw {
 
@@ -108,6 +109,12 @@ bool giveUp(QSqlDatabase db, const QList<qint64> &ids, QString *error) {
         ok = store::exec(db, QStringLiteral("UPDATE UserList SET JxID=?, UserStatus=1 WHERE ID=?"),
                          {QStringLiteral("无"), id}, error);
         if (!ok) break;
+    }
+    if (ok &&
+        !logDrawEvent(AuditEvent(auditevent::giveUp)
+                          .add(QStringLiteral("ids"), idListText({ids.begin(), ids.end()})))) {
+        ok = false;
+        if (error) *error = kAuditWriteFailed;
     }
     if (ok && db.commit()) return true;
     if (error && error->isEmpty()) *error = db.lastError().text();

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "core/store.h"
+#include "draw/auditsession.h"
 
 namespace draw {
 
@@ -24,6 +25,13 @@ MakeupFault countFault(const QString &typed, const QString &tooFew, const QStrin
     if (!value || *value < 1) return {tooFew, field};
     if (*value > kMaxSlots) return {tooMany, field};
     return {};
+}
+
+// The line goes out before the commit: a change the audit log does not hold is not made.
+bool logged(const AuditEvent &event, QString *error) {
+    if (logDrawEvent(event)) return true;
+    if (error) *error = kAuditWriteFailed;
+    return false;
 }
 
 bool inTransaction(QSqlDatabase db, QString *error, const std::function<bool()> &work) {
@@ -84,7 +92,11 @@ bool addSlots(QSqlDatabase db, int awardId, int count, QString *error) {
             if (error) *error = query.lastError().text();
             return false;
         }
-        if (query.numRowsAffected() == 1) return true;
+        if (query.numRowsAffected() == 1)
+            return logged(AuditEvent(auditevent::addSlots)
+                              .add(QStringLiteral("award"), awardId)
+                              .add(QStringLiteral("added"), count),
+                          error);
         if (error) *error = QStringLiteral("找不到指定的奖项!");
         return false;
     });
@@ -114,13 +126,21 @@ int insertAward(QSqlDatabase db, const NewAward &award, QString *error) {
             if (error) *error = kAwardsFullMessage;
             return false;
         }
+        const int slotCount = award.slotCount.trimmed().toInt();
+        const int batches = award.batchCount.trimmed().toInt();
+        const AwardRule rule{id, award.excludeWinners ? 1 : 0, 0, 0, 0};
         return store::exec(db,
                            QStringLiteral("INSERT INTO JPList (ID,JXName,JXNum,JXGroup,JPName,"
                                           "JPPhoto,OrderNum,isReLuck) VALUES (?,?,?,?,?,'',?,?)"),
-                           {id, award.name.trimmed(), award.slotCount.trimmed().toInt(),
-                            award.batchCount.trimmed().toInt(), award.prizeName.trimmed(), order,
-                            award.excludeWinners ? 1 : 0},
-                           error);
+                           {id, award.name.trimmed(), slotCount, batches, award.prizeName.trimmed(),
+                            order, rule.isReLuck},
+                           error) &&
+               logged(AuditEvent(auditevent::newAward)
+                          .add(QStringLiteral("award"), id)
+                          .add(QStringLiteral("slots"), slotCount)
+                          .add(QStringLiteral("batches"), batches)
+                          .add(QStringLiteral("rule"), ruleText(rule)),
+                      error);
     });
     return inserted ? id : 0;
 }

@@ -7,6 +7,7 @@
 #include "core/settings.h"
 #include "core/store.h"
 #include "core/ui.h"
+#include "draw/auditsession.h"
 #include "draw/batchplan.h"
 #include "draw/winners.h"
 
@@ -62,6 +63,7 @@ bool clearAllWins(QSqlDatabase db) {
     ok = ok && store::exec(db, QStringLiteral("UPDATE UserList SET JxID='', UserStatus=0 WHERE "
                                               "JxID<>'' OR UserStatus<>0 OR "
                                               "UserStatus IS NULL"));
+    ok = ok && logDrawEvent(AuditEvent(auditevent::reset));
     ok = ok && db.commit();
     if (!ok) {
         db.rollback();

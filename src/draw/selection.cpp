@@ -1,6 +1,5 @@
 #include "draw/selection.h"
 
-#include <QCryptographicHash>
 #include <QRandomGenerator>
 #include <QSqlDriver>
 #include <QSqlQuery>
@@ -12,6 +11,7 @@
 #include "core/appstate.h"
 #include "core/helpers.h"
 #include "core/store.h"
+#include "draw/drawsecret.h"
 #include "stage/protocol.h"
 
 namespace draw {
@@ -230,8 +230,7 @@ QString candidateDigest(const Candidates &candidates) {
             addNumber(static_cast<quint64>(id));
     }
     bytes.truncate(out - bytes.constData());
-    return QString::fromLatin1(
-        QCryptographicHash::hash(bytes, QCryptographicHash::Blake2b_256).toHex());
+    return sha256Hex(bytes);
 }
 
 QString cleanName(QString name) {

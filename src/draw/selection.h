@@ -93,7 +93,7 @@ quint64 orderKey(quint64 seed, qint64 id);
 // arguments, so a logged press can be re-derived.
 std::vector<qint64> pickWinners(const std::vector<qint64> &primary,
                                 const std::vector<qint64> &fallback, quint64 seed, int count);
-// BLAKE2b-256 (hex) of the candidate IDs of both pools, for the audit log.
+// SHA-256 (hex) of the candidate IDs of both pools, for the audit log.
 QString candidateDigest(const Candidates &candidates);
 
 // Names on their way to the stage: "|" and "$" are the grammar's separators.

@@ -54,6 +54,8 @@ inline const QString vbCallPlay = QStringLiteral("vbCallPlay");
 inline const QString vbCallAsClear = QStringLiteral("vbCallAsClear");
 inline const QString vbCallMusic = QStringLiteral("vbCallMusic");
 inline const QString vbCallScreen = QStringLiteral("vbCallScreen");
+// The fingerprint of the draw's secret, shown small in a corner before the first press.
+inline const QString vbFingerprint = QStringLiteral("vbFingerprint");
 
 // Values of changBtn.
 namespace buttons {

@@ -9,7 +9,7 @@
 
 #include "chrome/style.h"
 #include "core/appstate.h"
-#include "draw/audit.h"
+#include "draw/verifier.h"
 #include "drawdialogs.h"
 #include "livescreen.h"
 #include "stage/protocol.h"
@@ -249,9 +249,34 @@ void TestWholeEvening::fromFirstBatchToTheExport() {
         for (const CsvRow &line : rows)
             QVERIFY(line.name != name);
     }
-    QFile audit(draw::auditLogPath(appState().appPath));
-    QVERIFY(audit.open(QIODevice::ReadOnly));
-    QCOMPARE(audit.readAll().count('\n'), 10);
+    // The check written beside the list finds the evening's ten presses as drawn.
+    QFile check(s.folder.path(QStringLiteral("record/晚会中奖名单-核对.txt")));
+    QVERIFY(check.open(QIODevice::ReadOnly));
+    const QString checked = QString::fromUtf8(check.readAll());
+    QVERIFY2(checked.contains(QStringLiteral("10次抽奖: 10次相符")), qPrintable(checked));
+
+    // A restart, then the window closes and reveals its secret: the log still holds, and every
+    // seed follows from the secret whose fingerprint the title showed.
+    const QString title = s.form->windowTitle();
+    whenDialogOpens<EndOfDrawDialog>(
+        [&](EndOfDrawDialog &dialog) {
+            s.ui->answers.enqueue(true);
+            choice(dialog, "restartChoice")->click();
+        },
+        &opened);
+    s.key(Qt::Key_Space);
+    QTRY_VERIFY(opened);
+    QCOMPARE(winners(s, third), 0);
+    drawBatch(s, third, 10, 10);
+    s.ui->answers.enqueue(true);
+    QVERIFY(s.form->close());
+    const draw::VerifyReport report = draw::verifyProgramFolder(appState().appPath, s.folder.db());
+    QVERIFY2(report.holds(), qPrintable(draw::reportText(report)));
+    QCOMPARE(report.presses.size(), size_t(11));
+    QCOMPARE(report.unrevealedCount(), 0);
+    QVERIFY(title.endsWith(report.presses.front().session.toUpper().left(4) + ' ' +
+                           report.presses.front().session.toUpper().mid(4, 4) + ' ' +
+                           report.presses.front().session.toUpper().mid(8)));
 }
 
 int main(int argc, char *argv[]) {

@@ -63,6 +63,9 @@ DrawWindow::DrawWindow(QWidget *parent) : QWidget(parent, Qt::Window) {
     connect(m_stage.get(), &Stage::commandReceived, this, &DrawWindow::onStageCommand);
     openTemplate();
     createHelpers();
+    // The secret's fingerprint is public before the first press: in the title and on the stage.
+    m_engine->openAuditSession();
+    setWindowTitle(windowTitle() + QStringLiteral("  指纹 ") + m_engine->secret().fingerprint());
     m_stage->loadMovie(state.path(state.movieStage));
     setFullScreenMode(true);
 }
@@ -243,6 +246,7 @@ void DrawWindow::closeEvent(QCloseEvent *event) {
     m_stopGuardPanel->hide();
     m_music->stop();
     m_engine->resetToIdle();
+    m_engine->closeAuditSession();
     event->accept();
     Q_EMIT closed();
 }
@@ -287,6 +291,7 @@ void DrawWindow::sendStageSetup() {
         stageWidget->show();
         stageWidget->setFocus();
     }
+    send(proto::vbFingerprint, m_engine->secret().fingerprint());
     QSqlDatabase db = store::mainConn();
     if (state.luckType > 0)
         send(proto::loadAllUserPics,

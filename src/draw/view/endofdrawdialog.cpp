@@ -11,6 +11,7 @@
 #include "chrome/widgethelpers.h"
 #include "core/events.h"
 #include "draw/engine.h"
+#include "draw/verifier.h"
 #include "results/exportas.h"
 #include "results/exportwinners.h"
 #include "results/view/printwinners.h"
@@ -105,7 +106,9 @@ void EndOfDrawDialog::choose(int choice) {
             restart();
             break;
         case Export:
-            exportWinnersAs();
+            // The check of the evening goes beside the list, for whoever receives it.
+            if (const QString path = exportWinnersAs(); !path.isEmpty())
+                draw::writeReportBeside(path);
             break;
         case Print:
             printWinners(true);
