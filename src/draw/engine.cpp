@@ -109,7 +109,11 @@ bool DrawEngine::loadAward(int id, bool resetButtons) {
     send(proto::updateLuckLst,
          names.isEmpty() ? QStringLiteral("当前奖项暂无获奖名单...")
                          : QStringLiteral("恭喜∶") + names + QStringLiteral("获得") + award.name);
-    if (id != m_session.award.id) {
+    const bool awardChanges = id != m_session.award.id;
+    // Moving to another award, like a give-up or a make-up (which reload with resetButtons),
+    // ends the chance to take the last batch back: it belongs to the award it was drawn on.
+    if (m_session.canCancel && (awardChanges || resetButtons)) endCancelChance(resetButtons);
+    if (awardChanges) {
         if (!m_session.prizeHead.trimmed().isEmpty())
             send(proto::vbAddImg, m_session.prizeHead + award.picturePath);
         send(proto::vbShowBlock, proto::falseText);
@@ -125,6 +129,12 @@ bool DrawEngine::loadAward(int id, bool resetButtons) {
     m_session.batchCount = plan.batchCount;
     if (plan.batchCount > 0) refreshCandidates();
     return true;
+}
+
+void DrawEngine::endCancelChance(bool buttonsFollow) {
+    m_session.canCancel = false;
+    // The landed picture's bar offers the undo; the bar of rest does not.
+    if (!buttonsFollow) send(proto::changBtn, proto::buttons::defulte);
 }
 
 void DrawEngine::reloadAward(bool hideBlocks, bool resetButtons) {
@@ -179,6 +189,9 @@ void DrawEngine::stepAward(bool forward, bool wrap) {
 }
 
 DrawEngine::StartOutcome DrawEngine::pressStart() {
+    // One draw at a time: the names on show are this press's winners until they are stored or
+    // cleared.
+    if (m_session.drawState == Running) return StartOutcome::Refused;
     m_session.canCancel = false;
     if (m_session.batchCount < 1) {
         send(proto::changBtn, proto::buttons::defulte);
@@ -200,7 +213,15 @@ DrawEngine::StartOutcome DrawEngine::pressStart() {
     if (m_blockStyle) send(proto::vbLoadBlock, m_blockStyle(m_session.batchCount));
     send(proto::changBtn, proto::buttons::start);
     m_session.drawState = Running;
+    m_session.landing = false;
     return StartOutcome::Drawn;
+}
+
+bool DrawEngine::stopDraw() {
+    if (m_session.drawState != Running || m_session.landing) return false;
+    send(proto::changBtn, proto::buttons::stop);
+    m_session.landing = true;
+    return true;
 }
 
 void DrawEngine::refreshCandidates() {
@@ -274,6 +295,7 @@ QString DrawEngine::pushScrollSample() {
 bool DrawEngine::recordWinners() {
     const QList<qint64> ids = parseIds(m_session.winnerIds);
     if (m_session.drawState != Running || ids.isEmpty()) return false;
+    m_session.landing = false;
     const int awardId = m_session.award.id;
     QSqlDatabase db = store::mainConn();
 
@@ -358,10 +380,13 @@ bool DrawEngine::restartDraw(const WinnerExporter &exportWinners) {
     return true;
 }
 
-void DrawEngine::clearDraw() {
+bool DrawEngine::clearDraw() {
+    // Landing winners are as good as drawn: the hall has seen them stop.
+    if (m_session.landing) return false;
     send(proto::changBtn, proto::buttons::clear);
     send(proto::vbShowBlock, proto::falseText);
     m_session.drawState = Idle;
+    return true;
 }
 
 void DrawEngine::beginParade() {
@@ -370,6 +395,7 @@ void DrawEngine::beginParade() {
 
 void DrawEngine::resetToIdle() {
     m_session.drawState = Idle;
+    m_session.landing = false;
 }
 
 }  // namespace draw

@@ -20,12 +20,15 @@ namespace draw {
 class DrawEngine : public QObject {
     Q_OBJECT
 public:
-    enum class StartOutcome { Stepped, Empty, Drawn };
+    // Refused: a draw runs already.
+    enum class StartOutcome { Stepped, Empty, Drawn, Refused };
 
     explicit DrawEngine(Stage &stage, QObject *parent = nullptr);
 
     const DrawSession &session() const { return m_session; }
     DrawState state() const { return m_session.drawState; }
+    // Stopped and not yet stored: the stage is landing on the winners.
+    bool isLanding() const { return m_session.landing; }
 
     // Builds the vbLoadBlock value for a batch size; unset, no vbLoadBlock is sent.
     void setBlockStyle(std::function<QString(int batchCount)> blockStyle);
@@ -41,8 +44,11 @@ public:
     void firstOpenAward(bool resetButtons);
     void stepAward(bool forward, bool wrap);
 
-    // Start: a full award moves on; otherwise the winners are decided now and sent.
+    // Start: a full award moves on; otherwise the winners are decided now and sent. Refused
+    // while a draw runs.
     StartOutcome pressStart();
+    // Stop: the stage lands on the press's winners. False when nothing rolls.
+    bool stopDraw();
     // The decorative stream: a fresh random sample of the press's eligible names, sent as
     // vbPushLst. Returns the value sent (empty when nothing was sent).
     QString pushScrollSample();
@@ -56,8 +62,9 @@ public:
     // snapshot that cannot be written leaves the wins in place.
     bool restartDraw(const WinnerExporter &exportWinners);
 
-    // Clear: the names that roll or land vanish unstored, and the draw is at rest.
-    void clearDraw();
+    // Clear: the rolling names vanish unstored, and the draw is at rest. Refused (false) once
+    // the winners land.
+    bool clearDraw();
     // The winner parade runs on the stage until resetToIdle().
     void beginParade();
     // At rest, whatever ran: a landing that could not be stored, the parade's end, the screen
@@ -80,6 +87,8 @@ private:
     // has changed since the last read.
     void refreshCandidates();
     void keepRosterAfterOwnWrite(bool rosterWasCurrent);
+    // buttonsFollow: a changBtn of the caller's will bring the bar of rest.
+    void endCancelChance(bool buttonsFollow);
     QStringList namesOf(const std::vector<qint64> &ids);
     QString luckTypePrefix() const;
     void send(const QString &name, const QString &value);

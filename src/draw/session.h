@@ -29,6 +29,8 @@ struct DrawSession {
     int batchCount = 0;
     DrawState drawState = Idle;
     bool canCancel = false;
+    // Running, after Stop: the winners land, and nothing may clear or replace them.
+    bool landing = false;
     // The press in progress: "name$id|name$id" for the stage, and the IDs joined by ",".
     QString winnerList;
     QString winnerIds;

@@ -57,6 +57,9 @@ private Q_SLOTS:
     void startOnAFullAwardMovesOn();
     void recordAndCancelEditTheWins();
     void cancelAnsweredNoChangesNothing();
+    void movingOnEndsTheCancel_data();
+    void movingOnEndsTheCancel();
+    void oneDrawAtATime();
     void emptyDrawWarns();
     void nothingIsStoredBeforeTheLanding();
     void interruptedRecordingStoresNothing();
@@ -305,6 +308,60 @@ void TestEngine::cancelAnsweredNoChangesNothing() {
     // The next Start clears it.
     rig.engine.pressStart();
     QVERIFY(!rig.session.canCancel);
+}
+
+void TestEngine::movingOnEndsTheCancel_data() {
+    QTest::addColumn<int>("how");  // 0 the next award, 1 a give-up's reload, 2 a make-up's load
+    QTest::newRow("next award") << 0;
+    QTest::newRow("give-up") << 1;
+    QTest::newRow("make-up") << 2;
+}
+
+void TestEngine::movingOnEndsTheCancel() {
+    QFETCH(int, how);
+    Rig rig;
+    QVERIFY(rig.started);
+    const int first = rig.folder.addAward("一等奖", 2, 1, 0);
+    const int second = rig.folder.addAward("二等奖", 2, 1, 0);
+    const QList<int> ids = rig.folder.addUsers({"a", "b"});
+    for (int id : ids)
+        rig.setWins(id, store::awardMarker(second), 3);
+    rig.engine.loadAward(first, false);
+    QVERIFY(rig.drawAndRecord());
+    rig.stage.clear();
+    if (how == 0) rig.engine.stepAward(true, false);
+    if (how == 1) rig.engine.reloadAward(true, true);
+    if (how == 2) rig.engine.loadAward(second, true);
+    // The bar of rest, without the undo, and the undo itself does nothing.
+    QCOMPARE(rig.stage.values(proto::changBtn), QStringList{"defulte"});
+    m_ui->answers.enqueue(true);
+    QVERIFY(!rig.engine.cancelLastBatch());
+    QVERIFY(m_ui->records.isEmpty());
+    for (int id : ids)
+        QCOMPARE(rig.cell(id, "JxID").toString(),
+                 store::awardMarker(second) + store::awardMarker(first));
+}
+
+void TestEngine::oneDrawAtATime() {
+    Rig rig;
+    QVERIFY(rig.started);
+    const int award = rig.folder.addAward("一等奖", 2, 1);
+    rig.folder.addUsers({"a", "b", "c", "d"});
+    rig.engine.loadAward(award, false);
+    QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Drawn);
+    const QString drawn = rig.session.winnerIds;
+    rig.stage.clear();
+    // A second Start, from a key or a button the movie let through, draws nobody new.
+    QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Refused);
+    QVERIFY(rig.engine.stopDraw());
+    QVERIFY(!rig.engine.stopDraw());
+    // Once the winners land they can no longer be cleared or replaced.
+    QVERIFY(!rig.engine.clearDraw());
+    QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Refused);
+    QCOMPARE(rig.stage.lines(), QStringList{"changBtn=stop"});
+    QCOMPARE(rig.session.winnerIds, drawn);
+    QVERIFY(rig.engine.recordWinners());
+    QCOMPARE(draw::countAwardWinners(rig.folder.db(), award), 2);
 }
 
 void TestEngine::emptyDrawWarns() {
