@@ -3,12 +3,15 @@
 #include <QObject>
 #include <QSqlDatabase>
 #include <QString>
+#include <QTimer>
 
 #include <functional>
+#include <optional>
 
 #include "draw/progress.h"
 #include "draw/session.h"
 
+class QThread;
 class Stage;
 
 namespace draw {
@@ -24,6 +27,7 @@ public:
     enum class StartOutcome { Stepped, Empty, Drawn, Refused };
 
     explicit DrawEngine(Stage &stage, QObject *parent = nullptr);
+    ~DrawEngine() override;
 
     const DrawSession &session() const { return m_session; }
     DrawState state() const { return m_session.drawState; }
@@ -80,13 +84,22 @@ Q_SIGNALS:
     // A press found nobody to draw; emitted before the warning, so the hall hears the
     // background music again while the operator reads it.
     void drawEmpty();
+    // The roster was read again after another connection wrote to the store.
+    void rosterReread();
 
 private:
     void drawWinners();
-    // The candidates of the loaded award, read again only when the award's rule or the store
-    // has changed since the last read.
+    // The candidates of the loaded award, built again only when the award's rule, who may win
+    // or the roster has changed. Costs little unless who may win has changed: a press calls it.
     void refreshCandidates();
-    void keepRosterAfterOwnWrite(bool rosterWasCurrent);
+    // `before`: the stamp just before the engine's own write.
+    void keepRosterAfterOwnWrite(const StoreStamp &before);
+    void watchStore();
+    // Reads the roster on a worker thread through its own connection.
+    void startRosterRead();
+    void adoptRoster(std::optional<Roster> &roster);
+    bool allInStore(const std::vector<qint64> &ids);
+    void readRosterNow();
     // buttonsFollow: a changBtn of the caller's will bring the bar of rest.
     void endCancelChance(bool buttonsFollow);
     QStringList namesOf(const std::vector<qint64> &ids);
@@ -96,6 +109,9 @@ private:
     Stage &m_stage;
     DrawSession m_session;
     std::function<QString(int)> m_blockStyle;
+    QTimer m_storeWatch;
+    QThread *m_rosterRead = nullptr;
+    StoreStamp m_rosterReadStamp;  // the store as the running read found it
 };
 
 }  // namespace draw
