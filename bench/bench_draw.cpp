@@ -1,11 +1,14 @@
-// Times the draw on large rosters: a Start press (batch of 10), a scroll-sample tick, and the
-// console's progress figure with 20 awards. Each roster lives in a temporary program folder.
+// Times the draw on large rosters: Start presses (batch of 10) cold, warm and right after another
+// connection wrote to the store, a scroll-sample tick, and the console's progress figure with 20
+// awards. Each roster lives in a temporary program folder.
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QFile>
 #include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QTextStream>
+#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
@@ -62,6 +65,14 @@ Timing medianOf(int runs, const std::function<void()> &work) {
     return median(times);
 }
 
+// Runs the event loop until the engine has read the roster again behind the draw.
+void waitForReread(draw::DrawEngine &engine) {
+    QEventLoop loop;
+    QObject::connect(&engine, &draw::DrawEngine::rosterReread, &loop, &QEventLoop::quit);
+    QTimer::singleShot(10000, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
 void printLine(const char *what, Timing t) {
     std::printf("  %-38s %9.3f ms wall %9.3f ms cpu\n", what, t.wall, t.cpu);
 }
@@ -77,35 +88,67 @@ void benchRoster(int n) {
     }
     fillStore(store::mainConn(), n);
     SilentStage stage;
+    // Opening the draw window: its first award reads the roster. The first press after it is
+    // the cold one.
+    std::vector<Timing> opens;
+    std::vector<Timing> coldPresses;
+    for (int i = 0; i < 3; ++i) {
+        draw::DrawEngine fresh(stage);
+        opens.push_back(timeOnce([&] { fresh.loadAward(1, true); }));
+        coldPresses.push_back(timeOnce([&] { fresh.pressStart(); }));
+    }
     draw::DrawEngine engine(stage);
     const draw::DrawSession &session = engine.session();
-    // Loading an award reads the roster and the candidates ahead, so a press normally only
-    // draws. After a recorded batch the roster stays and the candidates are built again from it;
-    // a cold press reads everything, as after a change of the roster made outside the draw,
-    // which is what the untimed write before each cold run stands for.
-    auto touchRoster = [] {
-        store::exec(store::mainConn(),
-                    QStringLiteral("UPDATE UserList SET UserStatus=UserStatus WHERE ID=1"));
+    engine.loadAward(1, true);
+    auto press = [&] {
+        engine.clearDraw();
+        return timeOnce([&] { engine.pressStart(); });
     };
-    auto coldRuns = [&](int runs, const std::function<void()> &work) {
-        std::vector<Timing> times;
-        for (int i = 0; i < runs; ++i) {
-            touchRoster();
-            times.push_back(timeOnce(work));
-        }
-        return median(times);
-    };
-    const Timing load = coldRuns(5, [&] { engine.loadAward(1, true); });
-    const Timing press = medianOf(7, [&] { engine.pressStart(); });
+    std::vector<Timing> warm;
+    for (int i = 0; i < 7; ++i)
+        warm.push_back(press());
     std::vector<Timing> records;
     for (int i = 0; i < 5; ++i) {
+        engine.clearDraw();
         engine.pressStart();
         records.push_back(timeOnce([&] { engine.recordWinners(); }));
     }
-    const Timing coldPress = coldRuns(5, [&] { engine.pressStart(); });
-    // The parts of a cold press.
+    const Timing warmAfterRecord = press();
+
+    // Another connection writes; the next press follows at once, before the roster is read
+    // again behind it.
+    QSqlDatabase outside = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), "outside");
+    outside.setDatabaseName(store::mainConn().databaseName());
+    outside.open();
+    int nextId = n + 1;
+    auto afterOutsideWrite = [&](const QString &sql) {
+        std::vector<Timing> times;
+        for (int i = 0; i < 5; ++i) {
+            store::exec(outside, sql.arg(nextId++));
+            times.push_back(press());
+            waitForReread(engine);
+        }
+        return median(times);
+    };
+    const Timing afterNewName = afterOutsideWrite(QStringLiteral(
+        "INSERT INTO UserList (ID, UserName, DiffNum, UserStatus) VALUES (%1, 'new', 1, 0)"));
+    const Timing afterGiveUp = afterOutsideWrite(
+        QStringLiteral("UPDATE UserList SET JxID='无', UserStatus=1 WHERE ID=%1 - %2").arg(n / 2));
+    QElapsedTimer rereadClock;
+    store::exec(outside, QStringLiteral("UPDATE UserList SET DiffNum=3 WHERE ID=7"));
+    rereadClock.start();
+    engine.clearDraw();
+    engine.pressStart();
+    waitForReread(engine);
+    const double rereadMs = double(rereadClock.nsecsElapsed()) / 1e6;
+    const Timing caughtUp = press();
+    outside.close();
+    outside = QSqlDatabase();
+    QSqlDatabase::removeDatabase(QStringLiteral("outside"));
+
+    // The parts of building the candidates again.
     draw::Roster roster;
-    const Timing rosterRead = medianOf(5, [&] { roster = draw::readRoster(store::mainConn()); });
+    const Timing rosterRead = medianOf(3, [&] { roster = draw::readRoster(store::mainConn()); });
     std::vector<qint64> excluded;
     const Timing exclusions =
         medianOf(5, [&] { excluded = draw::excludedIds(store::mainConn(), session.award.rule); });
@@ -120,13 +163,18 @@ void benchRoster(int n) {
         medianOf(7, [&] { progress = draw::luckProgress(store::mainConn(), total); });
 
     std::printf("roster of %d (one in 200 already a winner):\n", n);
-    printLine("award load (roster read ahead)", load);
-    printLine("Start press, batch of 10", press);
-    printLine("Start press, cold (roster read)", coldPress);
-    printLine("  of which: roster read", rosterRead);
-    printLine("  of which: winners to leave out", exclusions);
-    printLine("  of which: candidate pools", selection);
-    printLine("  of which: candidate digest", digest);
+    printLine("draw window's first award (roster read)", median(opens));
+    printLine("Start press, cold (first after opening)", median(coldPresses));
+    printLine("Start press, warm", median(warm));
+    printLine("Start press, after a recorded batch", warmAfterRecord);
+    printLine("Start press, other connection added one", afterNewName);
+    printLine("Start press, other connection: give-up", afterGiveUp);
+    printLine("Start press, roster read again behind", caughtUp);
+    std::printf("  %-38s %9.3f ms wall\n", "roster read again behind the draw", rereadMs);
+    printLine("  roster read", rosterRead);
+    printLine("  winners to leave out", exclusions);
+    printLine("  candidate pools", selection);
+    printLine("  candidate digest", digest);
     printLine("recording a batch (with reload)", median(records));
     printLine("scroll-sample tick", tick);
     printLine("getLuckPos, 20 awards", luckPos);

@@ -27,6 +27,9 @@ BatchPlan planBatch(int slotCount, int batches, int have) {
     plan.lastBatch = slotCount - (plan.batches - 1) * plan.perBatch;
     plan.done = have > 0 ? (have + plan.perBatch - 1) / plan.perBatch : 0;
     plan.batchCount = plan.done < plan.batches - 1 ? plan.perBatch : plan.lastBatch;
+    // A give-up or a make-up can leave slots open after the plan's last batch, where the formula
+    // gives 0 or less: an open slot is still drawn, one press at a time if need be.
+    if (plan.remaining > 0) plan.batchCount = std::max(1, plan.batchCount);
     plan.batchCount = std::max(0, std::min(plan.batchCount, plan.remaining));
     return plan;
 }

@@ -13,7 +13,7 @@ struct BatchPlan {
     int perBatch = 0;    // P = N / G, halves rounded to the even integer
     int lastBatch = 0;   // L = N - (G - 1) * P, may be 0 or negative
     int done = 0;        // batches guessed as drawn: have / P rounded up
-    int batchCount = 0;  // the size of the next press, 0 when nothing is left
+    int batchCount = 0;  // the size of the next press: at least 1 while a slot is open
 };
 
 // n / d rounded to the nearest integer, halves to the even one (5/2 -> 2, 7/2 -> 4). d > 0.

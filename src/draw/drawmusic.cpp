@@ -126,6 +126,9 @@ void DrawMusic::play(const QString &path, double fromSeconds) {
 
 void DrawMusic::stop() {
     rememberBackgroundPosition();
+    // Nothing is current any more: a player that still reports the end of the stopped file
+    // must not start it again.
+    m_current.clear();
     m_player->stop();
 }
 

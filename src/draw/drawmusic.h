@@ -41,7 +41,7 @@ public:
     // The parade is over: the background, or else silence.
     void endParade();
 
-    // Silence, as when the draw screen closes.
+    // Silence, as when the draw screen closes; nothing is current afterwards.
     void stop();
 
     void setMuted(bool muted);

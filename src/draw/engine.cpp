@@ -4,8 +4,10 @@
 #include <QSet>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QThread>
 
 #include <algorithm>
+#include <memory>
 
 #include "core/appstate.h"
 #include "core/helpers.h"
@@ -62,7 +64,18 @@ void warn(const QString &text) {
 
 }  // namespace
 
-DrawEngine::DrawEngine(Stage &stage, QObject *parent) : QObject(parent), m_stage(stage) {}
+DrawEngine::DrawEngine(Stage &stage, QObject *parent) : QObject(parent), m_stage(stage) {
+    // Writes by other connections are noticed between presses, so that the roster is read again
+    // before the operator presses Start.
+    m_storeWatch.setInterval(500);
+    connect(&m_storeWatch, &QTimer::timeout, this, &DrawEngine::watchStore);
+}
+
+DrawEngine::~DrawEngine() {
+    if (!m_rosterRead) return;
+    m_rosterRead->wait();
+    delete m_rosterRead;
+}
 
 bool DrawEngine::openAuditSession() {
     return m_audit.open(appState().appPath, store::mainConn());
@@ -113,7 +126,11 @@ bool DrawEngine::loadAward(int id, bool resetButtons) {
     send(proto::updateLuckLst,
          names.isEmpty() ? QStringLiteral("当前奖项暂无获奖名单...")
                          : QStringLiteral("恭喜∶") + names + QStringLiteral("获得") + award.name);
-    if (id != m_session.award.id) {
+    const bool awardChanges = id != m_session.award.id;
+    // Moving to another award, like a give-up or a make-up (which reload with resetButtons),
+    // ends the chance to take the last batch back: it belongs to the award it was drawn on.
+    if (m_session.canCancel && (awardChanges || resetButtons)) endCancelChance(resetButtons);
+    if (awardChanges) {
         if (!m_session.prizeHead.trimmed().isEmpty())
             send(proto::vbAddImg, m_session.prizeHead + award.picturePath);
         send(proto::vbShowBlock, proto::falseText);
@@ -129,6 +146,12 @@ bool DrawEngine::loadAward(int id, bool resetButtons) {
     m_session.batchCount = plan.batchCount;
     if (plan.batchCount > 0) refreshCandidates();
     return true;
+}
+
+void DrawEngine::endCancelChance(bool buttonsFollow) {
+    m_session.canCancel = false;
+    // The landed picture's bar offers the undo; the bar of rest does not.
+    if (!buttonsFollow) send(proto::changBtn, proto::buttons::defulte);
 }
 
 void DrawEngine::reloadAward(bool hideBlocks, bool resetButtons) {
@@ -183,6 +206,9 @@ void DrawEngine::stepAward(bool forward, bool wrap) {
 }
 
 DrawEngine::StartOutcome DrawEngine::pressStart() {
+    // One draw at a time: the names on show are this press's winners until they are stored or
+    // cleared.
+    if (m_session.drawState == Running) return StartOutcome::Refused;
     m_session.canCancel = false;
     if (m_session.batchCount < 1) {
         send(proto::changBtn, proto::buttons::defulte);
@@ -210,7 +236,15 @@ DrawEngine::StartOutcome DrawEngine::pressStart() {
     if (m_blockStyle) send(proto::vbLoadBlock, m_blockStyle(m_session.batchCount));
     send(proto::changBtn, proto::buttons::start);
     m_session.drawState = Running;
+    m_session.landing = false;
     return StartOutcome::Drawn;
+}
+
+bool DrawEngine::stopDraw() {
+    if (m_session.drawState != Running || m_session.landing) return false;
+    send(proto::changBtn, proto::buttons::stop);
+    m_session.landing = true;
+    return true;
 }
 
 void DrawEngine::refreshCandidates() {
@@ -218,20 +252,67 @@ void DrawEngine::refreshCandidates() {
     const StoreStamp now = storeStamp(db);
     const AwardRule &rule = m_session.award.rule;
     if (m_session.candidatesRule == rule && m_session.candidatesStamp == now) return;
-    if (!(m_session.rosterStamp == now)) {
+    bool rosterChanged = false;
+    if (m_session.rosterStamp.dataVersion < 0) {
+        // The first award of the window: the roster is read here, once.
         m_session.roster = readRoster(db);
         m_session.rosterStamp = now;
+        rosterChanged = true;
+        m_storeWatch.start();
+    } else if (!(m_session.rosterStamp == now)) {
+        // Somebody else wrote: the roster is read again behind the draw, which goes on with the
+        // one it has. Who may win is cheap to know and is always taken as it is now.
+        startRosterRead();
     }
-    m_session.candidates = selectCandidates(m_session.roster, excludedIds(db, rule), rule);
-    m_session.candidatesDigest = candidateDigest(m_session.candidates);
-    m_session.candidatesRule = rule;
+    std::vector<qint64> excluded = excludedIds(db, rule);
+    if (rosterChanged || !(m_session.candidatesRule == rule) ||
+        excluded != m_session.candidatesExcluded) {
+        m_session.candidates = selectCandidates(m_session.roster, excluded, rule);
+        m_session.candidatesDigest = candidateDigest(m_session.candidates);
+        m_session.candidatesExcluded = std::move(excluded);
+        m_session.candidatesRule = rule;
+    }
     m_session.candidatesStamp = now;
 }
 
-void DrawEngine::keepRosterAfterOwnWrite(bool rosterWasCurrent) {
+void DrawEngine::keepRosterAfterOwnWrite(const StoreStamp &before) {
     // Recording and cancelling touch JxID, UserStatus and UpdateTime only: if nobody else wrote
     // in between, the roster's IDs and distinction numbers are still what was read.
-    if (rosterWasCurrent) m_session.rosterStamp = storeStamp(store::mainConn());
+    const StoreStamp after = storeStamp(store::mainConn());
+    if (m_session.rosterStamp == before) m_session.rosterStamp = after;
+    if (m_rosterRead && m_rosterReadStamp == before) m_rosterReadStamp = after;
+}
+
+void DrawEngine::watchStore() {
+    if (!m_rosterRead && !(m_session.rosterStamp == storeStamp(store::mainConn())))
+        startRosterRead();
+}
+
+void DrawEngine::startRosterRead() {
+    if (m_rosterRead) return;
+    m_rosterReadStamp = storeStamp(store::mainConn());
+    auto result = std::make_shared<std::optional<Roster>>();
+    m_rosterRead = QThread::create(
+        [result, path = store::mainConn().databaseName()] { *result = readRosterFile(path); });
+    connect(m_rosterRead, &QThread::finished, this, [this, result] { adoptRoster(*result); });
+    m_rosterRead->start(QThread::LowPriority);
+}
+
+void DrawEngine::adoptRoster(std::optional<Roster> &roster) {
+    m_rosterRead->wait();
+    delete m_rosterRead;
+    m_rosterRead = nullptr;
+    if (!roster) return;
+    // A write after the read began may be missing from it: read once more.
+    if (!(m_rosterReadStamp == storeStamp(store::mainConn()))) {
+        startRosterRead();
+        return;
+    }
+    m_session.roster = std::move(*roster);
+    m_session.rosterStamp = m_rosterReadStamp;
+    m_session.candidatesRule = AwardRule{-1};
+    if (m_session.award.id != 0) refreshCandidates();
+    Q_EMIT rosterReread();
 }
 
 bool DrawEngine::drawWinners() {
@@ -246,10 +327,17 @@ bool DrawEngine::drawWinners() {
     press.rule = rule;
     press.batchCount = m_session.batchCount;
     press.seed = m_audit.nextPressSeed();
-    press.candidateCount = candidates.count();
-    press.digest = m_session.candidatesDigest;
     press.winners =
         pickWinners(candidates.primary, candidates.fallback, press.seed, m_session.batchCount);
+    // The roster may still be behind another connection's write: somebody removed since must
+    // not be drawn, so the roster is then read here and the same seed picks again.
+    if (!(m_session.rosterStamp == storeStamp(store::mainConn())) && !allInStore(press.winners)) {
+        readRosterNow();
+        press.winners =
+            pickWinners(candidates.primary, candidates.fallback, press.seed, m_session.batchCount);
+    }
+    press.candidateCount = candidates.count();
+    press.digest = m_session.candidatesDigest;
     if (!m_audit.log(pressEvent(press))) return false;
 
     m_session.winnerList = joinWinnerItems(namesOf(press.winners), press.winners);
@@ -273,6 +361,23 @@ AuditEvent DrawEngine::cancelEvent() const {
         .add(QStringLiteral("award"), m_session.award.id)
         .add(QStringLiteral("winners"), idListText({ids.begin(), ids.end()}));
     return event;
+}
+
+bool DrawEngine::allInStore(const std::vector<qint64> &ids) {
+    QSqlQuery query(store::mainConn());
+    query.prepare(QStringLiteral("SELECT 1 FROM UserList WHERE ID=?"));
+    return std::all_of(ids.begin(), ids.end(), [&query](qint64 id) {
+        query.bindValue(0, id);
+        return query.exec() && query.next();
+    });
+}
+
+void DrawEngine::readRosterNow() {
+    QSqlDatabase db = store::mainConn();
+    m_session.roster = readRoster(db);
+    m_session.rosterStamp = storeStamp(db);
+    m_session.candidatesRule = AwardRule{-1};
+    refreshCandidates();
 }
 
 QStringList DrawEngine::namesOf(const std::vector<qint64> &ids) {
@@ -302,11 +407,12 @@ QString DrawEngine::pushScrollSample() {
 bool DrawEngine::recordWinners() {
     const QList<qint64> ids = parseIds(m_session.winnerIds);
     if (m_session.drawState != Running || ids.isEmpty()) return false;
+    m_session.landing = false;
     const int awardId = m_session.award.id;
     QSqlDatabase db = store::mainConn();
 
     // One batch, one moment, one transaction: the batch is stored whole or not at all.
-    const bool rosterCurrent = m_session.rosterStamp == storeStamp(db);
+    const StoreStamp before = storeStamp(db);
     const QString time = store::nowText();
     bool ok = db.transaction();
     QSqlQuery query(db);
@@ -331,7 +437,7 @@ bool DrawEngine::recordWinners() {
         error = db.lastError().text();
     }
     if (!ok) db.rollback();
-    keepRosterAfterOwnWrite(rosterCurrent);
+    keepRosterAfterOwnWrite(before);
     if (!ok) {
         Q_EMIT recordFailed(error);
         return false;
@@ -351,7 +457,7 @@ bool DrawEngine::cancelLastBatch() {
 
     const QString marker = store::awardMarker(m_session.award.id);
     QSqlDatabase db = store::mainConn();
-    const bool rosterCurrent = m_session.rosterStamp == storeStamp(db);
+    const StoreStamp before = storeStamp(db);
     db.transaction();
     QSqlQuery read(db);
     read.prepare(QStringLiteral("SELECT JxID FROM UserList WHERE ID=?"));
@@ -371,7 +477,7 @@ bool DrawEngine::cancelLastBatch() {
     }
     const bool logged = m_audit.log(cancelEvent());
     if (!logged || !db.commit()) db.rollback();
-    keepRosterAfterOwnWrite(rosterCurrent);
+    keepRosterAfterOwnWrite(before);
     if (!logged) {
         ui().message(kAuditWriteFailed + QStringLiteral(",本次撤消未进行!"), MsgStyle::Critical,
                      titles::error);
@@ -397,10 +503,13 @@ bool DrawEngine::restartDraw(const WinnerExporter &exportWinners) {
     return true;
 }
 
-void DrawEngine::clearDraw() {
+bool DrawEngine::clearDraw() {
+    // Landing winners are as good as drawn: the hall has seen them stop.
+    if (m_session.landing) return false;
     send(proto::changBtn, proto::buttons::clear);
     send(proto::vbShowBlock, proto::falseText);
     m_session.drawState = Idle;
+    return true;
 }
 
 void DrawEngine::beginParade() {
@@ -409,6 +518,7 @@ void DrawEngine::beginParade() {
 
 void DrawEngine::resetToIdle() {
     m_session.drawState = Idle;
+    m_session.landing = false;
 }
 
 }  // namespace draw

@@ -2,9 +2,9 @@
 
 namespace draw {
 
-HotkeyAction hotkeyAction(int code, const QList<int> &codes, DrawState state) {
-    // Rows without a key hold 0 or -1; no key the stage reports may match them.
-    if (code <= 0) return HotkeyAction::None;
+namespace {
+
+HotkeyAction classify(int code, const QList<int> &codes, DrawState state) {
     const auto codeOf = [&codes](int row) { return row < codes.size() ? codes[row] : 0; };
     constexpr int kStartRow = int(HotkeyAction::Start);
     constexpr int kStopRow = int(HotkeyAction::Stop);
@@ -15,6 +15,17 @@ HotkeyAction hotkeyAction(int code, const QList<int> &codes, DrawState state) {
                                                             : HotkeyAction::Start;
     if (code == codeOf(kStopRow)) return HotkeyAction::Stop;
     return HotkeyAction::None;
+}
+
+}  // namespace
+
+HotkeyAction hotkeyAction(int code, const QList<int> &codes, DrawState state, bool landing) {
+    // Rows without a key hold 0 or -1; no key the stage reports may match them.
+    if (code <= 0) return HotkeyAction::None;
+    const HotkeyAction action = classify(code, codes, state);
+    if (landing && action != HotkeyAction::Sound && action != HotkeyAction::Screen)
+        return HotkeyAction::None;
+    return action;
 }
 
 }  // namespace draw

@@ -22,7 +22,8 @@ enum class HotkeyAction {
 
 // The action of a key code the stage reported. `codes` are the nine configured codes by row. One
 // key may serve for start and stop: while the draw runs it stops. Among the seven other rows the
-// first match wins, and it wins over start and stop.
-HotkeyAction hotkeyAction(int code, const QList<int> &codes, DrawState state);
+// first match wins, and it wins over start and stop. While the winners land (`landing`) only the
+// sound and screen keys act.
+HotkeyAction hotkeyAction(int code, const QList<int> &codes, DrawState state, bool landing);
 
 }  // namespace draw

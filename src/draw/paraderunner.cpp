@@ -21,7 +21,8 @@ void ParadeRunner::send(const QString &name, const QString &value) {
 }
 
 void ParadeRunner::start() {
-    Q_EMIT started();
+    Q_EMIT started(
+        store::scalar(store::mainConn(), QStringLiteral("SELECT 1 FROM JPList LIMIT 1")).isValid());
     // Every parade starts scrolling, whatever the last one was left at.
     m_isScrolling = true;
     m_lastShownOrder = 0;

@@ -35,7 +35,8 @@ public:
 
 Q_SIGNALS:
     // Emitted before the first award is sent, so the draw is in its parade state by then.
-    void started();
+    // Without any award the stage ends the parade at once: nothing to play music to.
+    void started(bool anyAward);
     void finished();
 
 private:

@@ -151,6 +151,25 @@ Roster readRoster(QSqlDatabase db) {
     return roster;
 }
 
+std::optional<Roster> readRosterFile(const QString &databasePath) {
+    static QAtomicInt serial = 0;
+    const QString name = QStringLiteral("rosterRead%1").arg(serial.fetchAndAddRelaxed(1));
+    std::optional<Roster> roster;
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
+        db.setDatabaseName(databasePath);
+        if (db.open()) {
+            // One snapshot for the count and the rows.
+            db.transaction();
+            roster = readRoster(db);
+            db.rollback();
+        }
+        db.close();
+    }
+    QSqlDatabase::removeDatabase(name);
+    return roster;
+}
+
 Candidates selectCandidates(const Roster &roster, const std::vector<qint64> &excluded,
                             const AwardRule &rule) {
     Candidates candidates;

@@ -62,6 +62,9 @@ struct Roster {
     std::vector<qint64> diffNums;
 };
 Roster readRoster(QSqlDatabase db);
+// The same through a connection of its own to the store file, for a worker thread; nullopt when
+// the file cannot be read.
+std::optional<Roster> readRosterFile(const QString &databasePath);
 // The IDs that may not win an award, ascending: a status of 1 (or none), and a win of this
 // award, or any text at all in JxID when isReLuck is 1. Few, and found through indexes.
 std::vector<qint64> excludedIds(QSqlDatabase db, const AwardRule &rule);

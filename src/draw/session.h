@@ -29,6 +29,8 @@ struct DrawSession {
     int batchCount = 0;
     DrawState drawState = Idle;
     bool canCancel = false;
+    // Running, after Stop: the winners land, and nothing may clear or replace them.
+    bool landing = false;
     // The press in progress: "name$id|name$id" for the stage, and the IDs joined by ",".
     QString winnerList;
     QString winnerIds;
@@ -37,15 +39,17 @@ struct DrawSession {
     // The nine leading vbAddImg fields of the prize picture, each followed by "|"; blank when the
     // template shows no prize picture.
     QString prizeHead;
-    // The eligible participants of the loaded award, read ahead when the award loads so that Start
-    // costs little, and read again at Start when the store has changed since (see StoreStamp). The
-    // scroll samples from here.
+    // The eligible participants of the loaded award, built when the award loads so that Start
+    // costs little, and built again at Start when who may win has changed since. The scroll
+    // samples from here.
     Candidates candidates;
     QString candidatesDigest;
-    // IDs and distinction numbers of the whole roster, read again only when the store changed
-    // in a way the draw's own recording does not explain.
+    std::vector<qint64> candidatesExcluded;  // who could not win when they were built
+    // IDs and distinction numbers of the whole roster, read when the first award loads and read
+    // again on a worker thread when the store changed in a way the draw's own recording does not
+    // explain. Until then the draw goes on with this one.
     Roster roster;
-    StoreStamp rosterStamp;
+    StoreStamp rosterStamp;  // dataVersion < 0: never read
     AwardRule candidatesRule;
     StoreStamp candidatesStamp;
     PressRecord lastPress;

@@ -16,6 +16,11 @@
 
 namespace {
 
+struct OutsideWrite {
+    const char *sql;
+    qint64 value;
+};
+
 // A started program folder with a recording stage and an engine with a fresh session.
 struct Rig {
     TempProgramFolder folder;
@@ -33,6 +38,17 @@ struct Rig {
                     QStringLiteral("UPDATE UserList SET JxID=?, UserStatus=?, UpdateTime=? "
                                    "WHERE ID=?"),
                     {jxId, status, time.isEmpty() ? QVariant() : QVariant(time), id});
+    }
+    // Writes through a connection of another program, which the engine cannot account for.
+    void writeOutside(const QList<OutsideWrite> &writes) {
+        {
+            QSqlDatabase outside = QSqlDatabase::addDatabase("QSQLITE", "outside");
+            outside.setDatabaseName(folder.db().databaseName());
+            QVERIFY(outside.open());
+            for (const OutsideWrite &write : writes)
+                store::exec(outside, write.sql, {write.value});
+        }
+        QSqlDatabase::removeDatabase("outside");
     }
     // A whole draw: Start, then the stage's stoplucksub.
     bool drawAndRecord() {
@@ -57,11 +73,15 @@ private Q_SLOTS:
     void startOnAFullAwardMovesOn();
     void recordAndCancelEditTheWins();
     void cancelAnsweredNoChangesNothing();
+    void movingOnEndsTheCancel_data();
+    void movingOnEndsTheCancel();
+    void oneDrawAtATime();
     void emptyDrawWarns();
     void nothingIsStoredBeforeTheLanding();
     void interruptedRecordingStoresNothing();
     void scrollSampleComesFromTheEligiblePool();
     void storeChangesReachTheNextPress();
+    void nobodyRemovedOutsideIsDrawn();
     void restartClearsEverythingAfterASnapshot();
 
 private:
@@ -306,6 +326,60 @@ void TestEngine::cancelAnsweredNoChangesNothing() {
     QVERIFY(!rig.session.canCancel);
 }
 
+void TestEngine::movingOnEndsTheCancel_data() {
+    QTest::addColumn<int>("how");  // 0 the next award, 1 a give-up's reload, 2 a make-up's load
+    QTest::newRow("next award") << 0;
+    QTest::newRow("give-up") << 1;
+    QTest::newRow("make-up") << 2;
+}
+
+void TestEngine::movingOnEndsTheCancel() {
+    QFETCH(int, how);
+    Rig rig;
+    QVERIFY(rig.started);
+    const int first = rig.folder.addAward("一等奖", 2, 1, 0);
+    const int second = rig.folder.addAward("二等奖", 2, 1, 0);
+    const QList<int> ids = rig.folder.addUsers({"a", "b"});
+    for (int id : ids)
+        rig.setWins(id, store::awardMarker(second), 3);
+    rig.engine.loadAward(first, false);
+    QVERIFY(rig.drawAndRecord());
+    rig.stage.clear();
+    if (how == 0) rig.engine.stepAward(true, false);
+    if (how == 1) rig.engine.reloadAward(true, true);
+    if (how == 2) rig.engine.loadAward(second, true);
+    // The bar of rest, without the undo, and the undo itself does nothing.
+    QCOMPARE(rig.stage.values(proto::changBtn), QStringList{"defulte"});
+    m_ui->answers.enqueue(true);
+    QVERIFY(!rig.engine.cancelLastBatch());
+    QVERIFY(m_ui->records.isEmpty());
+    for (int id : ids)
+        QCOMPARE(rig.cell(id, "JxID").toString(),
+                 store::awardMarker(second) + store::awardMarker(first));
+}
+
+void TestEngine::oneDrawAtATime() {
+    Rig rig;
+    QVERIFY(rig.started);
+    const int award = rig.folder.addAward("一等奖", 2, 1);
+    rig.folder.addUsers({"a", "b", "c", "d"});
+    rig.engine.loadAward(award, false);
+    QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Drawn);
+    const QString drawn = rig.session.winnerIds;
+    rig.stage.clear();
+    // A second Start, from a key or a button the movie let through, draws nobody new.
+    QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Refused);
+    QVERIFY(rig.engine.stopDraw());
+    QVERIFY(!rig.engine.stopDraw());
+    // Once the winners land they can no longer be cleared or replaced.
+    QVERIFY(!rig.engine.clearDraw());
+    QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Refused);
+    QCOMPARE(rig.stage.lines(), QStringList{"changBtn=stop"});
+    QCOMPARE(rig.session.winnerIds, drawn);
+    QVERIFY(rig.engine.recordWinners());
+    QCOMPARE(draw::countAwardWinners(rig.folder.db(), award), 2);
+}
+
 void TestEngine::emptyDrawWarns() {
     Rig rig;
     QVERIFY(rig.started);
@@ -394,7 +468,9 @@ void TestEngine::scrollSampleComesFromTheEligiblePool() {
 
     // From a larger pool each tick is a fresh sample of batchCount distinct names.
     rig.folder.addUsers(QStringList(40, QStringLiteral("h|x|0")));
+    QSignalSpy reread(&rig.engine, &draw::DrawEngine::rosterReread);
     rig.engine.loadAward(award, false);
+    QVERIFY(reread.wait());
     QSet<QString> seen;
     for (int tick = 0; tick < 20; ++tick) {
         const QStringList items = rig.engine.pushScrollSample().mid(2).split('|');
@@ -413,27 +489,45 @@ void TestEngine::scrollSampleComesFromTheEligiblePool() {
 }
 
 void TestEngine::storeChangesReachTheNextPress() {
-    // The roster is read ahead and kept across presses; any change made to the store outside
-    // the draw's own recording must still reach the next press.
+    // The roster is read once and kept across presses. Another connection's write reaches the
+    // next press as far as who may win goes; the roster itself is read again behind the draw.
     Rig rig;
     QVERIFY(rig.started);
     const int award = rig.folder.addAward("一等奖", 10, 10, 1, 1, 5);  // greater than 5
-    const QList<int> ids = rig.folder.addUsers({"a|x|9", "b|x|1", "c|x|1"});
+    const QList<int> ids = rig.folder.addUsers({"a|x|9", "b|x|1", "c|x|1", "d|x|9"});
     rig.engine.loadAward(award, false);
     QVERIFY(rig.drawAndRecord());
-    QCOMPARE(rig.session.lastWinnerIds, QString::number(ids[0]));
     // Recorded by the draw itself: the roster stays, the winner is out.
-    QCOMPARE(rig.session.candidates.count(), 2);
+    QCOMPARE(rig.session.candidates.count(), 3);
+    const qint64 winner = rig.session.lastWinnerIds.toLongLong();
+    const qint64 other = winner == ids[0] ? ids[3] : ids[0];
 
-    // Someone edits a distinction number, another adds a participant, a third gives up.
-    store::exec(rig.folder.db(), "UPDATE UserList SET DiffNum=8 WHERE ID=?", {ids[1]});
-    const int added = rig.folder.addUsers({"d|x|7"}).first();
-    rig.setWins(ids[2], "无", 1);
-    rig.engine.clearDraw();
+    rig.writeOutside({{"UPDATE UserList SET DiffNum=8 WHERE ID=?", ids[1]},
+                      {"INSERT INTO UserList (ID, UserName, DiffNum) VALUES (99, 'e', ?)", 7},
+                      {"UPDATE UserList SET JxID='无', UserStatus=1 WHERE ID=?", ids[2]}});
+
+    QSignalSpy reread(&rig.engine, &draw::DrawEngine::rosterReread);
     QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Drawn);
-    QCOMPARE(rig.session.candidates.primary, (std::vector<qint64>{ids[1], added}));
+    QCOMPARE(rig.session.candidates.primary, (std::vector<qint64>{other}));
+    QCOMPARE(rig.session.candidates.fallback, (std::vector<qint64>{ids[1]}));
+    QVERIFY(reread.wait());
+    std::vector<qint64> everyone{other, ids[1], 99};
+    std::sort(everyone.begin(), everyone.end());
+    QCOMPARE(rig.session.candidates.primary, everyone);
     QVERIFY(rig.session.candidates.fallback.empty());
-    QCOMPARE(rig.session.lastPress.candidateCount, 2);
+}
+
+void TestEngine::nobodyRemovedOutsideIsDrawn() {
+    // Nine of ten are deleted by another connection just before the press, before the roster
+    // is read again behind the draw: only the tenth may win.
+    Rig rig;
+    QVERIFY(rig.started);
+    const int award = rig.folder.addAward("一等奖", 10, 10);
+    const QList<int> ids = rig.folder.addUsers(QStringList(10, QStringLiteral("p|x|0")));
+    rig.engine.loadAward(award, false);
+    rig.writeOutside({{"DELETE FROM UserList WHERE ID<>?", ids.last()}});
+    QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Drawn);
+    QCOMPARE(rig.session.winnerIds, QString::number(ids.last()));
 }
 
 void TestEngine::restartClearsEverythingAfterASnapshot() {

@@ -111,6 +111,13 @@ void TestSelection::batchEdges_data() {
     QTest::newRow("batches above slots shown clamped") << 3 << 5 << 0 << 3 << 3 << 1;
     QTest::newRow("no slot") << 0 << 1 << 0 << 0 << 0 << 0;
     QTest::newRow("no batch") << 4 << 0 << 0 << 0 << 4 << 0;
+    // The plan's formula gives 0 for a batch after its last one; a slot freed by a give-up or
+    // added by a make-up is still drawn.
+    QTest::newRow("10 over 6, a give-up after all five batches") << 10 << 6 << 9 << 6 << 1 << 1;
+    QTest::newRow("6 over 4, a give-up") << 6 << 4 << 5 << 4 << 1 << 1;
+    QTest::newRow("8 over 5, a give-up") << 8 << 5 << 7 << 5 << 1 << 1;
+    QTest::newRow("12 over 7, a give-up") << 12 << 7 << 11 << 7 << 1 << 1;
+    QTest::newRow("9 over 6 all drawn, a make-up of 1") << 10 << 6 << 9 << 6 << 1 << 1;
 }
 
 void TestSelection::batchEdges() {

@@ -108,9 +108,9 @@ void DrawWindow::createHelpers() {
     connect(m_engine, &draw::DrawEngine::drawEmpty, m_music, &draw::DrawMusic::backToBackground);
     connect(m_engine, &draw::DrawEngine::batchCancelled, m_music,
             &draw::DrawMusic::backToBackground);
-    connect(m_parade, &draw::ParadeRunner::started, this, [this] {
+    connect(m_parade, &draw::ParadeRunner::started, this, [this](bool anyAward) {
         m_engine->beginParade();
-        m_music->playParadeMusic();
+        if (anyAward) m_music->playParadeMusic();
     });
     connect(m_parade, &draw::ParadeRunner::finished, this, [this] {
         m_music->endParade();
@@ -390,13 +390,13 @@ void DrawWindow::stopDraw() {
         m_stopGuardPanel->raise();
         return;
     }
-    send(proto::changBtn, proto::buttons::stop);
+    if (!m_engine->stopDraw()) return;
     m_scrollSampleTimer.stop();
 }
 
 void DrawWindow::clearDraw() {
+    if (!m_engine->clearDraw()) return;
     m_scrollSampleTimer.stop();
-    m_engine->clearDraw();
     m_music->backToBackground();
 }
 

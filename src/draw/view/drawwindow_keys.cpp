@@ -32,7 +32,7 @@ void DrawWindow::onHotkey(int keyCode) {
             m_engine->stepAward(keyCode == kRight, false);
         return;
     }
-    switch (draw::hotkeyAction(keyCode, m_keyCodes, state)) {
+    switch (draw::hotkeyAction(keyCode, m_keyCodes, state, m_engine->isLanding())) {
         case HotkeyAction::Start:
         case HotkeyAction::Stop:
             // Outside the parade the stage starts and stops by itself and answers with btnclick.
