@@ -60,6 +60,12 @@ Item {
             xScale: root.scaleGiven ? root.scaleX : box.fit
             yScale: root.scaleGiven ? root.scaleY : box.fit
         }
-        Page { id: page; preview: true; festive: true; vars: null }
+        // The console shows what an award would look like, never the bare "$Name2".
+        Page {
+            id: page
+            preview: true
+            festive: true
+            vars: ({ award: "一等奖", prize: "笔记本电脑", slots: "10", left: "10" })
+        }
     }
 }

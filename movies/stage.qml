@@ -23,8 +23,26 @@ Item {
     property bool stopSent: false
     property bool playbackOn: false
     property string fingerprint: ""
+    property bool drawnOnce: false           // the idle hint goes with the first draw
 
+    // A reply to a variable the host has just set goes out at once.
     function send(command, args) { fsCommand(command, args === undefined ? "" : String(args)) }
+
+    // What the operator or the movie itself starts (a click, a key, a landing, a parade step)
+    // reaches the host from the event loop, in order: the host may open a dialog or change the
+    // page in reply, and must never destroy the item whose handler is still running.
+    property var outbox: []
+    function report(command, args) {
+        outbox.push([command, args === undefined ? "" : String(args)])
+        Qt.callLater(deliverReports) // qmllint disable type
+    }
+    function deliverReports() {
+        // One at a time: a dialog the host opens runs a nested loop that may deliver the rest.
+        while (outbox.length > 0) {
+            var next = outbox.shift()
+            fsCommand(next[0], next[1])
+        }
+    }
 
     function setVariable(name, value) {
         var v = value === undefined || value === null ? "" : String(value)
@@ -68,7 +86,7 @@ Item {
 
     // --- start-up -------------------------------------------------------------------------
 
-    Component.onCompleted: Qt.callLater(function () { send("loadok") }) // qmllint disable type
+    Component.onCompleted: report("loadok")
 
     function enterDraw() {
         if (scene === "draw") return
@@ -87,7 +105,7 @@ Item {
             waited += interval
             if ((root.pushesIn && photoIndex.ready) || waited > 4000) {
                 stop()
-                if (!root.loadUserSent) { root.loadUserSent = true; root.send("loaduserok", "ok") }
+                if (!root.loadUserSent) { root.loadUserSent = true; root.report("loaduserok", "ok") }
             }
         }
     }
@@ -153,6 +171,7 @@ Item {
         var area = page.drawArea
         if (v === "start") {
             stopSent = false
+            drawnOnce = true
             if (area) { area.winners = winners; area.startRolling() }
         } else if (v === "stop") {
             if (area) area.stopRolling()
@@ -173,7 +192,7 @@ Item {
     function landed() {
         if (stopSent) return
         stopSent = true
-        send("stoplucksub")
+        report("stoplucksub")
     }
 
     Connections {
@@ -193,7 +212,7 @@ Item {
         parade.stop()
         playbackOn = false
         buttons = "defulte"
-        send("luckplaystop")
+        report("luckplaystop")
     }
 
     function callPlay(v) {
@@ -207,7 +226,7 @@ Item {
 
     function onButton(name) {
         if (name === "btnPlayLuck" && playbackOn) { endParade(); return }
-        send("btnclick", name)
+        report("btnclick", name)
     }
 
     readonly property bool landing: page.drawArea !== null && page.drawArea.phase === "landing"
@@ -217,11 +236,11 @@ Item {
         var c = P.num(code, -1)
         wake()
         if (scene === "draw" && !playbackOn) {
-            if (buttons === "start" && c === keys[1]) send("btnclick", "btnStop")
+            if (buttons === "start" && c === keys[1]) report("btnclick", "btnStop")
             else if (buttons !== "start" && !landing && c === keys[0] && c !== 0)
-                send("btnclick", "btnStart")
+                report("btnclick", "btnStart")
         }
-        send("callvbkeys", c)
+        report("callvbkeys", c)
     }
 
     function wake() {
@@ -253,7 +272,7 @@ Item {
     function objectNames() { return Object.keys(page.objects) }
     function objectText(name) {
         var o = page.objects[name]
-        if (!o) return ""
+        if (!o || !o.visible) return ""
         return o.shown !== undefined ? o.shown : P.fillVariables(o.rawText, page.vars)
     }
 
@@ -274,7 +293,7 @@ Item {
         }
         visible: root.scene === "draw"
 
-        Page { id: page; festive: true }
+        Page { id: page; festive: true; hideUnfilled: true }
         Rectangle {     // the page dims behind the parade
             anchors.fill: page
             z: 999
@@ -287,7 +306,7 @@ Item {
             id: parade
             photos: page.photos
             z: 1000
-            onAwardPassed: root.send("callLoadPlay")
+            onAwardPassed: root.report("callLoadPlay")
             onFinished: root.endParade()
         }
     }
@@ -310,19 +329,48 @@ Item {
 
     ButtonBar {
         id: buttonBar
-        visible: root.scene === "draw" && opacity > 0
+        visible: root.scene === "draw"
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 18
         state_: root.buttons
         landing: root.landing
         onPressed: function (name) { root.onButton(name) }
+        // The bar stays while the pointer is on it, and rests a while after it leaves.
+        onPointerOverChanged: root.wake()
+    }
+
+    // Until the first draw, a quiet line says which keys run it.
+    readonly property string keyHint: P.keyHint(keys[0], keys[1])
+    function keyHintShown() {
+        return hint.visible ? keyHint : ""
+    }
+    Rectangle {
+        id: hint
+        visible: root.scene === "draw" && !root.drawnOnce && !root.playbackOn
+                 && root.buttons !== "start" && root.keyHint !== ""
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: buttonBar.top
+        anchors.bottomMargin: 14
+        width: hintText.implicitWidth + 36
+        height: hintText.implicitHeight + 12
+        radius: height / 2
+        color: "#73000000"
+        Text {
+            id: hintText
+            anchors.centerIn: parent
+            text: root.keyHint
+            color: "#FFF4D6"
+            opacity: 0.85
+            font.pixelSize: 20
+            font.family: "黑体"
+        }
     }
 
     // The bar rests out of sight while the mouse is still.
     property int restMs: 2500
     Timer { id: restTimer; interval: root.restMs; running: true
-            onTriggered: buttonBar.awake = false }
+            onTriggered: if (!buttonBar.pointerOver) buttonBar.awake = false }
     // Qt Quick repeats hover events for a still mouse while the scene animates: only a real
     // move wakes the bar.
     HoverHandler {

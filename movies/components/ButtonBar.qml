@@ -2,8 +2,10 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 // The on-stage button bar. Which buttons show follows the draw state (changBtn); the sound and
-// screen buttons come in pairs that swap on each press. It fades out while the mouse rests and
-// returns on the first move.
+// screen buttons come in pairs that swap on each press. Every button has a slot of its own that
+// never moves, so a button is where the operator's hand expects it whatever else appears, and no
+// button is ever destroyed by the state change its own press causes. The bar fades out while the
+// mouse rests away from it; faded, it still takes clicks.
 Item {
     id: bar
     property string state_: "defulte"      // the last changBtn value
@@ -11,6 +13,7 @@ Item {
     property bool soundOn: true
     property bool fullScreen: true
     property bool awake: true
+    readonly property bool pointerOver: hover.hovered
     signal pressed(string name)
     height: 96
     width: row.width + 48
@@ -25,6 +28,10 @@ Item {
                  "btnLstPrt", "btnLstOut", "btnPlayLuck"],
         "luckplay": ["btnPlayLuck"]
     })
+    // One slot per place on the bar; a slot shows the first of its buttons that is on show.
+    readonly property var slots: [["btnStart", "btnStop"], ["btnClear", "btnCancel"], ["btnPre"],
+        ["btnNext"], ["btnAdd"], ["btnGiveUp"], ["btnLstPrt"], ["btnLstOut"], ["btnPlayLuck"],
+        ["btnSoundOn", "btnSoundOff"], ["btnScreenN", "btnScreenF"], ["btnExit"]]
     readonly property var info: ({
         "btnStart": ["▶", "开始", "开始抽奖"],
         "btnStop": ["■", "停止", "停止抽奖"],
@@ -44,13 +51,22 @@ Item {
         "btnExit": ["⎋", "退出", "退出抽奖"]
     })
 
-    function visibleNames() {
+    readonly property var shownNames: {
         // While the winners land nothing is stored yet: only sound, screen and exit stay.
         var names = landing ? [] : (sets[state_] || sets["defulte"]).slice()
         names.push(soundOn ? "btnSoundOn" : "btnSoundOff")
         names.push(fullScreen ? "btnScreenN" : "btnScreenF")
         names.push("btnExit")
         return names
+    }
+
+    function visibleNames() { return shownNames.slice() }
+
+    function slotButton(index) {
+        var choices = slots[index]
+        for (var i = 0; i < choices.length; ++i)
+            if (shownNames.indexOf(choices[i]) >= 0) return choices[i]
+        return ""
     }
 
     // Presses a button as a click would; the pairs swap.
@@ -63,8 +79,9 @@ Item {
     }
 
     opacity: awake ? 1 : 0
-    visible: opacity > 0
     Behavior on opacity { NumberAnimation { duration: 450; easing.type: Easing.InOutQuad } }
+
+    HoverHandler { id: hover }
 
     Rectangle {
         anchors.fill: parent
@@ -81,15 +98,23 @@ Item {
         anchors.centerIn: parent
         spacing: 6
         Repeater {
-            model: bar.visibleNames()
-            StageButton {
-                required property string modelData
-                name: modelData
-                glyph: bar.info[modelData][0]
-                caption: bar.info[modelData][1]
-                tip: bar.info[modelData][2]
-                accent: modelData === "btnStart" || modelData === "btnStop"
-                onClicked: bar.press(modelData)
+            model: bar.slots.length
+            Item {
+                id: slot
+                required property int index
+                readonly property string current: bar.slotButton(index)
+                width: 62
+                height: 72
+                StageButton {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    visible: slot.current !== ""
+                    name: slot.current
+                    glyph: visible ? bar.info[slot.current][0] : ""
+                    caption: visible ? bar.info[slot.current][1] : ""
+                    tip: visible ? bar.info[slot.current][2] : ""
+                    accent: slot.current === "btnStart" || slot.current === "btnStop"
+                    onClicked: bar.press(slot.current)
+                }
             }
         }
     }

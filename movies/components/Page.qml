@@ -7,6 +7,9 @@ import "proto.js" as P
 Item {
     id: page
     property var vars: null       // award variables; null keeps "$Name1"... as typed
+    // The draw screen hides a text that names an award variable while no award is loaded,
+    // rather than show the audience "$Name2".
+    property bool hideUnfilled: false
     property string luckLine                 // the winner line that scr_luckls shows
     property var photos: ({})
     property int luckDelay: 10
@@ -72,11 +75,15 @@ Item {
         return obj
     }
 
-    Component { id: textKind; TextObject { vars: page.vars } }
+    Component {
+        id: textKind
+        TextObject { vars: page.vars; hideUnfilled: page.hideUnfilled }
+    }
     Component {
         id: scrollKind
         ScrollText {
             vars: page.vars
+            hideUnfilled: page.hideUnfilled
             // The winner line of the draw; the console shows a sample in its place.
             useOverride: objName === "scr_luckls" && (!page.preview || rawText === "")
             override: page.preview ? "恭喜∶中奖名单将在这里滚动显示" : page.luckLine

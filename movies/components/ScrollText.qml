@@ -8,6 +8,7 @@ Item {
     id: obj
     property string objName
     property var vars
+    property bool hideUnfilled: false
     property string rawText
     property string override
     property bool useOverride: false
@@ -16,6 +17,7 @@ Item {
     property bool shadow: false
     readonly property string shown: P.fillVariables(useOverride ? override : rawText, vars)
     clip: true
+    visible: !(hideUnfilled && !vars && P.hasVariables(useOverride ? override : rawText))
 
     function apply(f) {
         objName = P.field(f, 1)

@@ -6,6 +6,7 @@ Item {
     id: obj
     property string objName
     property var vars                 // award variables for $Name1, $Name2, $1, $2
+    property bool hideUnfilled: false
     property string rawText
     property color panelColor: "#00000000"
     property real border: 0
@@ -37,6 +38,7 @@ Item {
         shadow = f.length > 19 ? P.flag(P.field(f, 19)) : false
     }
 
+    visible: !(hideUnfilled && !vars && P.hasVariables(rawText))
     width: label.implicitWidth + 2 * border
     height: label.implicitHeight + 2 * border
 

@@ -52,10 +52,11 @@ function align(text) {
 function fillVariables(text, vars) {
     var t = String(text || "")
     if (!vars) return t
-    return t.split("$Name1").join(vars.prize || "")
-            .split("$Name2").join(vars.award || "")
-            .split("$1").join(vars.slots || "")
-            .split("$2").join(vars.left || "")
+    // One pass, so that an award or prize named with "$1" is shown as it is.
+    var values = { "$Name1": vars.prize, "$Name2": vars.award, "$1": vars.slots, "$2": vars.left }
+    return t.replace(/\$Name1|\$Name2|\$1|\$2/g, function (found) {
+        return values[found] === undefined ? "" : String(values[found])
+    })
 }
 
 // "name$id" items after the leading type field: [{name, id}].
@@ -103,4 +104,29 @@ function style(list, at) {
         align: align(field(list, at + 7, "center")),
         shadow: flag(field(list, at + 8, "0"))
     }
+}
+
+// The name of a key code as the hotkey settings show it; "" for a key they cannot set.
+function keyName(code) {
+    var c = num(code, 0)
+    if (c >= 65 && c <= 90) return String.fromCharCode(c) + "键"
+    if (c >= 48 && c <= 57) return "数字" + String.fromCharCode(c)
+    if (c >= 96 && c <= 105) return "小键盘数字" + String.fromCharCode(c - 48)
+    var named = { 8: "BackSpace键", 13: "回车键(Enter)", 32: "空格键(Space)", 33: "PageUp键",
+                  34: "PageDown键", 38: "↑键", 40: "↓键", 46: "Delete键" }
+    return named[c] || ""
+}
+
+// The idle stage's hint: which keys start and stop the draw.
+function keyHint(startCode, stopCode) {
+    var start = keyName(startCode), stop = keyName(stopCode)
+    if (start === "") return ""
+    if (stop === "") return "按 " + start + " 开始抽奖"
+    if (stop === start) return "按 " + start + " 开始抽奖，再按一次停止"
+    return "按 " + start + " 开始抽奖，按 " + stop + " 停止"
+}
+
+// True when a template text carries an award variable.
+function hasVariables(text) {
+    return /\$Name1|\$Name2|\$1|\$2/.test(String(text || ""))
 }

@@ -4,9 +4,13 @@
 #include <QColorDialog>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStandardPaths>
+
+#include "core/appstate.h"
 
 namespace {
 
@@ -50,16 +54,33 @@ QString WidgetUi::inputText(const QString &prompt, const QString &title, const Q
     return ok ? text : QString();
 }
 
+QString WidgetUi::openFolder(const QString &requested) const {
+    return dialogfolders::openStart(
+        requested, m_lastOpenFolder,
+        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+}
+
+void WidgetUi::rememberFolder(const QString &file) {
+    if (!file.isEmpty()) m_lastOpenFolder = QFileInfo(file).absolutePath();
+}
+
 QString WidgetUi::openFile(const QString &title, const QString &dir, const QString &filter) {
-    return QFileDialog::getOpenFileName(dialogParent(), title, dir, filter);
+    const QString file =
+        QFileDialog::getOpenFileName(dialogParent(), title, openFolder(dir), filter);
+    rememberFolder(file);
+    return file;
 }
 
 QStringList WidgetUi::openFiles(const QString &title, const QString &dir, const QString &filter) {
-    return QFileDialog::getOpenFileNames(dialogParent(), title, dir, filter);
+    const QStringList files =
+        QFileDialog::getOpenFileNames(dialogParent(), title, openFolder(dir), filter);
+    if (!files.isEmpty()) rememberFolder(files.first());
+    return files;
 }
 
 QString WidgetUi::saveFile(const QString &title, const QString &suggested, const QString &filter) {
-    return QFileDialog::getSaveFileName(dialogParent(), title, suggested, filter);
+    const QString start = dialogfolders::saveStart(suggested, appState().path(QStringLiteral("record")));
+    return QFileDialog::getSaveFileName(dialogParent(), title, start, filter);
 }
 
 QString WidgetUi::chooseDirectory(const QString &title, const QString &dir) {

@@ -2,7 +2,8 @@
 
 #include "core/ui.h"
 
-// The dialogs of Qt Widgets, parented to the active window.
+// The dialogs of Qt Widgets, parented to the active window. File dialogs open where the file is
+// likely to be (dialogfolders), remembering the folder of the last file opened.
 class WidgetUi : public Ui {
 public:
     void message(const QString &text, MsgStyle style, const QString &title) override;
@@ -15,4 +16,10 @@ public:
     QString chooseDirectory(const QString &title, const QString &dir) override;
     QColor chooseColor(const QColor &initial, const QString &title) override;
     bool openUrl(const QUrl &url) override;
+
+private:
+    QString openFolder(const QString &requested) const;
+    void rememberFolder(const QString &file);
+
+    QString m_lastOpenFolder;
 };

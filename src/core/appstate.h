@@ -25,6 +25,8 @@ struct AppState {
     qint16 bgW = 0;
     qint16 bgH = 0;
     float dpiScale = 1.0f;
+    // The screen the operator chose for the stage in the draw wizard; empty for the default.
+    QString stageScreen;
     QString BT1;
     QString BT2;
     QString title1;

@@ -1,6 +1,8 @@
 #include "core/ui.h"
 
 #include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
 
 #include "core/logging.h"
 
@@ -51,3 +53,18 @@ QString dialogFilter(const QString &pairs) {
                        QLatin1Char(')');
     return filters.join(QStringLiteral(";;"));
 }
+
+namespace dialogfolders {
+
+QString openStart(const QString &requested, const QString &lastUsed, const QString &documents) {
+    if (!requested.isEmpty()) return requested;
+    if (!lastUsed.isEmpty() && QFileInfo(lastUsed).isDir()) return lastUsed;
+    return documents;
+}
+
+QString saveStart(const QString &suggested, const QString &recordFolder) {
+    if (suggested.isEmpty() || suggested.contains(QLatin1Char('/'))) return suggested;
+    return QDir(recordFolder).filePath(suggested);
+}
+
+}  // namespace dialogfolders

@@ -42,6 +42,14 @@ Ui &ui();
 // "text|patterns|text|patterns", the filters as the settings and dialogs write them, to a file
 // dialog's "text (patterns);;text (patterns)".
 QString dialogFilter(const QString &pairs);
+// Where a file dialog opens, whatever the Ui. An open dialog the caller gives no folder starts
+// in the last folder the operator opened from, else in the documents folder; a save dialog
+// offered a bare file name puts it in the program's record/ folder.
+namespace dialogfolders {
+QString openStart(const QString &requested, const QString &lastUsed, const QString &documents);
+QString saveStart(const QString &suggested, const QString &recordFolder);
+}  // namespace dialogfolders
+
 // Installs the service; the previous one is destroyed. With none installed, messages go to the
 // log and every question is answered No.
 void setUi(std::unique_ptr<Ui> service);

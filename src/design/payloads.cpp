@@ -151,6 +151,12 @@ QString stageScalePayload(int hostW, int hostH, bool fullScreen, int bgW, int bg
     return (Fields() << x << y).text();
 }
 
+QString awardPanelPayload(const AwardPanel &panel) {
+    return (Fields() << panel.awardName << panel.slotCount << panel.batches << panel.remaining
+                     << panel.prizeName << panel.picturePath)
+        .text();
+}
+
 // --- Objects --------------------------------------------------------------------------------
 
 QString textPayload(const ObjRow &row, const PayloadContext &context) {

@@ -107,6 +107,19 @@ QString swapDepthPayload(const QString &moved, const QString &neighbour);
 // The designer sends "yes|" + speed; the draw screen the bare "yes" or "no".
 QString startScrollPayload(bool scrolling, int speed, Reader reader);
 
+// --- The draw's award --------------------------------------------------------------------
+
+// vbLoadJx, the award panel: JXName|JXNum|JXGroup|remaining slots|JPName|award picture path.
+struct AwardPanel {
+    QString awardName;
+    int slotCount = 0;
+    int batches = 0;
+    int remaining = 0;
+    QString prizeName;
+    QString picturePath;
+};
+QString awardPanelPayload(const AwardPanel &panel);
+
 // --- Styles ---------------------------------------------------------------------------------
 
 // fName|fColor|fSize|txtAlpha|fBold|fItalic|fUnderline|txtAlign|isShadown.

@@ -14,6 +14,7 @@
 #include "core/settings.h"
 #include "core/store.h"
 #include "core/ui.h"
+#include "design/payloads.h"
 #include "draw/winners.h"
 #include "stage/protocol.h"
 #include "stage/stage.h"
@@ -119,9 +120,8 @@ bool DrawEngine::loadAward(int id, bool resetButtons) {
 
     const BatchPlan &plan = award.plan;
     send(proto::vbLoadJx,
-         QStringList{award.name, QString::number(plan.slotCount), QString::number(plan.batches),
-                     QString::number(plan.remaining), award.prizeName, award.picturePath}
-             .join(proto::kSep));
+         design::awardPanelPayload({award.name, plan.slotCount, plan.batches, plan.remaining,
+                                    award.prizeName, award.picturePath}));
     const QString names = winnersText(winners);
     send(proto::updateLuckLst,
          names.isEmpty() ? QStringLiteral("当前奖项暂无获奖名单...")

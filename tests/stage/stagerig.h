@@ -42,7 +42,11 @@ public:
     QList<QPair<QString, QString>> commands;
     std::function<void(const QString &, const QString &)> onCommand;
 
-    void send(const QString &name, const QString &value) { stage.setVariable(name, value); }
+    // The movie reports what it starts itself from the event loop, as the host would see it.
+    void send(const QString &name, const QString &value) {
+        stage.setVariable(name, value);
+        QCoreApplication::processEvents();
+    }
 
     int count(const QString &command) const {
         int n = 0;
@@ -86,6 +90,7 @@ public:
         if (!stage.usesWindow())
             target = stage.widget()->findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
         QCoreApplication::sendEvent(target, &press);
+        QCoreApplication::processEvents();
     }
 
     bool save(const QString &name) {

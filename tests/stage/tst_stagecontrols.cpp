@@ -14,6 +14,9 @@ private Q_SLOTS:
     void programCallsPressTheButtons();
     void keysStartAndStopAndAreReported();
     void barRestsAndWakes();
+    void barStaysUnderThePointerAndTakesClicksWhenFaded();
+    void buttonsKeepTheirPlaces();
+    void idleStageTellsTheKeysUntilTheFirstDraw();
     void pictureModeShowsEachParticipantsPhoto();
     void paradeOfThreeAwards();
     void paradePausesAndCanBeCancelled();
@@ -135,6 +138,72 @@ void TestStageControls::barRestsAndWakes() {
     QTest::mouseMove(rig.stage.quickWindow(), QPoint(400, 300));
     QTest::mouseMove(rig.stage.quickWindow(), QPoint(420, 310));
     QTRY_VERIFY_WITH_TIMEOUT(rig.stage.root()->property("barAwake").toBool(), 2000);
+}
+
+namespace {
+
+QPoint buttonCentre(StageRig &rig, const QString &name) {
+    QQuickItem *item = findStageItem(rig.stage.root(), name);
+    if (!item) return {};
+    for (QQuickItem *up = item; up; up = up->parentItem())
+        up->ensurePolished();
+    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+}
+
+bool barAwake(StageRig &rig) {
+    return rig.stage.root()->property("barAwake").toBool();
+}
+
+}  // namespace
+
+void TestStageControls::barStaysUnderThePointerAndTakesClicksWhenFaded() {
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    QQuickWindow *window = rig.stage.quickWindow();
+    const QPoint start = buttonCentre(rig, proto::btn::btnStart);
+    QVERIFY(!start.isNull());
+    rig.stage.root()->setProperty("restMs", 150);
+    QTest::mouseMove(window, start - QPoint(30, 0));
+    QTest::mouseMove(window, start);
+    // Nothing to await: the bar must still be there well after its rest time.
+    QTest::qWait(700);
+    QVERIFY(barAwake(rig));
+    QTest::mouseMove(window, QPoint(400, 300));
+    QTest::mouseMove(window, QPoint(404, 303));
+    QTRY_VERIFY_WITH_TIMEOUT(!barAwake(rig), 3000);
+    // The operator clicks where the faded button is: the click counts.
+    QTest::mouseClick(window, Qt::LeftButton, {}, start);
+    QTRY_COMPARE(rig.args(proto::cmd::btnclick), QStringList{proto::btn::btnStart});
+}
+
+void TestStageControls::buttonsKeepTheirPlaces() {
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    rig.stage.root()->setProperty("restMs", 600000);
+    const QStringList steady{proto::btn::btnStart, proto::btn::btnPre, proto::btn::btnExit};
+    QList<QPoint> idle;
+    for (const QString &name : steady)
+        idle << buttonCentre(rig, name);
+    QVERIFY(rig.beginDraw(0, {QStringLiteral("张伟")}, sampleNames()));
+    QCOMPARE(buttonCentre(rig, proto::btn::btnStop), idle[0]);
+    rig.send(proto::changBtn, proto::buttons::stop);
+    QVERIFY(rig.waitFor(proto::cmd::stoplucksub, 8000));
+    QTRY_VERIFY(findStageItem(rig.stage.root(), proto::btn::btnCancel));
+    for (int i = 0; i < steady.size(); ++i)
+        QCOMPARE(buttonCentre(rig, steady[i]), idle[i]);
+}
+
+void TestStageControls::idleStageTellsTheKeysUntilTheFirstDraw() {
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    QCOMPARE(rig.call("keyHintShown").toString(),
+             QStringLiteral("按 空格键(Space) 开始抽奖，再按一次停止"));
+    rig.send(proto::setAsKeys, QStringLiteral("13|46|67|90|79|80|76|77|70"));
+    QCOMPARE(rig.call("keyHintShown").toString(),
+             QStringLiteral("按 回车键(Enter) 开始抽奖，按 Delete键 停止"));
+    QVERIFY(rig.beginDraw(0, {QStringLiteral("张伟")}, sampleNames()));
+    rig.send(proto::changBtn, proto::buttons::defulte);
+    QCOMPARE(rig.call("keyHintShown").toString(), QString());
 }
 
 void TestStageControls::pictureModeShowsEachParticipantsPhoto() {

@@ -1,6 +1,8 @@
 #include "awards/view/drawwizarddialog.h"
 
 #include <QCheckBox>
+#include <QComboBox>
+#include <QGuiApplication>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
@@ -8,6 +10,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpressionValidator>
+#include <QScreen>
 #include <QSlider>
 #include <QTabWidget>
 #include <QTimer>
@@ -18,6 +21,7 @@
 #include "core/helpers.h"
 #include "core/settings.h"
 #include "core/ui.h"
+#include "stage/stagescreens.h"
 
 namespace {
 
@@ -58,6 +62,7 @@ DrawWizardDialog::DrawWizardDialog(Purpose purpose, QWidget *parent)
     buttons->addWidget(cancel);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_tabs);
+    layout->addWidget(buildScreenRow());
     layout->addLayout(buttons);
 
     loadSettings();
@@ -138,6 +143,27 @@ QWidget *DrawWizardDialog::buildMaskPage() {
     return page;
 }
 
+// With a projector connected the operator picks where the audience looks; the console's own
+// screen stays on offer for a rehearsal at the desk.
+QWidget *DrawWizardDialog::buildScreenRow() {
+    auto *row = new QWidget(this);
+    m_screenCombo = new QComboBox(row);
+    m_screenCombo->setObjectName(QStringLiteral("screenCombo"));
+    QWidget *console = consoleWindow();
+    QScreen *preferred = stagescreens::stageScreen(appState().stageScreen,
+                                                   console ? console->screen() : nullptr);
+    for (QScreen *screen : QGuiApplication::screens()) {
+        m_screenCombo->addItem(stagescreens::label(screen->name(), screen->size()),
+                               screen->name());
+        if (screen == preferred) m_screenCombo->setCurrentIndex(m_screenCombo->count() - 1);
+    }
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(new QLabel(QStringLiteral("抽奖画面显示在："), row));
+    layout->addWidget(m_screenCombo, 1);
+    return row;
+}
+
 void DrawWizardDialog::loadSettings() {
     const AppState &state = appState();
     m_textMode->setChecked(state.luckType == 0);
@@ -176,6 +202,7 @@ void DrawWizardDialog::saveSettings() {
     settings::write(QStringLiteral("hideRight"), m_keepRightEdit->text().toInt());
     settings::write(QStringLiteral("hideReStr"), m_replacementEdit->text());
     settings::write(QStringLiteral("luckDelay"), 20 - m_speedSlider->value());
+    appState().stageScreen = m_screenCombo->currentData().toString();
     if (m_purpose == Purpose::EditSettings)
         ui().message(QStringLiteral("参数保存成功!"), MsgStyle::Information, titles::notice);
     accept();

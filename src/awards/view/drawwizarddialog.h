@@ -3,6 +3,7 @@
 #include <QDialog>
 
 class QCheckBox;
+class QComboBox;
 class QLabel;
 class QLineEdit;
 class QRadioButton;
@@ -26,6 +27,7 @@ public:
 private:
     QWidget *buildModePage();
     QWidget *buildMaskPage();
+    QWidget *buildScreenRow();
     void loadSettings();
     void showMaskedSample();
     void saveSettings();
@@ -36,6 +38,7 @@ private:
     QRadioButton *m_pictureMode = nullptr;
     QRadioButton *m_pictureAndTextMode = nullptr;
     QSlider *m_speedSlider = nullptr;
+    QComboBox *m_screenCombo = nullptr;
     QCheckBox *m_rememberCheck = nullptr;
     QCheckBox *m_maskCheck = nullptr;
     QLineEdit *m_keepLeftEdit = nullptr;

@@ -7,8 +7,11 @@
 #include <QLabel>
 #include <QScreen>
 #include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QVBoxLayout>
 #include <QWindowStateChangeEvent>
+
+#include <algorithm>
 
 #include "chrome/widgethelpers.h"
 #include "core/appstate.h"
@@ -32,11 +35,40 @@
 #include "results/view/printwinners.h"
 #include "sound/musicsettings.h"
 #include "stage/protocol.h"
+#include "stage/stagescreens.h"
 #include "stage/view/stagefactory.h"
 
 namespace {
 
 int connectionSerial = 0;
+
+// The share of the screen a window-mode stage may take: room for the desktop around it.
+constexpr double kWindowShare = 0.8;
+
+bool hasRows(const QString &table) {
+    QSqlQuery query(store::mainConn());
+    return query.exec(QStringLiteral("SELECT 1 FROM %1 LIMIT 1").arg(table)) && query.next();
+}
+
+// What a draw still lacks before it can start, with where the operator adds it; empty when
+// nothing is missing.
+QString missingSetup(bool hasAward) {
+    const bool hasRoster = hasRows(QStringLiteral("UserList"));
+    if (hasRoster && hasAward) return QString();
+    QStringList missing;
+    QStringList steps;
+    if (!hasRoster) {
+        missing << QStringLiteral("抽奖名单");
+        steps << QStringLiteral("· 在“名单设置”中添加名单，或从Excel、txt文件导入名单");
+    }
+    if (!hasAward) {
+        missing << QStringLiteral("奖项");
+        steps << QStringLiteral("· 在“奖项设置”中添加奖项");
+    }
+    return QStringLiteral("还没有%1，无法开始抽奖。\n请按Esc退出抽奖界面，在控制台点击“抽奖设置”：\n")
+               .arg(missing.join(QStringLiteral("和"))) +
+           steps.join(QLatin1Char('\n'));
+}
 
 }  // namespace
 
@@ -175,33 +207,44 @@ void DrawWindow::send(const QString &name, const QString &value) {
 
 // --- Window modes ---------------------------------------------------------------------------
 
-void DrawWindow::placeOnConsoleScreen() {
+void DrawWindow::placeOnStageScreen() {
     QWidget *console = consoleWindow();
     QScreen *screen =
-        console && console->screen() ? console->screen() : QGuiApplication::primaryScreen();
+        stagescreens::stageScreen(appState().stageScreen, console ? console->screen() : nullptr);
     if (!screen) return;
     setScreen(screen);
     if (m_isFullScreen) {
         setGeometry(screen->geometry());
-    } else {
-        const AppState &state = appState();
-        const QSize size(state.bgW > 0 ? state.bgW : 1024, state.bgH > 0 ? state.bgH : 768);
-        resize(size);
-        move(screen->availableGeometry().center() - rect().center());
+        return;
     }
+    // A window the stage's shape, small enough to leave the desktop around it.
+    const AppState &state = appState();
+    const QSize stage(state.bgW > 0 ? state.bgW : 1024, state.bgH > 0 ? state.bgH : 768);
+    const QRect room = screen->availableGeometry();
+    const double fit = std::min({1.0, kWindowShare * room.width() / stage.width(),
+                                 kWindowShare * room.height() / stage.height()});
+    resize(qRound(stage.width() * fit), qRound(stage.height() * fit));
+    move(room.center() - rect().center());
+}
+
+// The keyboard belongs to the stage after every change of window mode, without a click.
+void DrawWindow::focusStage() {
+    activateWindow();
+    if (QWidget *stageWidget = m_stage->widget()) stageWidget->setFocus();
 }
 
 void DrawWindow::setFullScreenMode(bool fullScreen) {
     m_isScreenChanging = true;
     m_isFullScreen = fullScreen;
-    placeOnConsoleScreen();
+    placeOnStageScreen();
     if (fullScreen)
         setWindowState((windowState() & ~Qt::WindowMinimized) | Qt::WindowFullScreen);
     else
         setWindowState(windowState() & ~(Qt::WindowFullScreen | Qt::WindowMinimized));
-    if (!fullScreen) placeOnConsoleScreen();
+    if (!fullScreen) placeOnStageScreen();
     m_isScreenChanging = false;
     layoutStage();
+    QTimer::singleShot(0, this, &DrawWindow::focusStage);
 }
 
 void DrawWindow::layoutStage() {
@@ -210,9 +253,10 @@ void DrawWindow::layoutStage() {
     placeStopGuardPanel();
     const AppState &state = appState();
     if (m_stageShown && state.bgW > 0 && state.bgH > 0)
-        send(proto::vbSetScale,
-             design::stageScalePayload(m_stageHost->width(), m_stageHost->height(), m_isFullScreen,
-                                       state.bgW, state.bgH));
+        // The host is the window's client area in both modes: no border to allow for.
+        send(proto::vbSetScale, design::stageScalePayload(m_stageHost->width(),
+                                                          m_stageHost->height(), true, state.bgW,
+                                                          state.bgH));
 }
 
 void DrawWindow::placeStopGuardPanel() {
@@ -372,6 +416,13 @@ void DrawWindow::printResults() {
 // --- The draw -------------------------------------------------------------------------------
 
 void DrawWindow::startDraw() {
+    if (m_engine->state() != draw::Running) {
+        const QString missing = missingSetup(m_engine->session().award.id > 0);
+        if (!missing.isEmpty()) {
+            ui().message(missing, MsgStyle::Exclamation, titles::notice);
+            return;
+        }
+    }
     if (m_engine->pressStart() != draw::DrawEngine::StartOutcome::Drawn) return;
     if (appState().isTimeProtect == 1) {
         m_stopGuardElapsed = 0;

@@ -62,7 +62,8 @@ private:
     void setFullScreenMode(bool fullScreen);
     void layoutStage();
     void placeStopGuardPanel();
-    void placeOnConsoleScreen();
+    void placeOnStageScreen();
+    void focusStage();
     void send(const QString &name, const QString &value);
     QString playbackStyle() const;
 

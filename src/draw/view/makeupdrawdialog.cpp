@@ -135,7 +135,8 @@ void MakeUpDrawDialog::fillAwardList(int selectId) {
     m_awardCombo->clear();
     const QList<draw::MakeupChoice> choices = draw::makeupChoices(store::mainConn());
     for (const draw::MakeupChoice &choice : choices)
-        m_awardCombo->addItem(choice.text, choice.id);
+        // The operator reads the award and its prize; the number stays with the item.
+        m_awardCombo->addItem(choice.text.section(QLatin1Char('|'), 1), choice.id);
     if (choices.isEmpty()) {
         m_awardCombo->addItem(QStringLiteral("无任何奖项"), 0);
         return;
@@ -146,7 +147,7 @@ void MakeUpDrawDialog::fillAwardList(int selectId) {
 }
 
 void MakeUpDrawDialog::showAwardInfo() {
-    const int id = draw::choiceId(m_awardCombo->currentText());
+    const int id = m_awardCombo->currentData().toInt();
     const int slotCount = draw::slotsOf(store::mainConn(), id);
     if (id == 0 || slotCount < 0) {
         m_awardInfoLabel->clear();
@@ -167,7 +168,7 @@ void MakeUpDrawDialog::save() {
 }
 
 void MakeUpDrawDialog::saveSlots() {
-    const int id = draw::choiceId(m_awardCombo->currentText());
+    const int id = m_awardCombo->currentData().toInt();
     const draw::MakeupFault fault =
         draw::checkAddedSlots(m_addedSlotsEdit->text(), draw::slotsOf(store::mainConn(), id));
     if (fault.failed()) {
