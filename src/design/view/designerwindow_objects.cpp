@@ -158,7 +158,7 @@ void DesignerWindow::addFileObject(bool image) {
                                 "图片文件(*.png,*.jpg,*.gif,*.bmp,*.jpeg)|*.png;*.jpg;*.gif;*.bmp;"
                                 "*.jpeg|PNG Files(*.png)|*.png|JPG Files(*.jpg)|*.jpg|GIF "
                                 "Files(*.gif)|*.gif|BMP Files(*.bmp)|*.bmp")))
-            : ui().openFile(QStringLiteral("添加Flash动画"), folder,
+            : ui().openFile(QStringLiteral("添加动画"), folder,
                             dialogFilter(QStringLiteral(
                                 "动画文件(*.gif,*.webp,*.png)|*.gif;*.webp;*.png;*.apng")));
     if (file.trimmed().isEmpty()) return;
