@@ -273,6 +273,9 @@ void TestDrawScreen::nobodyLeftWarnsAndStaysIdle() {
     Screen s;
     QVERIFY(s.started);
     s.folder.addAward(QStringLiteral("一等奖"), 2, 1);
+    const int absent = s.folder.addUsers({QStringLiteral("甲|研发部")}).first();
+    store::exec(s.folder.db(), QStringLiteral("UPDATE UserList SET UserStatus=1 WHERE ID=?"),
+                {absent});
     s.open();
     s.stage->clear();
     s.click(proto::btn::btnStart);
@@ -512,10 +515,15 @@ void TestDrawScreen::buttonsByState() {
     s.stage->clear();
     s.click(proto::btn::btnScreenN);
     QVERIFY(!(s.form->windowState() & Qt::WindowFullScreen));
-    QCOMPARE(s.form->size(), QSize(appState().bgW, appState().bgH));
-    QCOMPARE(s.stage->values(proto::vbSetScale).last(),
-             design::stageScalePayload(appState().bgW, appState().bgH, false, appState().bgW,
-                                       appState().bgH));
+    // A window of the stage's shape that leaves the desktop around it.
+    const QSize windowed = s.form->size();
+    QVERIFY(s.form->screen()->availableGeometry().contains(s.form->geometry()));
+    QCOMPARE(windowed.width() * appState().bgH, windowed.height() * appState().bgW);
+    // Scaled down evenly: no black strip.
+    const QStringList scale = s.stage->values(proto::vbSetScale).last().split('|');
+    QCOMPARE(scale.size(), 2);
+    QCOMPARE(scale[0], scale[1]);
+    QVERIFY(scale[0].toDouble() < 100);
     s.click(proto::btn::btnScreenF);
     QVERIFY(s.form->windowState() & Qt::WindowFullScreen);
     setPrinterFactory(nullptr);

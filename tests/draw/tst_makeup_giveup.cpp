@@ -495,7 +495,8 @@ void TestMakeupGiveUp::restartAsksSnapshotsAndClears() {
     QCOMPARE(m_ui->texts(), QStringList({"您确定要删除所有中奖信息,重新开始抽奖么?"}));
     QCOMPARE(restarted.count(), 1);
     QCOMPARE(prompt.result(), int(QDialog::Accepted));
-    const QStringList snapshots = QDir(rig.folder.path("History")).entryList(QDir::Files);
+    const QStringList snapshots =
+        QDir(rig.folder.path("History")).entryList({QStringLiteral("*.tmp")}, QDir::Files);
     QCOMPARE(snapshots.size(), 1);
     QVERIFY(snapshots[0].endsWith(QStringLiteral(".tmp")));
     QFile file(rig.folder.path("History/") + snapshots[0]);
