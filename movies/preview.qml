@@ -37,7 +37,9 @@ Item {
         }
     }
 
-    Component.onCompleted: Qt.callLater(function () { send("asload") }) // qmllint disable type
+    // Announced from the event loop, once the host listens; a movie the host has already
+    // replaced (a widget moved into another window builds its movie anew) stays silent.
+    Timer { interval: 0; running: true; onTriggered: root.send("asload") }
 
     function objectNames() { return Object.keys(page.objects) }
     function objectText(name) {

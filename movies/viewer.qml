@@ -19,9 +19,9 @@ Item {
 
     function shownPath() { return picture.status === Image.Ready ? path : "" }
 
-    Component.onCompleted: {
-        Qt.callLater(function () { fsCommand("loadok", "yes") }) // qmllint disable type
-    }
+    // Announced from the event loop, once the host listens; a movie the host has already
+    // replaced stays silent.
+    Timer { interval: 0; running: true; onTriggered: root.fsCommand("loadok", "yes") }
 
     Rectangle {
         anchors.fill: parent

@@ -1,6 +1,7 @@
 #include <QImageWriter>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QVBoxLayout>
 #include <QtTest>
 
 #include "stage/keycodes.h"
@@ -20,6 +21,7 @@ private Q_SLOTS:
     void warmUpDecodesAhead();
     void missingOrBrokenMovieFailsCleanly();
     void commandsArriveAsFsCommand();
+    void movieMovedIntoAWindowStillTalks();
     void factoryGivesQmlStages();
 };
 
@@ -158,6 +160,29 @@ void TestStageHost::commandsArriveAsFsCommand() {
     QCoreApplication::sendEvent(stage.widget()->findChild<QWidget *>(), &key);
     QCOMPARE(spy.count(), 2);
     QCOMPARE(spy.at(1).at(1).toString(), QStringLiteral("103"));
+}
+
+void TestStageHost::movieMovedIntoAWindowStillTalks() {
+    // The console builds its pages before their window; under a display server the widget then
+    // builds its movie anew (tst_stagehost_x11 runs this case on Xvfb).
+    QTemporaryDir dir;
+    const QString movie = dir.path() + QStringLiteral("/hello.qml");
+    QFile file(movie);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(
+        "import QtQuick\nItem {\n id: root\n signal fsCommand(string command, string args)\n"
+        " Timer { interval: 0; running: true; onTriggered: root.fsCommand(\"hello\", \"\") }\n}\n");
+    file.close();
+    auto *page = new QWidget;
+    QmlStage stage(page, QmlStage::Host::Widget);
+    QVERIFY(stage.loadMovie(movie));
+    QWidget window;
+    auto *layout = new QVBoxLayout(&window);
+    layout->addWidget(page);
+    window.show();
+    QSignalSpy spy(&stage, &Stage::commandReceived);
+    QTRY_VERIFY(!spy.isEmpty());
+    QCOMPARE(spy.at(0).at(0).toString(), QStringLiteral("hello"));
 }
 
 void TestStageHost::factoryGivesQmlStages() {

@@ -70,6 +70,12 @@ void QmlStage::createHost(bool window) {
         m_quickWidget->rootContext()->setContextProperty(QStringLiteral("photoCache"),
                                                          new PhotoCacheControl(m_quickWidget));
         m_quickWidget->installEventFilter(this);
+        // Moved into another window, the widget builds its movie anew: the new root must reach
+        // the host as the first one did, or the movie talks to nobody.
+        connect(m_quickWidget, &QQuickWidget::statusChanged, this, [this](QQuickWidget::Status) {
+            if (m_quickWidget && m_quickWidget->rootObject() != m_root)
+                adoptRoot(m_quickWidget->rootObject());
+        });
         m_host->layout()->addWidget(m_quickWidget);
         m_host->setFocusProxy(m_quickWidget);
     }
@@ -83,7 +89,6 @@ bool QmlStage::loadMovie(const QString &path) {
     }
     const bool window = m_mode == Host::Window || (m_mode == Host::Automatic && wantsWindow(path));
     createHost(window);
-    if (m_root) disconnect(m_root, nullptr, this, nullptr);
     const QUrl url = QUrl::fromLocalFile(path);
     QObject *root = nullptr;
     if (m_view) {
@@ -99,11 +104,16 @@ bool QmlStage::loadMovie(const QString &path) {
             m_errors << error.toString();
         root = m_quickWidget->rootObject();
     }
+    adoptRoot(root);
+    return root != nullptr;
+}
+
+void QmlStage::adoptRoot(QObject *root) {
+    if (m_root) disconnect(m_root, nullptr, this, nullptr);
     m_root = root;
-    if (!root) return false;
-    connect(root, SIGNAL(fsCommand(QString, QString)), this,
-            SLOT(forwardCommand(QString, QString)));
-    return true;
+    if (root)
+        connect(root, SIGNAL(fsCommand(QString, QString)), this,
+                SLOT(forwardCommand(QString, QString)));
 }
 
 void QmlStage::setVariable(const QString &name, const QString &value) {

@@ -51,6 +51,7 @@ private Q_SLOTS:
 
 private:
     void createHost(bool window);
+    void adoptRoot(QObject *root);
     void deliverKey(int qtKey, Qt::KeyboardModifiers modifiers);
 
     Host m_mode;
