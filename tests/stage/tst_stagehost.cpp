@@ -9,6 +9,21 @@
 #include "stage/view/qmlstage.h"
 #include "stage/view/stagefactory.h"
 
+namespace {
+
+// A movie of the stage's shape with the given members, in `dir`.
+QString writeMovie(const QTemporaryDir &dir, const char *members) {
+    const QString path = dir.path() + QStringLiteral("/movie.qml");
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) return QString();
+    file.write(QByteArray("import QtQuick\nItem {\n id: root\n"
+                          " signal fsCommand(string command, string args)\n") +
+               members + "}\n");
+    return path;
+}
+
+}  // namespace
+
 // The host side of the stage: key numbering, photo decoding and the QmlStage plumbing.
 class TestStageHost : public QObject {
     Q_OBJECT
@@ -139,14 +154,10 @@ void TestStageHost::missingOrBrokenMovieFailsCleanly() {
 
 void TestStageHost::commandsArriveAsFsCommand() {
     QTemporaryDir dir;
-    const QString movie = dir.path() + QStringLiteral("/echo.qml");
-    QFile file(movie);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(
-        "import QtQuick\nItem {\n signal fsCommand(string command, string args)\n"
-        " function setVariable(name, value) { fsCommand(name, value) }\n"
-        " function keyDown(code) { fsCommand(\"key\", code) }\n}\n");
-    file.close();
+    const QString movie =
+        writeMovie(dir,
+                   " function setVariable(name, value) { fsCommand(name, value) }\n"
+                   " function keyDown(code) { fsCommand(\"key\", code) }\n");
     QmlStage stage(nullptr, QmlStage::Host::Widget);
     QVERIFY2(stage.loadMovie(movie), qPrintable(stage.errors().join('\n')));
     QCOMPARE(stage.widget()->contextMenuPolicy(), Qt::NoContextMenu);
@@ -166,13 +177,9 @@ void TestStageHost::movieMovedIntoAWindowStillTalks() {
     // The console builds its pages before their window; under a display server the widget then
     // builds its movie anew (tst_stagehost_x11 runs this case on Xvfb).
     QTemporaryDir dir;
-    const QString movie = dir.path() + QStringLiteral("/hello.qml");
-    QFile file(movie);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(
-        "import QtQuick\nItem {\n id: root\n signal fsCommand(string command, string args)\n"
-        " Timer { interval: 0; running: true; onTriggered: root.fsCommand(\"hello\", \"\") }\n}\n");
-    file.close();
+    const QString movie = writeMovie(
+        dir,
+        " Timer { interval: 0; running: true; onTriggered: root.fsCommand(\"hello\", \"\") }\n");
     auto *page = new QWidget;
     QmlStage stage(page, QmlStage::Host::Widget);
     QVERIFY(stage.loadMovie(movie));
