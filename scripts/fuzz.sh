@@ -30,5 +30,5 @@ case "$target" in
 esac
 cd "$findings"
 QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=detect_leaks=0 \
-  "$build/tests/fuzz/fuzz_$target" -max_total_time="$seconds" -rss_limit_mb=2048 -timeout=20 \
+  "$build/tests/fuzz/fuzz_$target" -max_total_time="$seconds" -rss_limit_mb=2048 -timeout=60 \
   -print_final_stats=1 "$@" "$corpus"
