@@ -1066,7 +1066,7 @@ Left out an empty line</translation>
     </message>
     <message>
         <source>抽奖名单(抽奖时滚动的内容)</source>
-        <translation>Name (what rolls during the draw)</translation>
+        <translation>Name on stage</translation>
     </message>
     <message>
         <source>备注</source>
@@ -1580,11 +1580,11 @@ Group no. out of range, set to 0: line %1</translation>
     </message>
     <message>
         <source>拍照</source>
-        <translation>Take photo</translation>
+        <translation>Camera</translation>
     </message>
     <message>
         <source>选择照片</source>
-        <translation>Choose photo</translation>
+        <translation>Choose</translation>
     </message>
     <message>
         <source>添加照片</source>
@@ -1592,7 +1592,7 @@ Group no. out of range, set to 0: line %1</translation>
     </message>
     <message>
         <source>清除照片</source>
-        <translation>Clear photo</translation>
+        <translation>Clear</translation>
     </message>
 </context>
 <context>
