@@ -33,9 +33,12 @@ constexpr int kIdRole = Qt::UserRole + 1;
 
 // The list's column titles, also the header line of the export.
 QStringList headers() {
-    return {RosterManagerDialog::tr("选择"), RosterManagerDialog::tr("排序"),
-            RosterManagerDialog::tr("抽奖名单(抽奖时滚动的内容)"), RosterManagerDialog::tr("备注"),
-            RosterManagerDialog::tr("照片"),     RosterManagerDialog::tr("状态"),
+    return {RosterManagerDialog::tr("选择"),
+            RosterManagerDialog::tr("排序"),
+            RosterManagerDialog::tr("抽奖名单(抽奖时滚动的内容)"),
+            RosterManagerDialog::tr("备注"),
+            RosterManagerDialog::tr("照片"),
+            RosterManagerDialog::tr("状态"),
             RosterManagerDialog::tr("区分编号")};
 }
 
