@@ -29,6 +29,8 @@
 #include "console/consolewindow.h"
 #include "console/passwordpromptdialog.h"
 #include "core/appstate.h"
+#include "core/language.h"
+#include "core/settings.h"
 #include "core/startup.h"
 #include "core/store.h"
 #include "design/designerdocument.h"
@@ -181,6 +183,8 @@ int main(int argc, char *argv[]) {
     setUi(std::make_unique<PrintingUi>());
     qputenv("QUELLIO_HOME", parser.value(QStringLiteral("home")).toUtf8());
     if (!startUp(parser.value(QStringLiteral("home")))) return 1;
+    // The program's own choice of language, so LANG=en_US.UTF-8 gives the English screens.
+    language::install(language::choose(language::systemLocale(), settings::language()));
     style::apply();
     const QString out = parser.value(QStringLiteral("out"));
     QDir().mkpath(out);

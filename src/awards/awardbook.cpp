@@ -1,5 +1,6 @@
 #include "awards/awardbook.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QSqlError>
@@ -13,12 +14,14 @@
 
 const QString AwardBook::kPhotoPrefix = QStringLiteral("Photos/JP");
 const QString AwardBook::kCameraFile = QStringLiteral("Photos/camertemp.jpg");
-const QString AwardBook::kFullMessage = QStringLiteral("奖项编号已到上限32767,不能再增加奖项!");
+const TranslatedText AwardBook::kFullMessage{
+    "awards", QT_TRANSLATE_NOOP("awards", "奖项编号已到上限32767,不能再增加奖项!")};
 
 namespace awardtext {
 
 QString reLuck(int isReLuck) {
-    return isReLuck == 0 ? QStringLiteral("是") : QStringLiteral("否");
+    return isReLuck == 0 ? QCoreApplication::translate("awards", "是")
+                         : QCoreApplication::translate("awards", "否");
 }
 
 QColor reLuckColor(int isReLuck) {
@@ -28,16 +31,15 @@ QColor reLuckColor(int isReLuck) {
 QString range(int rangeType, int first, int second) {
     switch (rangeType) {
         case 1:
-            return QStringLiteral("大于(>) ") + QString::number(first);
+            return QCoreApplication::translate("awards", "大于(>) %1").arg(first);
         case 2:
-            return QStringLiteral("等于(=) ") + QString::number(first);
+            return QCoreApplication::translate("awards", "等于(=) %1").arg(first);
         case 3:
-            return QStringLiteral("小于(<) ") + QString::number(first);
+            return QCoreApplication::translate("awards", "小于(<) %1").arg(first);
         case 4:
-            return QString::number(first) + QStringLiteral(" < (介于) < ") +
-                   QString::number(second);
+            return QCoreApplication::translate("awards", "%1 < (介于) < %2").arg(first).arg(second);
         default:
-            return QStringLiteral("不限制");
+            return QCoreApplication::translate("awards", "不限制");
     }
 }
 
@@ -46,9 +48,11 @@ QColor rangeColor(int rangeType) {
 }
 
 QStringList rangeItems() {
-    return {QStringLiteral("不限区分编号"), QStringLiteral("区分编号大于"),
-            QStringLiteral("区分编号等于"), QStringLiteral("区分编号小于"),
-            QStringLiteral("区分编号介于")};
+    return {QCoreApplication::translate("awards", "不限区分编号"),
+            QCoreApplication::translate("awards", "区分编号大于"),
+            QCoreApplication::translate("awards", "区分编号等于"),
+            QCoreApplication::translate("awards", "区分编号小于"),
+            QCoreApplication::translate("awards", "区分编号介于")};
 }
 
 }  // namespace awardtext
@@ -94,21 +98,30 @@ const QString kColumns = QStringLiteral(
     "SELECT ID, OrderNum, JXName, JXNum, JXGroup, JPName, JPPhoto, isReLuck, RangeType, "
     "RangeNum1, RangeNum2 FROM JPList");
 
+// The award is still stored; only its picture is missing.
+void warnCameraPhotoLost() {
+    ui().message(QCoreApplication::translate("awards", "因拍摄照片失败,照片保存未成功!"),
+                 MsgStyle::Exclamation, titles::warning);
+}
+
 }  // namespace
 
 AwardFault AwardBook::validate(const AwardInput &input) {
     if (input.JXName.trimmed().isEmpty())
-        return {QStringLiteral("请输入奖项名称!"), AwardField::JxName};
-    AwardFault fault = countFault(input.JXNum, QStringLiteral("至少存在1个名额"),
-                                  QStringLiteral("奖品名额最多为32767个"), AwardField::JxNum);
+        return {QCoreApplication::translate("awards", "请输入奖项名称!"), AwardField::JxName};
+    AwardFault fault = countFault(
+        input.JXNum, QCoreApplication::translate("awards", "至少存在1个名额"),
+        QCoreApplication::translate("awards", "奖品名额最多为32767个"), AwardField::JxNum);
     if (fault.failed()) return fault;
-    fault = countFault(input.JXGroup, QStringLiteral("至少存在1个抽奖批次"),
-                       QStringLiteral("抽奖批次最多为32767次"), AwardField::JxGroup);
+    fault = countFault(input.JXGroup, QCoreApplication::translate("awards", "至少存在1个抽奖批次"),
+                       QCoreApplication::translate("awards", "抽奖批次最多为32767次"),
+                       AwardField::JxGroup);
     if (fault.failed()) return fault;
     if (input.txtPhoto.trimmed() == QLatin1String("no") && input.JPName.trimmed().isEmpty())
-        return {QStringLiteral("奖品名称和奖品图片不能同时为空"), AwardField::JpName};
+        return {QCoreApplication::translate("awards", "奖品名称和奖品图片不能同时为空"),
+                AwardField::JpName};
     if (input.RangeType == 4 && rangeNumber(input.RangeNum2) <= rangeNumber(input.RangeNum1))
-        return {QStringLiteral("区分编号范围值错误"), AwardField::RangeNum2};
+        return {QCoreApplication::translate("awards", "区分编号范围值错误"), AwardField::RangeNum2};
     return {};
 }
 
@@ -224,9 +237,7 @@ int AwardBook::add(const AwardInput &input, QString *error) {
     const int id = store::getNextID(QStringLiteral("JPList"), QStringLiteral("ID"), m_db);
     const int order = store::getNextID(QStringLiteral("JPList"), QStringLiteral("OrderNum"), m_db);
     const PhotoPlan plan = planPhoto(id, input.txtPhoto);
-    if (plan.cameraMissing)
-        ui().message(QStringLiteral("因拍摄照片失败,照片保存未成功!"), MsgStyle::Exclamation,
-                     titles::warning);
+    if (plan.cameraMissing) warnCameraPhotoLost();
     const bool inserted = store::exec(
         m_db,
         QStringLiteral("INSERT INTO JPList (ID,JXName,JXNum,JXGroup,JPName,JPPhoto,OrderNum,"
@@ -242,9 +253,7 @@ int AwardBook::add(const AwardInput &input, QString *error) {
 
 bool AwardBook::save(int id, const AwardInput &input, QString *error) {
     const PhotoPlan plan = planPhoto(id, input.txtPhoto);
-    if (plan.cameraMissing)
-        ui().message(QStringLiteral("因拍摄照片失败,照片保存未成功!"), MsgStyle::Exclamation,
-                     titles::warning);
+    if (plan.cameraMissing) warnCameraPhotoLost();
     const bool saved = inTransaction(
         [&](QString *failure) {
             if (clearWins(id, failure) < 0) return false;

@@ -8,6 +8,7 @@
 #include <functional>
 #include <optional>
 
+#include "core/language.h"
 #include "core/store.h"
 
 // One row of JPList as the award manager shows and edits it.
@@ -78,7 +79,7 @@ public:
 
     // True when the next award would need an ID or position beyond 16 bits.
     bool isFull() const;
-    static const QString kFullMessage;
+    static const TranslatedText kFullMessage;
 
     // Every award in draw order; empty with the store's message in error when the read fails.
     QList<AwardRow> list(QString *error = nullptr) const;

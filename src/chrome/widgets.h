@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QColor>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QString>
 
@@ -80,4 +81,4 @@ protected:
 // The right-aligned "确定" (default; or another caption) and "退出" row that ends the small
 // dialogs; the buttons are named "okButton" and "escButton".
 QHBoxLayout *okEscButtons(QWidget *dialog, QPushButton **ok, QPushButton **esc,
-                          const QString &okCaption = QStringLiteral("确定"));
+                          const QString &okCaption = QCoreApplication::translate("chrome", "确定"));

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -34,15 +35,15 @@ QMessageBox::Icon iconFor(MsgStyle style) {
 
 void WidgetUi::message(const QString &text, MsgStyle style, const QString &title) {
     QMessageBox box(iconFor(style), title, text, QMessageBox::Ok, dialogParent());
-    box.button(QMessageBox::Ok)->setText(QStringLiteral("确定"));
+    box.button(QMessageBox::Ok)->setText(QCoreApplication::translate("chrome", "确定"));
     box.exec();
 }
 
 bool WidgetUi::question(const QString &text, const QString &title) {
     QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No,
                     dialogParent());
-    box.button(QMessageBox::Yes)->setText(QStringLiteral("是(&Y)"));
-    box.button(QMessageBox::No)->setText(QStringLiteral("否(&N)"));
+    box.button(QMessageBox::Yes)->setText(QCoreApplication::translate("chrome", "是(&Y)"));
+    box.button(QMessageBox::No)->setText(QCoreApplication::translate("chrome", "否(&N)"));
     box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
 }
@@ -79,7 +80,8 @@ QStringList WidgetUi::openFiles(const QString &title, const QString &dir, const 
 }
 
 QString WidgetUi::saveFile(const QString &title, const QString &suggested, const QString &filter) {
-    const QString start = dialogfolders::saveStart(suggested, appState().path(QStringLiteral("record")));
+    const QString start =
+        dialogfolders::saveStart(suggested, appState().path(QStringLiteral("record")));
     return QFileDialog::getSaveFileName(dialogParent(), title, start, filter);
 }
 

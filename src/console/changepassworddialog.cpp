@@ -13,8 +13,8 @@
 #include "core/ui.h"
 
 ChangePasswordDialog::ChangePasswordDialog(QWidget *parent) : QDialog(parent) {
-    setWindowTitle(QStringLiteral("密码设置"));
-    m_guardCheck = new QCheckBox(QStringLiteral("是否启用密码保护"), this);
+    setWindowTitle(tr("密码设置"));
+    m_guardCheck = new QCheckBox(tr("是否启用密码保护"), this);
     m_guardCheck->setObjectName(QStringLiteral("guardCheck"));
     m_passwordEdit = new QLineEdit(this);
     m_passwordEdit->setObjectName(QStringLiteral("passwordEdit"));
@@ -24,11 +24,11 @@ ChangePasswordDialog::ChangePasswordDialog(QWidget *parent) : QDialog(parent) {
         edit->setEchoMode(QLineEdit::Password);
         edit->setMinimumWidth(200);
     }
-    auto *hint = new QLabel(QStringLiteral("保持原密码请保留为空!"), this);
+    auto *hint = new QLabel(tr("保持原密码请保留为空!"), this);
     hint->setProperty("role", QStringLiteral("hint"));
     auto *form = new QFormLayout;
-    form->addRow(QStringLiteral("输入密码∶"), m_passwordEdit);
-    form->addRow(QStringLiteral("确认密码∶"), m_confirmEdit);
+    form->addRow(tr("输入密码∶"), m_passwordEdit);
+    form->addRow(tr("确认密码∶"), m_confirmEdit);
     form->addRow(QString(), hint);
 
     QPushButton *ok = nullptr;
@@ -56,13 +56,12 @@ void ChangePasswordDialog::enableFields() {
 void ChangePasswordDialog::save() {
     if (m_guardCheck->isChecked() &&
         m_passwordEdit->text().trimmed() != m_confirmEdit->text().trimmed()) {
-        ui().message(QStringLiteral("两次输入的密码不一致"), MsgStyle::Exclamation,
-                     titles::warning);
+        ui().message(tr("两次输入的密码不一致"), MsgStyle::Exclamation, titles::warning);
         m_confirmEdit->setFocus();
         m_confirmEdit->selectAll();
         return;
     }
     password::save(m_guardCheck->isChecked(), m_passwordEdit->text());
-    ui().message(QStringLiteral("设置成功!"), MsgStyle::Information, titles::notice);
+    ui().message(tr("设置成功!"), MsgStyle::Information, titles::notice);
     accept();
 }

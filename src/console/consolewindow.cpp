@@ -62,14 +62,14 @@ protected:
         p.setFont(title);
         p.setPen(Qt::white);
         p.drawText(QRectF(92, 18, 460, 36), Qt::AlignLeft | Qt::AlignVCenter,
-                   QStringLiteral("Quellio抽奖(全能版)"));
+                   ConsoleWindow::tr("Quellio抽奖(全能版)"));
         QFont small = p.font();
         small.setPixelSize(13);
         small.setBold(false);
         p.setFont(small);
         p.setPen(style::kGold);
         p.drawText(QRectF(94, 54, 460, 22), Qt::AlignLeft | Qt::AlignVCenter,
-                   QStringLiteral("年会 · 庆典 · 活动现场的幸运抽奖"));
+                   ConsoleWindow::tr("年会 · 庆典 · 活动现场的幸运抽奖"));
     }
 };
 
@@ -83,7 +83,7 @@ QLabel *textLabel(const QString &text, QWidget *parent, const char *role = nullp
 }  // namespace
 
 ConsoleWindow::ConsoleWindow(QWidget *parent) : FramelessWindow(QSize(kWidth, kHeight), parent) {
-    setWindowTitle(QStringLiteral("Quellio抽奖(全能版)"));
+    setWindowTitle(tr("Quellio抽奖(全能版)"));
     setWindowIcon(icons::icon(QStringLiteral("start"), style::kBright));
     QWidget *home = buildHome();
     home->setGeometry(0, kBannerHeight, kWidth, kPanelHeight);
@@ -109,13 +109,13 @@ QWidget *ConsoleWindow::buildBanner() {
     auto *banner = new Banner(body());
     auto *minimise = new IconButton(QStringLiteral("minimise"), Qt::white, 30, banner);
     auto *close = new IconButton(QStringLiteral("close"), Qt::white, 30, banner);
-    minimise->setToolTip(QStringLiteral("最小化"));
-    close->setToolTip(QStringLiteral("关闭"));
+    minimise->setToolTip(tr("最小化"));
+    close->setToolTip(tr("关闭"));
     minimise->move(kWidth - 76, 10);
     close->move(kWidth - 42, 10);
     connect(minimise, &QAbstractButton::clicked, this, &QWidget::showMinimized);
     connect(close, &QAbstractButton::clicked, this, &QWidget::close);
-    auto *tutorialLink = new LinkLabel(QStringLiteral("视频教程"), banner);
+    auto *tutorialLink = new LinkLabel(tr("视频教程"), banner);
     tutorialLink->setObjectName(QStringLiteral("tutorialLink"));
     tutorialLink->setStyleSheet(QStringLiteral("color: white;"));
     tutorialLink->adjustSize();
@@ -131,14 +131,12 @@ QWidget *ConsoleWindow::buildBanner() {
 
 QWidget *ConsoleWindow::buildHome() {
     auto *home = new QWidget(body());
-    auto *settingsButton =
-        new CardButton(QStringLiteral("settings"), QStringLiteral("抽奖设置"), false, home);
+    auto *settingsButton = new CardButton(QStringLiteral("settings"), tr("抽奖设置"), false, home);
     settingsButton->setObjectName(QStringLiteral("settingsButton"));
-    auto *startButton =
-        new CardButton(QStringLiteral("start"), QStringLiteral("开始抽奖"), true, home);
+    auto *startButton = new CardButton(QStringLiteral("start"), tr("开始抽奖"), true, home);
     startButton->setObjectName(QStringLiteral("startButton"));
-    settingsButton->setToolTip(QStringLiteral("名单、奖项与界面设置"));
-    startButton->setToolTip(QStringLiteral("进入全屏抽奖界面"));
+    settingsButton->setToolTip(tr("名单、奖项与界面设置"));
+    startButton->setToolTip(tr("进入全屏抽奖界面"));
     connect(settingsButton, &QAbstractButton::clicked, this, &ConsoleWindow::openSettings);
     connect(startButton, &QAbstractButton::clicked, this, &ConsoleWindow::openStart);
     auto *cards = new QHBoxLayout;
@@ -148,14 +146,14 @@ QWidget *ConsoleWindow::buildHome() {
     cards->addWidget(startButton);
     cards->addStretch();
 
-    auto *progressTitle = textLabel(QStringLiteral("抽奖进度∶"), home, "heading");
+    auto *progressTitle = textLabel(tr("抽奖进度∶"), home, "heading");
     m_progressLabel = new QLabel(QStringLiteral("0%"), home);
     m_progressLabel->setObjectName(QStringLiteral("progressLabel"));
     m_progressLabel->setStyleSheet(
         QStringLiteral("font-size: 18px; font-weight: bold; color: rgb(200,40,58);"));
-    auto *resetLink = new LinkLabel(QStringLiteral("一键复原重抽"), home);
+    auto *resetLink = new LinkLabel(tr("一键复原重抽"), home);
     resetLink->setObjectName(QStringLiteral("resetLink"));
-    resetLink->setToolTip(QStringLiteral("清空所有中奖记录,复原至初始状态"));
+    resetLink->setToolTip(tr("清空所有中奖记录,复原至初始状态"));
     connect(resetLink, &LinkLabel::clicked, this, &ConsoleWindow::resetDraw);
     auto *progress = new QHBoxLayout;
     progress->setContentsMargins(28, 0, 28, 0);
@@ -182,17 +180,17 @@ QHBoxLayout *ConsoleWindow::buildToolStrip(QWidget *home) {
         void (ConsoleWindow::*open)();
     };
     const Tool tools[] = {
-        {"list", "查看中奖详情", "winnerListButton", &ConsoleWindow::openWinnerList},
-        {"keyboard", "快捷键设置", "hotkeysButton", &ConsoleWindow::openHotkeys},
-        {"music", "音乐设置", "musicButton", &ConsoleWindow::openMusic},
-        {"wizard", "抽奖向导", "wizardButton", &ConsoleWindow::openWizard},
-        {"password", "权限密码设置", "passwordButton", &ConsoleWindow::openPasswordSettings}};
+        {"list", QT_TR_NOOP("查看中奖详情"), "winnerListButton", &ConsoleWindow::openWinnerList},
+        {"keyboard", QT_TR_NOOP("快捷键设置"), "hotkeysButton", &ConsoleWindow::openHotkeys},
+        {"music", QT_TR_NOOP("音乐设置"), "musicButton", &ConsoleWindow::openMusic},
+        {"wizard", QT_TR_NOOP("抽奖向导"), "wizardButton", &ConsoleWindow::openWizard},
+        {"password", QT_TR_NOOP("权限密码设置"), "passwordButton",
+         &ConsoleWindow::openPasswordSettings}};
     auto *strip = new QHBoxLayout;
     strip->setSpacing(6);
     strip->addStretch();
     for (const Tool &tool : tools) {
-        auto *button =
-            new ToolButton(QString::fromLatin1(tool.icon), QString::fromUtf8(tool.caption), home);
+        auto *button = new ToolButton(QString::fromLatin1(tool.icon), tr(tool.caption), home);
         button->setObjectName(QString::fromLatin1(tool.name));
         connect(button, &QAbstractButton::clicked, this, tool.open);
         strip->addWidget(button);
@@ -209,12 +207,13 @@ QWidget *ConsoleWindow::buildPanel() {
         QStringLiteral("#settingsPanel { background: rgb(255,244,244); "
                        "border-bottom: 2px solid rgb(200,40,58); }"));
     panel->setAttribute(Qt::WA_StyledBackground);
-    const char *captions[] = {"名单设置", "奖项设置", "界面设置"};
+    const char *captions[] = {QT_TR_NOOP("名单设置"), QT_TR_NOOP("奖项设置"),
+                              QT_TR_NOOP("界面设置")};
     const char *names[] = {"rosterTab", "awardsTab", "interfaceTab"};
     auto *tabs = new QHBoxLayout;
     tabs->setSpacing(4);
     for (int i = 0; i < 3; ++i) {
-        m_pageTabs[i] = new QPushButton(QString::fromUtf8(captions[i]), panel);
+        m_pageTabs[i] = new QPushButton(tr(captions[i]), panel);
         m_pageTabs[i]->setObjectName(QString::fromLatin1(names[i]));
         m_pageTabs[i]->setCheckable(true);
         m_pageTabs[i]->setAutoExclusive(true);
@@ -222,14 +221,14 @@ QWidget *ConsoleWindow::buildPanel() {
         tabs->addWidget(m_pageTabs[i]);
     }
     tabs->addStretch();
-    tabs->addWidget(textLabel(QStringLiteral("抽奖进度∶"), panel, "hint"));
+    tabs->addWidget(textLabel(tr("抽奖进度∶"), panel, "hint"));
     m_panelProgressLabel = new QLabel(QStringLiteral("0%"), panel);
     m_panelProgressLabel->setObjectName(QStringLiteral("panelProgressLabel"));
     tabs->addWidget(m_panelProgressLabel);
-    auto *back = new QPushButton(icons::icon(QStringLiteral("back"), style::kDeep),
-                                 QStringLiteral("返回"), panel);
+    auto *back =
+        new QPushButton(icons::icon(QStringLiteral("back"), style::kDeep), tr("返回"), panel);
     back->setObjectName(QStringLiteral("closePanelButton"));
-    back->setToolTip(QStringLiteral("收起设置面板"));
+    back->setToolTip(tr("收起设置面板"));
     connect(back, &QPushButton::clicked, this, &ConsoleWindow::closePanel);
     tabs->addWidget(back);
 
@@ -248,19 +247,17 @@ QWidget *ConsoleWindow::buildPanel() {
 QWidget *ConsoleWindow::buildRosterPage() {
     auto *page = new QWidget;
     auto *layout = new QVBoxLayout(page);
-    layout->addWidget(
-        textLabel(QStringLiteral("名单即是您抽取的信息,名单信息可以是文本、编号、数字、图片等。"),
-                  page, "heading"));
-    layout->addWidget(
-        textLabel(QStringLiteral("您可以通过以下任何一种方式快捷生成名单"), page, "hint"));
+    layout->addWidget(textLabel(tr("名单即是您抽取的信息,名单信息可以是文本、编号、数字、图片等。"),
+                                page, "heading"));
+    layout->addWidget(textLabel(tr("您可以通过以下任何一种方式快捷生成名单"), page, "hint"));
     // In the order rosterscreens::openRosterAction numbers them.
-    const char *links[][2] = {{"管理名单", "manageRosterLink"},
-                              {"我要从Excel文件中导入名单", "excelImportLink"},
-                              {"我要从txt文件中导入名单", "textImportLink"},
-                              {"我要批量导入图片作为名单", "photoImportLink"},
-                              {"我要生成编号作为名单", "numberGeneratorLink"}};
+    const char *links[][2] = {{QT_TR_NOOP("管理名单"), "manageRosterLink"},
+                              {QT_TR_NOOP("我要从Excel文件中导入名单"), "excelImportLink"},
+                              {QT_TR_NOOP("我要从txt文件中导入名单"), "textImportLink"},
+                              {QT_TR_NOOP("我要批量导入图片作为名单"), "photoImportLink"},
+                              {QT_TR_NOOP("我要生成编号作为名单"), "numberGeneratorLink"}};
     for (int i = 0; i < 5; ++i) {
-        auto *link = new LinkLabel(QStringLiteral("▸ ") + QString::fromUtf8(links[i][0]), page);
+        auto *link = new LinkLabel(QStringLiteral("▸ ") + tr(links[i][0]), page);
         link->setObjectName(QString::fromLatin1(links[i][1]));
         connect(link, &LinkLabel::clicked, this,
                 [this, i] { rosterscreens::openRosterAction(i, this); });
@@ -273,8 +270,8 @@ QWidget *ConsoleWindow::buildRosterPage() {
 QWidget *ConsoleWindow::buildAwardPage() {
     auto *page = new QWidget;
     auto *layout = new QVBoxLayout(page);
-    layout->addWidget(textLabel(
-        QStringLiteral("奖项设置即是您此次抽奖活动中安排的奖品名次、奖品内容等"), page, "heading"));
+    layout->addWidget(
+        textLabel(tr("奖项设置即是您此次抽奖活动中安排的奖品名次、奖品内容等"), page, "heading"));
     auto figure = [page](const char *name) {
         auto *label = new QLabel(QStringLiteral("0"), page);
         label->setObjectName(QString::fromLatin1(name));
@@ -286,16 +283,16 @@ QWidget *ConsoleWindow::buildAwardPage() {
     m_batchSumLabel = figure("batchSumLabel");
     auto *figures = new QHBoxLayout;
     figures->setSpacing(2);
-    figures->addWidget(new QLabel(QStringLiteral("当前共计设置奖项"), page));
+    figures->addWidget(new QLabel(tr("当前共计设置奖项"), page));
     figures->addWidget(m_awardCountLabel);
-    figures->addWidget(new QLabel(QStringLiteral("项, 奖品共计"), page));
+    figures->addWidget(new QLabel(tr("项, 奖品共计"), page));
     figures->addWidget(m_slotSumLabel);
-    figures->addWidget(new QLabel(QStringLiteral("个,供计分"), page));
+    figures->addWidget(new QLabel(tr("个,供计分"), page));
     figures->addWidget(m_batchSumLabel);
-    figures->addWidget(new QLabel(QStringLiteral("次抽取"), page));
+    figures->addWidget(new QLabel(tr("次抽取"), page));
     figures->addStretch();
     layout->addLayout(figures);
-    auto *manageLink = new LinkLabel(QStringLiteral("▸ 管理我的奖项"), page);
+    auto *manageLink = new LinkLabel(tr("▸ 管理我的奖项"), page);
     manageLink->setObjectName(QStringLiteral("manageAwardsLink"));
     connect(manageLink, &LinkLabel::clicked, this, &ConsoleWindow::openAwardManager);
     layout->addWidget(manageLink);
@@ -413,7 +410,7 @@ void ConsoleWindow::resetDraw() {
         return;
     }
     if (answer == roster::ResetAnswer::Confirmed)
-        ui().message(QStringLiteral("已恢复至初始抽奖状态!"), MsgStyle::Information, titles::notice);
+        ui().message(tr("已恢复至初始抽奖状态!"), MsgStyle::Information, titles::notice);
     Q_EMIT events().resultsChanged();
 }
 

@@ -14,13 +14,13 @@
 
 PasswordPromptDialog::PasswordPromptDialog(Purpose purpose, QWidget *parent)
     : QDialog(parent), m_purpose(purpose) {
-    setWindowTitle(QStringLiteral("密码验证"));
-    auto *frame = new QGroupBox(QStringLiteral("请输入管理密码"), this);
+    setWindowTitle(tr("密码验证"));
+    auto *frame = new QGroupBox(tr("请输入管理密码"), this);
     m_passwordEdit = new QLineEdit(frame);
     m_passwordEdit->setObjectName(QStringLiteral("passwordEdit"));
     m_passwordEdit->setEchoMode(QLineEdit::Password);
     m_passwordEdit->setMinimumWidth(240);
-    auto *factoryHint = new QLabel(QStringLiteral("系统默认密码为 628413 "), frame);
+    auto *factoryHint = new QLabel(tr("系统默认密码为 628413 "), frame);
     factoryHint->setProperty("role", QStringLiteral("hint"));
     auto *frameLayout = new QVBoxLayout(frame);
     frameLayout->addWidget(m_passwordEdit);
@@ -41,12 +41,12 @@ PasswordPromptDialog::PasswordPromptDialog(Purpose purpose, QWidget *parent)
 
 void PasswordPromptDialog::checkPassword() {
     if (m_passwordEdit->text().trimmed().isEmpty()) {
-        ui().message(QStringLiteral("请输入密码!"), MsgStyle::Exclamation, titles::notice);
+        ui().message(tr("请输入密码!"), MsgStyle::Exclamation, titles::notice);
         m_passwordEdit->setFocus();
         return;
     }
     if (!password::matches(m_passwordEdit->text())) {
-        ui().message(QStringLiteral("密码错误"), MsgStyle::Critical, titles::notice);
+        ui().message(tr("密码错误"), MsgStyle::Critical, titles::notice);
         m_passwordEdit->clear();
         m_passwordEdit->setFocus();
         return;

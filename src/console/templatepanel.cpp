@@ -61,15 +61,15 @@ void TemplatePanel::buildControls() {
     m_subtitleEdit->setObjectName(QStringLiteral("subtitleEdit"));
     m_widthEdit = sizeEdit(QStringLiteral("1024"), QStringLiteral("widthEdit"), this);
     m_heightEdit = sizeEdit(QStringLiteral("768"), QStringLiteral("heightEdit"), this);
-    auto *changeBackground = new LinkLabel(QStringLiteral("更换背景图片"), this);
+    auto *changeBackground = new LinkLabel(tr("更换背景图片"), this);
     changeBackground->setObjectName(QStringLiteral("changeBackgroundLink"));
-    m_restoreBackgroundLink = new LinkLabel(QStringLiteral("恢复原图"), this);
+    m_restoreBackgroundLink = new LinkLabel(tr("恢复原图"), this);
     m_restoreBackgroundLink->setObjectName(QStringLiteral("restoreBackgroundLink"));
     m_restoreBackgroundLink->hide();
-    auto *save = new QPushButton(QStringLiteral("保存修改"), this);
+    auto *save = new QPushButton(tr("保存修改"), this);
     save->setObjectName(QStringLiteral("saveButton"));
     save->setProperty("role", QStringLiteral("primary"));
-    auto *editTemplate = new QPushButton(QStringLiteral("编辑模板"), this);
+    auto *editTemplate = new QPushButton(tr("编辑模板"), this);
     editTemplate->setObjectName(QStringLiteral("editTemplateButton"));
     connect(m_templateCombo, &QComboBox::currentIndexChanged, this, &TemplatePanel::loadTemplate);
     connect(save, &QPushButton::clicked, this, &TemplatePanel::savePage);
@@ -78,11 +78,11 @@ void TemplatePanel::buildControls() {
     connect(editTemplate, &QPushButton::clicked, this, &TemplatePanel::openDesigner);
 
     auto *size = new QHBoxLayout;
-    size->addWidget(new QLabel(QStringLiteral("宽度"), this));
+    size->addWidget(new QLabel(tr("宽度"), this));
     size->addWidget(m_widthEdit);
-    size->addWidget(new QLabel(QStringLiteral("高度"), this));
+    size->addWidget(new QLabel(tr("高度"), this));
     size->addWidget(m_heightEdit);
-    size->addWidget(hintLabel(QStringLiteral("(单位：像素)"), this));
+    size->addWidget(hintLabel(tr("(单位：像素)"), this));
     size->addStretch();
     auto *background = new QHBoxLayout;
     background->addWidget(changeBackground);
@@ -94,13 +94,13 @@ void TemplatePanel::buildControls() {
     buttons->addStretch();
 
     auto *form = new QGridLayout;
-    form->addWidget(new QLabel(QStringLiteral("模板∶"), this), 0, 0);
+    form->addWidget(new QLabel(tr("模板∶"), this), 0, 0);
     form->addWidget(m_templateCombo, 0, 1);
-    form->addWidget(new QLabel(QStringLiteral("主标题∶"), this), 1, 0);
+    form->addWidget(new QLabel(tr("主标题∶"), this), 1, 0);
     form->addWidget(m_mainTitleEdit, 1, 1);
-    form->addWidget(new QLabel(QStringLiteral("副标题∶"), this), 2, 0);
+    form->addWidget(new QLabel(tr("副标题∶"), this), 2, 0);
     form->addWidget(m_subtitleEdit, 2, 1);
-    form->addWidget(new QLabel(QStringLiteral("分辨率："), this), 3, 0);
+    form->addWidget(new QLabel(tr("分辨率："), this), 3, 0);
     form->addLayout(size, 3, 1);
     form->addLayout(background, 4, 1);
     form->addLayout(buttons, 5, 1);
@@ -110,8 +110,7 @@ void TemplatePanel::buildControls() {
     m_previewBox->setFixedSize(257, 177);
     m_previewBox->setStyleSheet(QStringLiteral("background: rgb(60,10,14); border-radius: 4px;"));
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(
-        hintLabel(QStringLiteral("界面设置，即是设置抽奖界面的背景、标题以及文字样式等!"), this));
+    layout->addWidget(hintLabel(tr("界面设置，即是设置抽奖界面的背景、标题以及文字样式等!"), this));
     auto *row = new QHBoxLayout;
     row->addLayout(form, 1);
     row->addSpacing(12);
@@ -137,7 +136,7 @@ void TemplatePanel::onPreviewCommand(const QString &command, const QString &args
         selectCombo(m_templateCombo, appState().selSkinName);
         loadTemplate();
     } else if (command == proto::cmd::msg) {
-        ui().message(args, MsgStyle::Exclamation, QStringLiteral("AS提示"));
+        ui().message(args, MsgStyle::Exclamation, tr("AS提示"));
     }
 }
 
@@ -155,7 +154,7 @@ void TemplatePanel::loadTemplate() {
     state.skinConnStr = design::templatePath(state.appPath, name);
     design::TemplateData data;
     if (!design::readTemplateFile(state.skinConnStr, &data) || !data.bg.found) {
-        ui().message(QStringLiteral("界面数据文件损坏!"), MsgStyle::Exclamation, titles::error);
+        ui().message(tr("界面数据文件损坏!"), MsgStyle::Exclamation, titles::error);
         return;
     }
     state.bgW = data.bg.BgW;
@@ -198,10 +197,10 @@ void TemplatePanel::savePage() {
 }
 
 void TemplatePanel::chooseBackground() {
-    const QString file = ui().openFile(
-        QStringLiteral("选择背景图片"), appState().appPath,
-        QStringLiteral("背景文件(*.png *.jpg *.jpeg *.gif *.bmp);;PNG Files(*.png);;"
-                       "JPG Files(*.jpg *.jpeg);;GIF Files(*.gif);;BMP Files(*.bmp)"));
+    const QString file =
+        ui().openFile(tr("选择背景图片"), appState().appPath,
+                      tr("背景文件(*.png *.jpg *.jpeg *.gif *.bmp);;PNG Files(*.png);;"
+                         "JPG Files(*.jpg *.jpeg);;GIF Files(*.gif);;BMP Files(*.bmp)"));
     if (file.isEmpty()) return;
     m_preview->setVariable(proto::setAsBgImg, file + proto::kSep + m_widthEdit->text() +
                                                   proto::kSep + m_heightEdit->text());

@@ -47,8 +47,10 @@ QString templatePath(const QString &appPath, const QString &name) {
 SizeCheck checkStageSize(const QString &width, const QString &height) {
     if (!isNumber(width)) return {QStringLiteral("分辨率宽度需要输入数字"), true};
     if (!isNumber(height)) return {QStringLiteral("分辨率高度需要输入数字"), false};
-    if (width.trimmed().toLongLong() < 257) return {QStringLiteral("分辨率宽度最小不低于257px"), true};
-    if (height.trimmed().toLongLong() < 177) return {QStringLiteral("分辨率高度不能低于177px"), false};
+    if (width.trimmed().toLongLong() < 257)
+        return {QStringLiteral("分辨率宽度最小不低于257px"), true};
+    if (height.trimmed().toLongLong() < 177)
+        return {QStringLiteral("分辨率高度不能低于177px"), false};
     if (width.trimmed().toLongLong() > kMaxStageSide)
         return {QStringLiteral("分辨率宽度最大不能超过32767px"), true};
     if (height.trimmed().toLongLong() > kMaxStageSide)

@@ -339,8 +339,7 @@ void Replay::checkStore(QSqlDatabase store) {
             logged.insert(m_batches[i].winners.begin(), m_batches[i].winners.end());
         const auto [from, to] = byTime.equal_range(key.second);
         for (auto it = from; it != to; ++it) {
-            if (logged.count(it->second) || !stored[it->second].standing.holds(key.first))
-                continue;
+            if (logged.count(it->second) || !stored[it->second].standing.holds(key.first)) continue;
             for (size_t i : members)
                 problem(m_batches[i].verdict,
                         QStringLiteral("库中这一批多出了未记录的中奖者 %1").arg(it->second));

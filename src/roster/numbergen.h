@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "core/language.h"
+
 // The codes of the number generator: prefix, counting number, suffix, with digit groups the
 // operator wants to avoid left out.
 namespace numbergen {
@@ -33,7 +35,7 @@ bool range(const Options &options, int *start, int *end);
 // Whether the options give at least one code once the mask has left some out. A generator that
 // would give none is refused before anything changes.
 bool keepsAnyCode(const Options &options);
-inline const QString kNoCodeLeftMessage =
-    QStringLiteral("屏蔽号码后没有可以生成的号码，请修改屏蔽号码。");
+inline const TranslatedText kNoCodeLeftMessage{
+    "numbergen", QT_TRANSLATE_NOOP("numbergen", "屏蔽号码后没有可以生成的号码，请修改屏蔽号码。")};
 
 }  // namespace numbergen

@@ -1,5 +1,6 @@
 #include "roster/replaceguard.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QHash>
@@ -29,17 +30,20 @@ StoredRecords storedRecords(QSqlDatabase db) {
 }
 
 QString replaceQuestion(const StoredRecords &records) {
-    return QStringLiteral(
-               "将删除现有 %1 名参与者和 %2 条中奖记录。删除前会在 History "
-               "文件夹保存一份名单快照。\n确认要替换原有名单么?")
+    return QCoreApplication::translate("replaceguard",
+                                       "将删除现有 %1 名参与者和 %2 条中奖记录。删除前会在 History "
+                                       "文件夹保存一份名单快照。\n确认要替换原有名单么?")
         .arg(records.participants)
         .arg(records.wins);
 }
 
 QString resetQuestion(const StoredRecords &records) {
     const QString giveUps =
-        records.giveUps > 0 ? QStringLiteral("和 %1 条弃奖记录").arg(records.giveUps) : QString();
-    return QStringLiteral(
+        records.giveUps > 0
+            ? QCoreApplication::translate("replaceguard", "和 %1 条弃奖记录").arg(records.giveUps)
+            : QString();
+    return QCoreApplication::translate(
+               "replaceguard",
                "将清除现有 %1 条中奖记录%2。清除前会在 History 文件夹保存一份名单快照。"
                "\n确认要清空所有中奖记录,复原至初始状态么?")
         .arg(records.wins)
@@ -52,8 +56,10 @@ bool snapshotWritten(QSqlDatabase db, const QString &appPath) {
     QString error;
     if (!writeRosterSnapshot(db, appPath, QDateTime::currentDateTime(), &error).isEmpty())
         return true;
-    ui().message(QStringLiteral("无法保存名单快照,名单未作任何改动。\n") + error,
-                 MsgStyle::Critical, titles::error);
+    ui().message(
+        QCoreApplication::translate("replaceguard", "无法保存名单快照,名单未作任何改动。\n") +
+            error,
+        MsgStyle::Critical, titles::error);
     return false;
 }
 

@@ -84,7 +84,7 @@ void RosterImport::removeReplacedPhotos() {
 
 void RosterImport::skipBlankName() {
     ++m_blanks;
-    appendLog(QStringLiteral("\n屏蔽空白数据"));
+    appendLog(tr("\n屏蔽空白数据"));
 }
 
 void RosterImport::finish(Outcome outcome, const QString &error) {
@@ -147,7 +147,7 @@ bool ExcelImport::processItem(qint64 index, QString *error) {
     }
     if (writer().isDuplicate(name, part)) {
         ++m_duplicates;
-        appendLog(QStringLiteral("\n重复数据：") + name);
+        appendLog(tr("\n重复数据：") + name);
         return true;
     }
     if (!writer().insert(name, part, QString(), 0, error)) return false;
@@ -176,7 +176,7 @@ bool TxtImport::readLines(const QString &path, QStringList *lines, QString *erro
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        *error = QStringLiteral("无法打开文件：") + path;
+        *error = tr("无法打开文件：") + path;
         return false;
     }
     QString text;
@@ -189,7 +189,7 @@ bool TxtImport::processItem(qint64 index, QString *error) {
     const QString &line = m_lines.at(index);
     if (!textimport::isRosterLine(line)) {
         ++m_unreadable;
-        appendLog(QStringLiteral("\n屏蔽无法识别的数据：第%1行").arg(index + 1));
+        appendLog(tr("\n屏蔽无法识别的数据：第%1行").arg(index + 1));
         return true;
     }
     const textimport::TxtRow row = m_parser.parse(line);
@@ -200,11 +200,10 @@ bool TxtImport::processItem(qint64 index, QString *error) {
     }
     if (writer().isDuplicate(row.name, row.part)) {
         ++m_duplicates;
-        appendLog(QStringLiteral("\n重复数据：") + row.name + m_separator + row.part);
+        appendLog(tr("\n重复数据：") + row.name + m_separator + row.part);
         return true;
     }
-    if (row.diffNumTooLarge)
-        appendLog(QStringLiteral("\n区分编号超出范围,记为0：第%1行").arg(index + 1));
+    if (row.diffNumTooLarge) appendLog(tr("\n区分编号超出范围,记为0：第%1行").arg(index + 1));
     if (!writer().insert(row.name, row.part, row.photo, row.diffNum, error)) return false;
     ++m_imported;
     return true;
@@ -249,16 +248,16 @@ bool PhotoImport::processItem(qint64 index, QString *error) {
     const QString part = parsed.part + QLatin1Char(' ');
     if (writer().isDuplicate(parsed.name, part)) {
         ++m_duplicates;
-        appendLog(QStringLiteral("\n重复图片∶") + source);
+        appendLog(tr("\n重复图片∶") + source);
         return true;
     }
     const QString staged = stagingFolder() + QLatin1Char('/') + newName;
     switch (photoimport::settlePicture(source, staged, m_compress, m_sliderValue)) {
         case photoimport::Settled::PngCopied:
-            appendLog(QStringLiteral("\nPNG不支持压缩∶") + source);
+            appendLog(tr("\nPNG不支持压缩∶") + source);
             break;
         case photoimport::Settled::Failed:
-            appendLog(QStringLiteral("\n压缩失败∶") + source);
+            appendLog(tr("\n压缩失败∶") + source);
             break;
         default:
             break;

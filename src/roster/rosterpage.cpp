@@ -1,5 +1,6 @@
 #include "roster/rosterpage.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
@@ -128,11 +129,11 @@ bool readPage(QSqlDatabase db, const QString &search, int sortType, int page, Pa
 QString statusWord(int status) {
     switch (status) {
         case 1:
-            return QStringLiteral("已弃奖");
+            return QCoreApplication::translate("roster", "已弃奖");
         case 2:
-            return QStringLiteral("已领奖");
+            return QCoreApplication::translate("roster", "已领奖");
         case 3:
-            return QStringLiteral("已中奖");
+            return QCoreApplication::translate("roster", "已中奖");
         default:
             return QString();
     }

@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QVariant>
 
+#include "core/language.h"
 #include "core/store.h"
 
 // What the roster manager reads and writes, without its widgets.
@@ -49,7 +50,8 @@ bool isNumeric(const QString &text);
 // Whether a typed distinction number fits the stored 32-bit value; a longer number is refused
 // with kDiffNumTooLarge rather than stored as 0.
 bool diffNumFits(const QString &text);
-inline const QString kDiffNumTooLarge = QStringLiteral("“区分编号”不能大于2147483647");
+inline const TranslatedText kDiffNumTooLarge{
+    "roster", QT_TRANSLATE_NOOP("roster", "“区分编号”不能大于2147483647")};
 
 bool loadParticipant(QSqlDatabase db, int id, Participant *participant);
 

@@ -1,5 +1,6 @@
 #include "roster/textimport.h"
 
+#include <QCoreApplication>
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -49,7 +50,8 @@ bool looksLikeText(const QString &text) {
 }  // namespace
 
 QString notTextMessage() {
-    return QStringLiteral("文件不是可以导入的文本文件，请选择文本格式(*.txt)的名单文件。");
+    return QCoreApplication::translate(
+        "textimport", "文件不是可以导入的文本文件，请选择文本格式(*.txt)的名单文件。");
 }
 
 bool decodeText(const QByteArray &bytes, QString *text, QString *error) {

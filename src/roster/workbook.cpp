@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QXmlStreamReader>
 
+#include "core/language.h"
 #include "core/store.h"
 #include "roster/xlsformulas.h"
 
@@ -18,8 +19,9 @@ namespace workbook {
 
 namespace {
 
-const QString kUnreadable = QStringLiteral("无法读取Excel文件，文件已损坏或不是Excel工作簿。");
-const QString kTooLarge = QStringLiteral("文件过大或已损坏");
+const TranslatedText kUnreadable{
+    "workbook", QT_TRANSLATE_NOOP("workbook", "无法读取Excel文件，文件已损坏或不是Excel工作簿。")};
+const TranslatedText kTooLarge{"workbook", QT_TRANSLATE_NOOP("workbook", "文件过大或已损坏")};
 
 zip_t *zipOf(void *handle) {
     return static_cast<zip_t *>(handle);
@@ -264,7 +266,7 @@ bool Workbook::open(const QString &path, QString *error) {
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        *error = QStringLiteral("无法打开文件：") + path;
+        *error = QCoreApplication::translate("workbook", "无法打开文件：") + path;
         return false;
     }
     const QByteArray head = file.read(8);
@@ -287,7 +289,7 @@ bool Workbook::readSheet(int index, int limit, Sheet *sheet, QString *error,
                          const ReadControl &control) {
     *sheet = Sheet();
     if (index < 0 || index >= sheetNames().size()) {
-        *error = QStringLiteral("找不到工作表");
+        *error = QCoreApplication::translate("workbook", "找不到工作表");
         return false;
     }
     Sheet read;

@@ -41,8 +41,7 @@ public:
 
     bool open() {
         static const char signature[] = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1";
-        if (m_file.size() < 512 || std::memcmp(m_file.constData(), signature, 8) != 0)
-            return false;
+        if (m_file.size() < 512 || std::memcmp(m_file.constData(), signature, 8) != 0) return false;
         const quint16 shift = u16(m_file, 0x1E);
         if (shift != 9 && shift != 12) return false;
         m_sectorSize = 1 << shift;

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "core/language.h"
+
 // The names of the stage protocol: every variable the program sets on a stage, every command a
 // stage raises, and every on-stage button. Callers use these constants, never string literals,
 // so a misspelt name cannot reach the projector. The values' grammars are built in
@@ -117,7 +119,7 @@ inline const QString trueText = QStringLiteral("true");
 inline const QString falseText = QStringLiteral("false");
 inline const QString nullSelection = QStringLiteral("Null");
 // The sample text of an empty roster, and the end mark of vbLoadBlock.
-inline const QString demoText = QStringLiteral("演示文字");
+inline const TranslatedText demoText{"stage", QT_TRANSLATE_NOOP("stage", "演示文字")};
 inline const QString blockEnd = QStringLiteral("|s|");
 
 }  // namespace proto

@@ -11,21 +11,24 @@
 
 namespace {
 
-const QString kFilter = QStringLiteral(
-    "图片文件(*.png,*.jpg,*.gif,*.bmp)|*.png;*.jpg;*.gif;*.bmp|PNG Files(*.png)|*.png|"
-    "JPG Files(*.jpg)|*.jpg|GIF Files(*.gif)|*.gif|BMP Files(*.bmp)|*.bmp");
+const TranslatedText kFilter{
+    "AddAwardDialog",
+    QT_TRANSLATE_NOOP(
+        "AddAwardDialog",
+        "图片文件(*.png,*.jpg,*.gif,*.bmp)|*.png;*.jpg;*.gif;*.bmp|PNG Files(*.png)|*.png|"
+        "JPG Files(*.jpg)|*.jpg|GIF Files(*.gif)|*.gif|BMP Files(*.bmp)|*.bmp")};
 
 }  // namespace
 
 AddAwardDialog::AddAwardDialog(QWidget *parent) : QDialog(parent) {
-    setWindowTitle(QStringLiteral("增加奖项"));
+    setWindowTitle(tr("增加奖项"));
     m_editor = new AwardEditor(QStringLiteral("AddAwardDialog"), kFilter, this);
     m_editor->setObjectName(QStringLiteral("awardEditor"));
     m_editor->setExcludeWinners(true);
-    auto *add = new QPushButton(QStringLiteral("添加"), this);
+    auto *add = new QPushButton(tr("添加"), this);
     add->setObjectName(QStringLiteral("addButton"));
     add->setDefault(true);
-    auto *cancel = new QPushButton(QStringLiteral("取消"), this);
+    auto *cancel = new QPushButton(tr("取消"), this);
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(add);

@@ -82,16 +82,16 @@ QWidget *AwardEditor::buildFields() {
     m_rangeToEdit = numberBox(QStringLiteral("rangeToEdit"), page, 5, 64);
     m_rangeDash = new QLabel(QStringLiteral("-"), page);
     m_rangeDash->setObjectName(QStringLiteral("rangeDash"));
-    m_excludeWinnersCheck = new QCheckBox(QStringLiteral("排除已中奖的人"), page);
+    m_excludeWinnersCheck = new QCheckBox(tr("排除已中奖的人"), page);
     m_excludeWinnersCheck->setObjectName(QStringLiteral("excludeWinnersCheck"));
 
     auto *counts = new QHBoxLayout;
     counts->addWidget(m_slotsEdit);
     counts->addSpacing(18);
-    counts->addWidget(new QLabel(QStringLiteral("抽奖批次："), page));
+    counts->addWidget(new QLabel(tr("抽奖批次："), page));
     counts->addWidget(m_batchesEdit);
     counts->addSpacing(4);
-    counts->addWidget(hint(QStringLiteral("(分几次抽取)"), page));
+    counts->addWidget(hint(tr("(分几次抽取)"), page));
     counts->addStretch();
     auto *range = new QHBoxLayout;
     range->setSpacing(6);
@@ -103,19 +103,19 @@ QWidget *AwardEditor::buildFields() {
     range->addStretch();
     auto *reLuck = new QHBoxLayout;
     reLuck->addWidget(m_excludeWinnersCheck);
-    reLuck->addWidget(hint(QStringLiteral("(禁止重复中奖)"), page));
+    reLuck->addWidget(hint(tr("(禁止重复中奖)"), page));
     reLuck->addStretch();
 
     auto *grid = new QGridLayout(page);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setVerticalSpacing(10);
-    grid->addWidget(new QLabel(QStringLiteral("奖项名称："), page), 0, 0);
+    grid->addWidget(new QLabel(tr("奖项名称："), page), 0, 0);
     grid->addWidget(m_nameEdit, 0, 1);
-    grid->addWidget(new QLabel(QStringLiteral("奖品名额："), page), 1, 0);
+    grid->addWidget(new QLabel(tr("奖品名额："), page), 1, 0);
     grid->addLayout(counts, 1, 1);
-    grid->addWidget(new QLabel(QStringLiteral("奖品名称："), page), 2, 0);
+    grid->addWidget(new QLabel(tr("奖品名称："), page), 2, 0);
     grid->addWidget(m_prizeEdit, 2, 1);
-    grid->addWidget(new QLabel(QStringLiteral("编号范围："), page), 3, 0);
+    grid->addWidget(new QLabel(tr("编号范围："), page), 3, 0);
     grid->addLayout(range, 3, 1);
     grid->addLayout(reLuck, 4, 1);
     grid->setRowStretch(5, 1);
@@ -125,7 +125,7 @@ QWidget *AwardEditor::buildFields() {
 
 QWidget *AwardEditor::buildPicture() {
     auto *box = new QWidget(this);
-    auto *title = new QLabel(QStringLiteral("奖品图片"), box);
+    auto *title = new QLabel(tr("奖品图片"), box);
     title->setProperty("role", "heading");
     auto *pictureFrame = new QFrame(box);
     pictureFrame->setObjectName(QStringLiteral("pictureFrame"));
@@ -133,7 +133,7 @@ QWidget *AwardEditor::buildPicture() {
     pictureFrame->setStyleSheet(
         QStringLiteral("#pictureFrame { background: white; border: 1px solid rgb(220,170,174); "
                        "border-radius: 4px; }"));
-    m_emptyPicture = new QLabel(QStringLiteral("暂无奖品图片"), pictureFrame);
+    m_emptyPicture = new QLabel(tr("暂无奖品图片"), pictureFrame);
     m_emptyPicture->setProperty("role", "hint");
     m_emptyPicture->setAlignment(Qt::AlignCenter);
     m_emptyPicture->setGeometry(1, 1, kViewerWidth, kViewerHeight);
@@ -147,11 +147,11 @@ QWidget *AwardEditor::buildPicture() {
     connect(m_viewer.get(), &Stage::commandReceived, this, &AwardEditor::onViewerCommand);
     m_viewer->loadMovie(appState().path(appState().moviePhoto));
 
-    m_cameraButton = new QPushButton(QStringLiteral("拍照"), box);
+    m_cameraButton = new QPushButton(tr("拍照"), box);
     m_cameraButton->setObjectName(QStringLiteral("cameraButton"));
-    m_fileButton = new QPushButton(QStringLiteral("选择图片"), box);
+    m_fileButton = new QPushButton(tr("选择图片"), box);
     m_fileButton->setObjectName(QStringLiteral("choosePictureButton"));
-    m_removeButton = new QPushButton(QStringLiteral("删除图片"), box);
+    m_removeButton = new QPushButton(tr("删除图片"), box);
     m_removeButton->setObjectName(QStringLiteral("removePictureButton"));
     // The camera lives with the roster; until it is registered the button stays hidden.
     m_cameraButton->setVisible(bool(awardcamera::shot()));
@@ -178,7 +178,7 @@ void AwardEditor::onViewerCommand(const QString &command, const QString &args) {
         m_viewerReady = true;
         m_viewer->setVariable(proto::vbAddImg, m_pendingPicture);
     } else if (command == proto::cmd::msg) {
-        ui().message(args, MsgStyle::Information, QStringLiteral("AS 消息"));
+        ui().message(args, MsgStyle::Information, tr("AS 消息"));
     }
 }
 
@@ -274,7 +274,7 @@ void AwardEditor::showRangeFields() {
 
 void AwardEditor::chooseFile() {
     const QString file =
-        ui().openFile(QStringLiteral("添加奖品图片"), appState().appPath, dialogFilter(m_filter));
+        ui().openFile(tr("添加奖品图片"), appState().appPath, dialogFilter(m_filter));
     if (file.trimmed().isEmpty()) return;
     showPicture(file);
     m_picture = file;

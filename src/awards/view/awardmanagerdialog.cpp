@@ -16,9 +16,12 @@
 
 namespace {
 
-const QString kFilter = QStringLiteral(
-    "图片文件(*.png,*.jpg,*.gif,*.bmp)|*.png;*.jpg;*.jpej;*.gif;*.bmp|PNG Files(*.png)|*.png|"
-    "JPG Files(*.jpg)|*.jpg;jpeg|GIF Files(*.gif)|*.gif|BMP Files(*.bmp)|*.bmp");
+const TranslatedText kFilter{
+    "AwardManagerDialog",
+    QT_TRANSLATE_NOOP(
+        "AwardManagerDialog",
+        "图片文件(*.png,*.jpg,*.gif,*.bmp)|*.png;*.jpg;*.jpej;*.gif;*.bmp|PNG Files(*.png)|*.png|"
+        "JPG Files(*.jpg)|*.jpg;jpeg|GIF Files(*.gif)|*.gif|BMP Files(*.bmp)|*.bmp")};
 
 QString keyOf(int id) {
     return QStringLiteral("K") + QString::number(id);
@@ -39,12 +42,12 @@ QPushButton *toolButton(const QString &caption, const QString &name, QWidget *pa
 }  // namespace
 
 AwardManagerDialog::AwardManagerDialog(QWidget *parent) : QDialog(parent) {
-    setWindowTitle(QStringLiteral("奖项设置"));
+    setWindowTitle(tr("奖项设置"));
     buildList();
-    auto *editorBox = new QGroupBox(QStringLiteral("奖项编辑"), this);
+    auto *editorBox = new QGroupBox(tr("奖项编辑"), this);
     m_editor = new AwardEditor(QStringLiteral("AwardManagerDialog"), kFilter, editorBox);
     m_editor->setObjectName(QStringLiteral("awardEditor"));
-    m_saveButton = new QPushButton(QStringLiteral("保存编辑"), editorBox);
+    m_saveButton = new QPushButton(tr("保存编辑"), editorBox);
     m_saveButton->setObjectName(QStringLiteral("saveEditButton"));
     m_saveButton->setProperty("role", "primary");
     m_saveButton->setAutoDefault(false);
@@ -78,19 +81,15 @@ AwardManagerDialog::AwardManagerDialog(QWidget *parent) : QDialog(parent) {
 
 QWidget *AwardManagerDialog::buildToolbar() {
     auto *toolbar = new QWidget(this);
-    auto *add =
-        toolButton(QStringLiteral("＋ 增加奖项"), QStringLiteral("addAwardButton"), toolbar);
+    auto *add = toolButton(tr("＋ 增加奖项"), QStringLiteral("addAwardButton"), toolbar);
     add->setProperty("role", "primary");
     connect(add, &QPushButton::clicked, this, &AwardManagerDialog::addAward);
-    m_deleteButton =
-        toolButton(QStringLiteral("✕ 删除奖项"), QStringLiteral("deleteAwardsButton"), toolbar);
-    m_moveDownButton =
-        toolButton(QStringLiteral("↓ 向下移动"), QStringLiteral("moveDownButton"), toolbar);
-    m_moveUpButton =
-        toolButton(QStringLiteral("↑ 向上移动"), QStringLiteral("moveUpButton"), toolbar);
+    m_deleteButton = toolButton(tr("✕ 删除奖项"), QStringLiteral("deleteAwardsButton"), toolbar);
+    m_moveDownButton = toolButton(tr("↓ 向下移动"), QStringLiteral("moveDownButton"), toolbar);
+    m_moveUpButton = toolButton(tr("↑ 向上移动"), QStringLiteral("moveUpButton"), toolbar);
     for (QPushButton *button : {add, m_deleteButton, m_moveDownButton, m_moveUpButton})
         button->setAutoDefault(false);
-    auto *hint = new QLabel(QStringLiteral("勾选奖项后点“删除奖项”；抽奖按列表顺序进行"), toolbar);
+    auto *hint = new QLabel(tr("勾选奖项后点“删除奖项”；抽奖按列表顺序进行"), toolbar);
     hint->setProperty("role", "hint");
     auto *layout = new QHBoxLayout(toolbar);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -108,11 +107,10 @@ void AwardManagerDialog::buildList() {
     m_awardList = new QTreeWidget(this);
     m_awardList->setObjectName(QStringLiteral("awardList"));
     m_awardList->setColumnCount(ColumnCount);
-    m_awardList->setHeaderLabels({QString(), QStringLiteral("排序"), QStringLiteral("奖项名称"),
-                                  QStringLiteral("名额"), QStringLiteral("批次"),
-                                  QStringLiteral("奖品名称"), QStringLiteral("奖品图片"),
-                                  QStringLiteral("重复中奖"), QStringLiteral("区分编号范围")});
-    m_awardList->headerItem()->setToolTip(ColCheck, QStringLiteral("选择"));
+    m_awardList->setHeaderLabels({QString(), tr("排序"), tr("奖项名称"), tr("名额"), tr("批次"),
+                                  tr("奖品名称"), tr("奖品图片"), tr("重复中奖"),
+                                  tr("区分编号范围")});
+    m_awardList->headerItem()->setToolTip(ColCheck, tr("选择"));
     m_awardList->setRootIsDecorated(false);
     m_awardList->setUniformRowHeights(true);
     m_awardList->setAlternatingRowColors(true);
@@ -190,7 +188,7 @@ void AwardManagerDialog::loadEditor(QTreeWidgetItem *item) {
     if (!item) return;
     const std::optional<AwardRow> row = m_book.find(idOf(item));
     if (!row) {
-        ui().message(QStringLiteral("找不到对应的名单"), MsgStyle::Critical, titles::error);
+        ui().message(tr("找不到对应的名单"), MsgStyle::Critical, titles::error);
         return;
     }
     m_editor->fill(*row);
@@ -211,8 +209,8 @@ void AwardManagerDialog::saveEdit() {
         return;
     }
     if (m_book.hasWinners(id) &&
-        !ui().question(QStringLiteral("注意：当前编辑奖项已经存在中奖记录\n"
-                                      "本操作将清除所有与之对应的中奖记录!\n确认要编辑么?"),
+        !ui().question(tr("注意：当前编辑奖项已经存在中奖记录\n"
+                          "本操作将清除所有与之对应的中奖记录!\n确认要编辑么?"),
                        titles::warning))
         return;
     QString error;
@@ -222,7 +220,7 @@ void AwardManagerDialog::saveEdit() {
     }
     showAwards(id);
     Q_EMIT events().awardsChanged();
-    ui().message(QStringLiteral("奖项数据更新成功！"), MsgStyle::Information, titles::notice);
+    ui().message(tr("奖项数据更新成功！"), MsgStyle::Information, titles::notice);
 }
 
 void AwardManagerDialog::deleteTicked() {
@@ -231,12 +229,10 @@ void AwardManagerDialog::deleteTicked() {
         if (m_awardList->topLevelItem(i)->checkState(ColCheck) == Qt::Checked)
             ids << idOf(m_awardList->topLevelItem(i));
     if (ids.isEmpty()) {
-        ui().message(QStringLiteral("请选择需要删除的奖项!"), MsgStyle::Critical,
-                     QStringLiteral("删除失败"));
+        ui().message(tr("请选择需要删除的奖项!"), MsgStyle::Critical, tr("删除失败"));
         return;
     }
-    if (!ui().question(QStringLiteral("“删除奖项”将清除与之对应的中奖记录\n确认要删除么?"),
-                       titles::warning))
+    if (!ui().question(tr("“删除奖项”将清除与之对应的中奖记录\n确认要删除么?"), titles::warning))
         return;
     QString error;
     if (!m_book.remove(ids, &error)) ui().message(error, MsgStyle::Critical, titles::error);

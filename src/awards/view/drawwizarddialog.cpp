@@ -2,9 +2,9 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGuiApplication>
 #include <QEvent>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -44,17 +44,17 @@ QLineEdit *smallBox(QWidget *parent, int maxLength, bool digitsOnly) {
 
 DrawWizardDialog::DrawWizardDialog(Purpose purpose, QWidget *parent)
     : QDialog(parent), m_purpose(purpose) {
-    setWindowTitle(QStringLiteral("抽奖向导"));
+    setWindowTitle(tr("抽奖向导"));
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName(QStringLiteral("tabs"));
-    m_tabs->addTab(buildModePage(), QStringLiteral("抽奖方式"));
-    m_tabs->addTab(buildMaskPage(), QStringLiteral("名单屏蔽"));
-    m_rememberCheck = new QCheckBox(QStringLiteral("记住我的选择,下次启动抽奖时不再提示"), this);
+    m_tabs->addTab(buildModePage(), tr("抽奖方式"));
+    m_tabs->addTab(buildMaskPage(), tr("名单屏蔽"));
+    m_rememberCheck = new QCheckBox(tr("记住我的选择,下次启动抽奖时不再提示"), this);
     m_rememberCheck->setObjectName(QStringLiteral("rememberCheck"));
-    auto *ok = new QPushButton(QStringLiteral("确定"), this);
+    auto *ok = new QPushButton(tr("确定"), this);
     ok->setObjectName(QStringLiteral("okButton"));
     ok->setDefault(true);
-    auto *cancel = new QPushButton(QStringLiteral("退出"), this);
+    auto *cancel = new QPushButton(tr("退出"), this);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(m_rememberCheck);
     buttons->addStretch();
@@ -81,9 +81,9 @@ DrawWizardDialog::DrawWizardDialog(Purpose purpose, QWidget *parent)
 
 QWidget *DrawWizardDialog::buildModePage() {
     auto *page = new QWidget(this);
-    m_textMode = new QRadioButton(QStringLiteral("文字或数字抽奖"), page);
-    m_pictureMode = new QRadioButton(QStringLiteral("纯图片抽奖"), page);
-    m_pictureAndTextMode = new QRadioButton(QStringLiteral("图片加文字抽奖"), page);
+    m_textMode = new QRadioButton(tr("文字或数字抽奖"), page);
+    m_pictureMode = new QRadioButton(tr("纯图片抽奖"), page);
+    m_pictureAndTextMode = new QRadioButton(tr("图片加文字抽奖"), page);
     m_pictureAndTextMode->setObjectName(QStringLiteral("pictureAndTextMode"));
     m_speedSlider = new QSlider(Qt::Horizontal, page);
     m_speedSlider->setObjectName(QStringLiteral("speedSlider"));
@@ -92,12 +92,12 @@ QWidget *DrawWizardDialog::buildModePage() {
     for (QRadioButton *option : {m_textMode, m_pictureMode, m_pictureAndTextMode})
         modes->addWidget(option);
     auto *speed = new QHBoxLayout;
-    speed->addWidget(new QLabel(QStringLiteral("慢"), page));
+    speed->addWidget(new QLabel(tr("慢"), page));
     speed->addWidget(m_speedSlider, 1);
-    speed->addWidget(new QLabel(QStringLiteral("快"), page));
+    speed->addWidget(new QLabel(tr("快"), page));
     auto *layout = new QVBoxLayout(page);
-    auto *modeTitle = new QLabel(QStringLiteral("抽奖时滚动显示的内容"), page);
-    auto *speedTitle = new QLabel(QStringLiteral("抽奖时候名单切换速度"), page);
+    auto *modeTitle = new QLabel(tr("抽奖时滚动显示的内容"), page);
+    auto *speedTitle = new QLabel(tr("抽奖时候名单切换速度"), page);
     for (QLabel *title : {modeTitle, speedTitle})
         title->setProperty("role", "heading");
     layout->addWidget(modeTitle);
@@ -111,7 +111,7 @@ QWidget *DrawWizardDialog::buildModePage() {
 
 QWidget *DrawWizardDialog::buildMaskPage() {
     auto *page = new QWidget(this);
-    m_maskCheck = new QCheckBox(QStringLiteral("抽奖时对\"文字信息\"进行字段屏蔽"), page);
+    m_maskCheck = new QCheckBox(tr("抽奖时对\"文字信息\"进行字段屏蔽"), page);
     m_maskCheck->setObjectName(QStringLiteral("maskCheck"));
     m_keepLeftEdit = smallBox(page, 2, true);
     m_keepLeftEdit->setObjectName(QStringLiteral("keepLeftEdit"));
@@ -124,15 +124,15 @@ QWidget *DrawWizardDialog::buildMaskPage() {
     m_maskedSampleLabel->setProperty("role", "heading");
     m_maskedSampleLabel->setStyleSheet(QStringLiteral("font-size: 22px; letter-spacing: 2px;"));
     auto *grid = new QGridLayout;
-    grid->addWidget(new QLabel(QStringLiteral("左侧保留："), page), 0, 0);
+    grid->addWidget(new QLabel(tr("左侧保留："), page), 0, 0);
     grid->addWidget(m_keepLeftEdit, 0, 1);
-    grid->addWidget(new QLabel(QStringLiteral("位"), page), 0, 2);
-    grid->addWidget(new QLabel(QStringLiteral("右侧保留："), page), 0, 3);
+    grid->addWidget(new QLabel(tr("位"), page), 0, 2);
+    grid->addWidget(new QLabel(tr("右侧保留："), page), 0, 3);
     grid->addWidget(m_keepRightEdit, 0, 4);
-    grid->addWidget(new QLabel(QStringLiteral("位"), page), 0, 5);
-    grid->addWidget(new QLabel(QStringLiteral("替换字符："), page), 1, 0);
+    grid->addWidget(new QLabel(tr("位"), page), 0, 5);
+    grid->addWidget(new QLabel(tr("替换字符："), page), 1, 0);
     grid->addWidget(m_replacementEdit, 1, 1);
-    grid->addWidget(new QLabel(QStringLiteral("演示原文∶"), page), 2, 0);
+    grid->addWidget(new QLabel(tr("演示原文∶"), page), 2, 0);
     grid->addWidget(new QLabel(kSample, page), 2, 1, 1, 4);
     grid->addWidget(m_maskedSampleLabel, 3, 0, 1, 6);
     grid->setColumnStretch(6, 1);
@@ -150,16 +150,15 @@ QWidget *DrawWizardDialog::buildScreenRow() {
     m_screenCombo = new QComboBox(row);
     m_screenCombo->setObjectName(QStringLiteral("screenCombo"));
     QWidget *console = consoleWindow();
-    QScreen *preferred = stagescreens::stageScreen(appState().stageScreen,
-                                                   console ? console->screen() : nullptr);
+    QScreen *preferred =
+        stagescreens::stageScreen(appState().stageScreen, console ? console->screen() : nullptr);
     for (QScreen *screen : QGuiApplication::screens()) {
-        m_screenCombo->addItem(stagescreens::label(screen->name(), screen->size()),
-                               screen->name());
+        m_screenCombo->addItem(stagescreens::label(screen->name(), screen->size()), screen->name());
         if (screen == preferred) m_screenCombo->setCurrentIndex(m_screenCombo->count() - 1);
     }
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new QLabel(QStringLiteral("抽奖画面显示在："), row));
+    layout->addWidget(new QLabel(tr("抽奖画面显示在："), row));
     layout->addWidget(m_screenCombo, 1);
     return row;
 }
@@ -204,6 +203,6 @@ void DrawWizardDialog::saveSettings() {
     settings::write(QStringLiteral("luckDelay"), 20 - m_speedSlider->value());
     appState().stageScreen = m_screenCombo->currentData().toString();
     if (m_purpose == Purpose::EditSettings)
-        ui().message(QStringLiteral("参数保存成功!"), MsgStyle::Information, titles::notice);
+        ui().message(tr("参数保存成功!"), MsgStyle::Information, titles::notice);
     accept();
 }

@@ -65,7 +65,8 @@ QString missingSetup(bool hasAward) {
         missing << QStringLiteral("奖项");
         steps << QStringLiteral("· 在“奖项设置”中添加奖项");
     }
-    return QStringLiteral("还没有%1，无法开始抽奖。\n请按Esc退出抽奖界面，在控制台点击“抽奖设置”：\n")
+    return QStringLiteral(
+               "还没有%1，无法开始抽奖。\n请按Esc退出抽奖界面，在控制台点击“抽奖设置”：\n")
                .arg(missing.join(QStringLiteral("和"))) +
            steps.join(QLatin1Char('\n'));
 }
@@ -254,9 +255,9 @@ void DrawWindow::layoutStage() {
     const AppState &state = appState();
     if (m_stageShown && state.bgW > 0 && state.bgH > 0)
         // The host is the window's client area in both modes: no border to allow for.
-        send(proto::vbSetScale, design::stageScalePayload(m_stageHost->width(),
-                                                          m_stageHost->height(), true, state.bgW,
-                                                          state.bgH));
+        send(proto::vbSetScale,
+             design::stageScalePayload(m_stageHost->width(), m_stageHost->height(), true, state.bgW,
+                                       state.bgH));
 }
 
 void DrawWindow::placeStopGuardPanel() {

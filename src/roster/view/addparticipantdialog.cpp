@@ -16,7 +16,7 @@
 #include "roster/view/picturebox.h"
 
 AddParticipantDialog::AddParticipantDialog(QWidget *parent) : QDialog(parent) {
-    setWindowTitle(QStringLiteral("新增 - 抽奖名单"));
+    setWindowTitle(tr("新增 - 抽奖名单"));
     m_nameEdit = new QLineEdit(this);
     m_nameEdit->setObjectName(QStringLiteral("nameEdit"));
     m_nameEdit->setMaxLength(255);
@@ -25,31 +25,28 @@ AddParticipantDialog::AddParticipantDialog(QWidget *parent) : QDialog(parent) {
     m_remarkEdit->setMaxLength(255);
     m_diffNumEdit = new QLineEdit(QStringLiteral("0"), this);
     m_diffNumEdit->setObjectName(QStringLiteral("diffNumEdit"));
-    m_diffNumEdit->setToolTip(QStringLiteral("用于对抽奖条件进行筛选的标识号码"));
-    editorparts::makeDigitsOnly(m_diffNumEdit);
+    editorparts::makeDiffNumEdit(m_diffNumEdit);
     m_photoStateEdit = new QLineEdit(QStringLiteral("no"), this);
     m_photoStateEdit->setObjectName(QStringLiteral("photoStateEdit"));
     m_photoStateEdit->hide();
     m_pictureBox = new PictureBox(this);
-    m_photoToolbar = editorparts::makePhotoToolbar(
-        this, m_pictureBox, m_photoStateEdit, QStringLiteral("AddParticipantDialog"),
-        QStringLiteral("图片文件 (*.jpg *.gif *.bmp *.jpeg *.png)"));
-    m_addButton = new QPushButton(QStringLiteral("添加"), this);
+    m_photoToolbar = editorparts::makePhotoToolbar(this, m_pictureBox, m_photoStateEdit,
+                                                   QStringLiteral("AddParticipantDialog"),
+                                                   tr("图片文件 (*.jpg *.gif *.bmp *.jpeg *.png)"));
+    m_addButton = new QPushButton(tr("添加"), this);
     m_addButton->setObjectName(QStringLiteral("addButton"));
-    m_cancelButton = new QPushButton(QStringLiteral("取消"), this);
+    m_cancelButton = new QPushButton(tr("取消"), this);
     m_addButton->setDefault(true);
 
     auto *form = new QFormLayout;
-    form->addRow(QStringLiteral("抽奖名单："), m_nameEdit);
-    form->addRow(QStringLiteral("备注信息："), m_remarkEdit);
-    form->addRow(QStringLiteral("区分编号："), m_diffNumEdit);
+    editorparts::addParticipantRows(form, m_nameEdit, m_remarkEdit, m_diffNumEdit);
     auto *picture = new QVBoxLayout;
     picture->addWidget(m_pictureBox);
     picture->addWidget(m_photoToolbar);
     auto *top = new QHBoxLayout;
     top->addLayout(form, 1);
     top->addLayout(picture);
-    auto *hint = new QLabel(QStringLiteral("提示：如您只抽取文字信息，照片可以保留为空！"), this);
+    auto *hint = new QLabel(tr("提示：如您只抽取文字信息，照片可以保留为空！"), this);
     hint->setStyleSheet(QStringLiteral("color:#8a5a00;"));
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(hint, 1);
@@ -67,14 +64,13 @@ void AddParticipantDialog::addParticipant() {
     const QString name = m_nameEdit->text().trimmed();
     const QString remark = m_remarkEdit->text().trimmed();
     if (name.isEmpty()) {
-        ui().message(QStringLiteral("请输入抽奖名单!"), MsgStyle::Information, titles::notice);
+        ui().message(editorparts::missingNameMessage(), MsgStyle::Information, titles::notice);
         m_nameEdit->setFocus();
         return;
     }
     if (store::isDuplicate(QStringLiteral("UserList"), QStringLiteral("UserName"),
                            QStringLiteral("UserPart"), name, remark, 0)) {
-        ui().message(QStringLiteral("名单重复,已经存在同样的人员信息"), MsgStyle::Critical,
-                     QStringLiteral("新增失败"));
+        ui().message(editorparts::duplicateMessage(), MsgStyle::Critical, tr("新增失败"));
         return;
     }
     const QString diff = m_diffNumEdit->text().trimmed();

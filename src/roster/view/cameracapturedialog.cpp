@@ -16,20 +16,24 @@
 #include <QVideoWidget>
 
 #include "core/appstate.h"
+#include "core/language.h"
 #include "core/logging.h"
 #include "roster/photoimport.h"
 
 namespace {
-const QString kTake = QStringLiteral("拍照");
-const QString kSave = QStringLiteral("保存");
-const QString kCancel = QStringLiteral("取消");
-const QString kRetake = QStringLiteral("重拍");
-const QString kOpening = QStringLiteral("正在开启摄像头...");
+const TranslatedText kTake{"CameraCaptureDialog", QT_TRANSLATE_NOOP("CameraCaptureDialog", "拍照")};
+const TranslatedText kSave{"CameraCaptureDialog", QT_TRANSLATE_NOOP("CameraCaptureDialog", "保存")};
+const TranslatedText kCancel{"CameraCaptureDialog",
+                             QT_TRANSLATE_NOOP("CameraCaptureDialog", "取消")};
+const TranslatedText kRetake{"CameraCaptureDialog",
+                             QT_TRANSLATE_NOOP("CameraCaptureDialog", "重拍")};
+const TranslatedText kOpening{"CameraCaptureDialog",
+                              QT_TRANSLATE_NOOP("CameraCaptureDialog", "正在开启摄像头...")};
 constexpr QSize kScreenSize(600, 450);
 }  // namespace
 
 CameraCaptureDialog::CameraCaptureDialog(QWidget *parent) : QDialog(parent) {
-    setWindowTitle(QStringLiteral("拍照"));
+    setWindowTitle(tr("拍照"));
     m_screen = new QWidget(this);
     m_screen->setFixedSize(kScreenSize);
     m_screen->setStyleSheet(QStringLiteral("background:#202024;"));
@@ -109,7 +113,7 @@ bool CameraCaptureDialog::openCamera() {
 }
 
 void CameraCaptureDialog::showCameraFailure() {
-    m_statusLabel->setText(QStringLiteral("打开摄像头失败..."));
+    m_statusLabel->setText(tr("打开摄像头失败..."));
     m_statusLabel->show();
     m_captureButton->setEnabled(false);
 }

@@ -21,8 +21,8 @@
 #include "core/ui.h"
 
 ExcelImportDialog::ExcelImportDialog(const QString &path, QWidget *parent)
-    : ImportDialog(QStringLiteral("文件正在导入中，确认要退出么？"), parent) {
-    setWindowTitle(QStringLiteral("导入Excel"));
+    : ImportDialog(fileImportQuestion(), parent) {
+    setWindowTitle(tr("导入Excel"));
     resize(760, 560);
     m_fileLabel = new QLabel(path, this);
     m_fileLabel->setWordWrap(true);
@@ -30,26 +30,24 @@ ExcelImportDialog::ExcelImportDialog(const QString &path, QWidget *parent)
     m_sheetList->setObjectName(QStringLiteral("sheetList"));
     m_columnList = new QTreeWidget(this);
     m_columnList->setObjectName(QStringLiteral("columnList"));
-    m_columnList->setHeaderLabels({QStringLiteral("选择"), QStringLiteral("字段")});
+    m_columnList->setHeaderLabels({tr("选择"), tr("字段")});
     m_columnList->setRootIsDecorated(false);
-    m_headerRowBox = new QCheckBox(QStringLiteral("导入的表格中第一行包含了标题"), this);
+    m_headerRowBox = new QCheckBox(tr("导入的表格中第一行包含了标题"), this);
     m_headerRowBox->setObjectName(QStringLiteral("headerRowBox"));
-    m_headerRowHint = new QLabel(QStringLiteral("（勾选后将从Excel第2行开始导入）"), this);
+    m_headerRowHint = new QLabel(tr("（勾选后将从Excel第2行开始导入）"), this);
     m_separatorEdit = new QLineEdit(QStringLiteral(" "), this);
     m_separatorEdit->setMaxLength(3);
     m_separatorEdit->setFixedWidth(60);
-    m_appendButton = new QRadioButton(QStringLiteral("导入的名单追加到原有名单之后"), this);
+    m_appendButton = new QRadioButton(appendCaption(), this);
     m_appendButton->setObjectName(QStringLiteral("appendButton"));
-    m_replaceButton = new QRadioButton(QStringLiteral("完全替换原有名单"), this);
+    m_replaceButton = new QRadioButton(replaceCaption(), this);
     m_replaceButton->setObjectName(QStringLiteral("replaceButton"));
     checkDefaultMode(m_appendButton, m_replaceButton);
-    m_previewBox = new QGroupBox(QStringLiteral("导入后信息样式（演示前3条记录）"), this);
+    m_previewBox = new QGroupBox(tr("导入后信息样式（演示前3条记录）"), this);
     m_previewBox->setObjectName(QStringLiteral("previewBox"));
     m_previewList = new QTreeWidget(m_previewBox);
     m_previewList->setObjectName(QStringLiteral("previewList"));
-    m_previewList->setHeaderLabels({QStringLiteral("排序"),
-                                    QStringLiteral("抽奖名单(抽奖时滚动的内容)"),
-                                    QStringLiteral("备注")});
+    m_previewList->setHeaderLabels({tr("排序"), tr("抽奖名单(抽奖时滚动的内容)"), tr("备注")});
     m_previewList->setRootIsDecorated(false);
     m_previewList->setColumnWidth(0, 50);
     m_previewList->setColumnWidth(1, 260);
@@ -60,14 +58,14 @@ ExcelImportDialog::ExcelImportDialog(const QString &path, QWidget *parent)
     m_resultLabel = new QLabel(this);
     m_resultLabel->setObjectName(QStringLiteral("resultLabel"));
     m_resultLabel->hide();
-    m_startButton = new QPushButton(QStringLiteral("开始导入"), this);
+    m_startButton = new QPushButton(tr("开始导入"), this);
     m_startButton->setObjectName(QStringLiteral("startButton"));
-    m_cancelButton = new QPushButton(QStringLiteral("取消"), this);
+    m_cancelButton = new QPushButton(tr("取消"), this);
     m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
-    m_okButton = new QPushButton(QStringLiteral("确定"), this);
+    m_okButton = new QPushButton(tr("确定"), this);
     m_okButton->setObjectName(QStringLiteral("okButton"));
     m_okButton->hide();
-    m_templateButton = new QPushButton(QStringLiteral("打开excel模板"), this);
+    m_templateButton = new QPushButton(tr("打开excel模板"), this);
     m_templateButton->setObjectName(QStringLiteral("templateButton"));
     m_startButton->setEnabled(false);
     buildLayout();
@@ -93,16 +91,15 @@ ExcelImportDialog::ExcelImportDialog(const QString &path, QWidget *parent)
 
 void ExcelImportDialog::buildLayout() {
     auto *grid = new QGridLayout;
-    grid->addWidget(new QLabel(QStringLiteral("工作表："), this), 0, 0);
-    grid->addWidget(new QLabel(QStringLiteral("勾选组成抽奖名单的列（其余列合并为备注）："), this),
-                    0, 1);
+    grid->addWidget(new QLabel(tr("工作表："), this), 0, 0);
+    grid->addWidget(new QLabel(tr("勾选组成抽奖名单的列（其余列合并为备注）："), this), 0, 1);
     grid->addWidget(m_sheetList, 1, 0);
     grid->addWidget(m_columnList, 1, 1);
     grid->setColumnStretch(1, 2);
     auto *options = new QGridLayout;
     options->addWidget(m_headerRowBox, 0, 0);
     options->addWidget(m_headerRowHint, 0, 1);
-    options->addWidget(new QLabel(QStringLiteral("多列信息合并后中间穿插字符："), this), 1, 0);
+    options->addWidget(new QLabel(tr("多列信息合并后中间穿插字符："), this), 1, 0);
     options->addWidget(m_separatorEdit, 1, 1, Qt::AlignLeft);
     options->addWidget(m_appendButton, 2, 0);
     options->addWidget(m_replaceButton, 2, 1);
@@ -210,8 +207,8 @@ void ExcelImportDialog::sheetRead() {
     m_sheet = std::move(m_readSheet);
     m_readSheet = workbook::Sheet();
     if (m_sheet.columns > 10)
-        ui().message(QStringLiteral("Excel中存在过多的列，这样会导致导入速度十分缓慢\n"
-                                    "建议您修改Excel文件删除无用列再进行导入！"),
+        ui().message(tr("Excel中存在过多的列，这样会导致导入速度十分缓慢\n"
+                        "建议您修改Excel文件删除无用列再进行导入！"),
                      MsgStyle::Exclamation, titles::warning);
     listColumns();
     emit sheetReadFinished(true);
@@ -251,7 +248,7 @@ void ExcelImportDialog::preview() {
         item->setText(2, part);
     }
     auto *more = new QTreeWidgetItem(m_previewList);
-    more->setText(1, QStringLiteral("以下省略更多内容..."));
+    more->setText(1, tr("以下省略更多内容..."));
     m_startButton->setEnabled(anyName);
 }
 
@@ -281,7 +278,7 @@ void ExcelImportDialog::jobFinished(RosterImport::Outcome outcome) {
         m_duplicatesEdit->show();
         m_previewList->hide();
     }
-    if (job()->duplicates() > 0) m_previewBox->setTitle(QStringLiteral("重复数据"));
+    if (job()->duplicates() > 0) m_previewBox->setTitle(tr("重复数据"));
     m_resultLabel->setText(resultText());
     m_resultLabel->show();
     m_okButton->show();

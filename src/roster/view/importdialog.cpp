@@ -37,7 +37,7 @@ bool ImportDialog::runJob(std::unique_ptr<RosterImport> job) {
         m_progressBar->setValue(m_progressBar->maximum());
         if (outcome == RosterImport::Outcome::Finished) emit events().rosterChanged();
         if (outcome == RosterImport::Outcome::Failed)
-            showFailure(QStringLiteral("导入发生错误,错误原因如下\n") + m_job->errorText());
+            showFailure(tr("导入发生错误,错误原因如下\n") + m_job->errorText());
         jobFinished(outcome);
     });
     m_progressBar->setRange(0, 1000);
@@ -49,6 +49,18 @@ bool ImportDialog::runJob(std::unique_ptr<RosterImport> job) {
         return false;
     }
     return true;
+}
+
+QString ImportDialog::fileImportQuestion() {
+    return tr("文件正在导入中，确认要退出么？");
+}
+
+QString ImportDialog::appendCaption() {
+    return tr("导入的名单追加到原有名单之后");
+}
+
+QString ImportDialog::replaceCaption() {
+    return tr("完全替换原有名单");
 }
 
 void ImportDialog::waitForJob() {
@@ -96,10 +108,8 @@ bool ImportDialog::confirmReplace(const QString &title) {
 }
 
 QString ImportDialog::resultText() const {
-    QString text = QStringLiteral("共导入数据%1条，屏蔽重复数据%2条")
-                       .arg(m_job->imported())
-                       .arg(m_job->duplicates());
-    if (m_job->skipped() > 0)
-        text += QStringLiteral("，跳过空白或无法识别的数据%1条").arg(m_job->skipped());
+    QString text =
+        tr("共导入数据%1条，屏蔽重复数据%2条").arg(m_job->imported()).arg(m_job->duplicates());
+    if (m_job->skipped() > 0) text += tr("，跳过空白或无法识别的数据%1条").arg(m_job->skipped());
     return text;
 }

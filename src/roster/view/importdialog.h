@@ -37,6 +37,10 @@ protected:
     // Checks "append" when someone is on the roster, else "replace": a late import during the
     // party must not wipe the evening's results by default.
     static void checkDefaultMode(QRadioButton *append, QRadioButton *replace);
+    // The close question of the file imports, and their append and replace captions.
+    static QString fileImportQuestion();
+    static QString appendCaption();
+    static QString replaceCaption();
     // Before a replace: asks with what would go and writes the snapshot; false stops the job.
     static bool confirmReplace(const QString &title = titles::notice);
 

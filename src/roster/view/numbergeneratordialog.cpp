@@ -18,12 +18,13 @@
 #include "roster/view/editorparts.h"
 
 namespace {
-const QString kMaskedHeading = QStringLiteral("屏蔽数据如下：\n");
+const TranslatedText kMaskedHeading{"NumberGeneratorDialog",
+                                    QT_TRANSLATE_NOOP("NumberGeneratorDialog", "屏蔽数据如下：\n")};
 }  // namespace
 
 NumberGeneratorDialog::NumberGeneratorDialog(QWidget *parent)
-    : ImportDialog(QStringLiteral("编号正在生成当中...，确认要退出么？"), parent) {
-    setWindowTitle(QStringLiteral("编号生成"));
+    : ImportDialog(tr("编号正在生成当中...，确认要退出么？"), parent) {
+    setWindowTitle(tr("编号生成"));
     resize(520, 480);
     QWidget *optionsBox = buildOptions();
 
@@ -39,10 +40,10 @@ NumberGeneratorDialog::NumberGeneratorDialog(QWidget *parent)
     m_resultLabel = new QLabel(this);
     m_resultLabel->setObjectName(QStringLiteral("resultLabel"));
     m_resultLabel->hide();
-    m_startButton = new QPushButton(QStringLiteral("开始生成"), this);
+    m_startButton = new QPushButton(tr("开始生成"), this);
     m_startButton->setObjectName(QStringLiteral("startButton"));
-    m_cancelButton = new QPushButton(QStringLiteral("取消"), this);
-    m_okButton = new QPushButton(QStringLiteral("确定"), this);
+    m_cancelButton = new QPushButton(tr("取消"), this);
+    m_okButton = new QPushButton(tr("确定"), this);
     m_okButton->setObjectName(QStringLiteral("okButton"));
     m_okButton->hide();
     auto *buttons = new QHBoxLayout;
@@ -59,9 +60,9 @@ NumberGeneratorDialog::NumberGeneratorDialog(QWidget *parent)
     for (QLineEdit *edit : {m_prefixEdit, m_suffixEdit, m_padEdit})
         connect(edit, &QLineEdit::textEdited, this, &NumberGeneratorDialog::showSample);
     connect(m_startEdit, &QLineEdit::textEdited, this,
-            [this] { boundEdited(m_startEdit, QStringLiteral("起始数值不能为空")); });
+            [this] { boundEdited(m_startEdit, tr("起始数值不能为空")); });
     connect(m_endEdit, &QLineEdit::textEdited, this,
-            [this] { boundEdited(m_endEdit, QStringLiteral("终止数值不能为空！")); });
+            [this] { boundEdited(m_endEdit, tr("终止数值不能为空！")); });
     connect(m_padBox, &QCheckBox::toggled, m_padEdit, &QLineEdit::setEnabled);
     connect(m_startButton, &QPushButton::clicked, this, &NumberGeneratorDialog::startGenerating);
     connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
@@ -70,11 +71,11 @@ NumberGeneratorDialog::NumberGeneratorDialog(QWidget *parent)
 }
 
 QWidget *NumberGeneratorDialog::buildOptions() {
-    auto *box = new QGroupBox(QStringLiteral("编号选项参数"), this);
+    auto *box = new QGroupBox(tr("编号选项参数"), this);
     m_prefixEdit = new QLineEdit(QStringLiteral("ST"), box);
-    m_prefixEdit->setToolTip(QStringLiteral("如不需前缀可不填写，保留为空"));
+    m_prefixEdit->setToolTip(tr("如不需前缀可不填写，保留为空"));
     m_suffixEdit = new QLineEdit(QStringLiteral("E"), box);
-    m_suffixEdit->setToolTip(QStringLiteral("如不需后缀可不填写，保留为空"));
+    m_suffixEdit->setToolTip(tr("如不需后缀可不填写，保留为空"));
     m_startEdit = new QLineEdit(QStringLiteral("1"), box);
     m_startEdit->setObjectName(QStringLiteral("startEdit"));
     m_endEdit = new QLineEdit(QStringLiteral("1000"), box);
@@ -83,15 +84,15 @@ QWidget *NumberGeneratorDialog::buildOptions() {
         edit->setMaxLength(5);
         editorparts::makeDigitsOnly(edit);
     }
-    m_padBox = new QCheckBox(QStringLiteral("编号位数不足则补充字符"), box);
+    m_padBox = new QCheckBox(tr("编号位数不足则补充字符"), box);
     m_padBox->setChecked(true);
     m_padEdit = new QLineEdit(QStringLiteral("0"), box);
     m_padEdit->setMaxLength(1);
     m_padEdit->setFixedWidth(40);
     m_maskEdit = new QLineEdit(box);
     m_maskEdit->setObjectName(QStringLiteral("maskEdit"));
-    m_maskEdit->setToolTip(QStringLiteral("生成的编号中将不包含此处录入的数字"));
-    auto *maskHint = new QLabel(QStringLiteral("提示：多组屏蔽数字可以用逗号隔开 如(4,13)"), box);
+    m_maskEdit->setToolTip(tr("生成的编号中将不包含此处录入的数字"));
+    auto *maskHint = new QLabel(tr("提示：多组屏蔽数字可以用逗号隔开 如(4,13)"), box);
     maskHint->setStyleSheet(QStringLiteral("color:#8a5a00;"));
     m_sampleLabel = new QLabel(box);
     m_sampleLabel->setObjectName(QStringLiteral("sampleLabel"));
@@ -101,14 +102,14 @@ QWidget *NumberGeneratorDialog::buildOptions() {
     pad->addWidget(m_padEdit);
     pad->addStretch();
     auto *form = new QFormLayout(box);
-    form->addRow(QStringLiteral("编号前缀："), m_prefixEdit);
-    form->addRow(QStringLiteral("编号后缀："), m_suffixEdit);
-    form->addRow(QStringLiteral("开始数值："), m_startEdit);
-    form->addRow(QStringLiteral("结束数值："), m_endEdit);
+    form->addRow(tr("编号前缀："), m_prefixEdit);
+    form->addRow(tr("编号后缀："), m_suffixEdit);
+    form->addRow(tr("开始数值："), m_startEdit);
+    form->addRow(tr("结束数值："), m_endEdit);
     form->addRow(pad);
-    form->addRow(QStringLiteral("屏蔽数字："), m_maskEdit);
+    form->addRow(tr("屏蔽数字："), m_maskEdit);
     form->addRow(maskHint);
-    form->addRow(QStringLiteral("效果演示："), m_sampleLabel);
+    form->addRow(tr("效果演示："), m_sampleLabel);
     return box;
 }
 
@@ -137,8 +138,7 @@ bool NumberGeneratorDialog::showSample() {
     const QString text = numbergen::previewText(options());
     m_sampleLabel->setText(text);
     if (text.isEmpty()) {
-        ui().message(QStringLiteral("开始数值只能小于终止数值!"), MsgStyle::Critical,
-                     titles::error);
+        ui().message(tr("开始数值只能小于终止数值!"), MsgStyle::Critical, titles::error);
         return false;
     }
     return true;
@@ -146,21 +146,19 @@ bool NumberGeneratorDialog::showSample() {
 
 bool NumberGeneratorDialog::confirmGenerating() {
     if (!numbergen::keepsAnyCode(options())) {
-        ui().message(numbergen::kNoCodeLeftMessage,
-                     MsgStyle::Exclamation, titles::warning);
+        ui().message(numbergen::kNoCodeLeftMessage, MsgStyle::Exclamation, titles::warning);
         m_maskEdit->setFocus();
         return false;
     }
-    const QString title = QStringLiteral("重要提示");
+    const QString title = tr("重要提示");
     if (roster::storedRecords(store::mainConn()).isEmpty())
-        return ui().question(
-            QStringLiteral("生成数字编号将会完全覆盖原来名单\n您确认要生成编号么？"), title);
+        return ui().question(tr("生成数字编号将会完全覆盖原来名单\n您确认要生成编号么？"), title);
     return confirmReplace(title);
 }
 
 void NumberGeneratorDialog::showGenerating(bool generating) {
-    for (QWidget *w : QList<QWidget *>{m_prefixEdit, m_suffixEdit, m_startEdit, m_endEdit, m_padBox,
-                                       m_maskEdit})
+    for (QWidget *w :
+         QList<QWidget *>{m_prefixEdit, m_suffixEdit, m_startEdit, m_endEdit, m_padBox, m_maskEdit})
         w->setEnabled(!generating);
     m_padEdit->setEnabled(!generating && m_padBox->isChecked());
     m_startButton->setVisible(!generating);
@@ -197,6 +195,6 @@ void NumberGeneratorDialog::jobFinished(RosterImport::Outcome outcome) {
     if (outcome != RosterImport::Outcome::Finished) return;
     showMaskedCodes();
     m_resultLabel->setText(
-        QStringLiteral("共导入%1条，屏蔽%2条").arg(job()->imported()).arg(job()->duplicates()));
+        tr("共导入%1条，屏蔽%2条").arg(job()->imported()).arg(job()->duplicates()));
     m_resultLabel->show();
 }

@@ -15,56 +15,53 @@
 
 #include "core/ui.h"
 
-PhotoImportDialog::PhotoImportDialog(QWidget *parent)
-    : ImportDialog(QStringLiteral("文件正在导入中，确认要退出么？"), parent) {
-    setWindowTitle(QStringLiteral("导入照片"));
+PhotoImportDialog::PhotoImportDialog(QWidget *parent) : ImportDialog(fileImportQuestion(), parent) {
+    setWindowTitle(tr("导入照片"));
     resize(560, 440);
-    auto *chooseBox = new QGroupBox(QStringLiteral("选择照片目录"), this);
-    m_chooseButton = new QPushButton(QStringLiteral("选择.."), chooseBox);
+    auto *chooseBox = new QGroupBox(tr("选择照片目录"), this);
+    m_chooseButton = new QPushButton(tr("选择.."), chooseBox);
     m_chooseButton->setObjectName(QStringLiteral("chooseButton"));
-    auto *selectAllHint = new QLabel(QStringLiteral("可以按CTRL+A全选要导入的照片"), chooseBox);
-    auto *namingHint =
-        new QLabel(QStringLiteral("参考格式：(张三.jpg 或 张三,宣传部.jpg) "), chooseBox);
+    auto *selectAllHint = new QLabel(tr("可以按CTRL+A全选要导入的照片"), chooseBox);
+    auto *namingHint = new QLabel(tr("参考格式：(张三.jpg 或 张三,宣传部.jpg) "), chooseBox);
     namingHint->setStyleSheet(QStringLiteral("color:#8a5a00;"));
     auto *choose = new QGridLayout(chooseBox);
     choose->addWidget(m_chooseButton, 0, 0);
     choose->addWidget(selectAllHint, 0, 1);
     choose->addWidget(namingHint, 1, 1);
 
-    m_shrinkBox = new QCheckBox(QStringLiteral("启用智能图片压缩"), this);
+    m_shrinkBox = new QCheckBox(tr("启用智能图片压缩"), this);
     m_shrinkBox->setChecked(true);
-    m_shrinkHint = new QLabel(QStringLiteral("(如果您的图片较大,建议启用)"), this);
+    m_shrinkHint = new QLabel(tr("(如果您的图片较大,建议启用)"), this);
     m_sizeSlider = new QSlider(Qt::Horizontal, this);
     m_sizeSlider->setObjectName(QStringLiteral("sizeSlider"));
     m_sizeSlider->setRange(1, 10);
     m_sizeSlider->setValue(8);
-    m_sizeLabel = new QLabel(QStringLiteral("像素范围(800x800)内"), this);
+    m_sizeLabel = new QLabel(tr("像素范围(800x800)内"), this);
     m_sizeLabel->setObjectName(QStringLiteral("sizeLabel"));
-    m_rawPhotosHint = new QLabel(QStringLiteral("如果您导入的照片未经处理,建议启用压缩"), this);
+    m_rawPhotosHint = new QLabel(tr("如果您导入的照片未经处理,建议启用压缩"), this);
     m_rawPhotosHint->setStyleSheet(QStringLiteral("color:#8a5a00;"));
-    m_appendButton = new QRadioButton(QStringLiteral("追加名单"), this);
-    m_appendButton->setToolTip(QStringLiteral("导入的名单将追加到原有名单之后"));
+    m_appendButton = new QRadioButton(tr("追加名单"), this);
+    m_appendButton->setToolTip(tr("导入的名单将追加到原有名单之后"));
     m_appendButton->setChecked(true);
-    m_replaceButton = new QRadioButton(QStringLiteral("覆盖名单"), this);
-    m_replaceButton->setToolTip(QStringLiteral("导入的名单将完全替换原有名单"));
+    m_replaceButton = new QRadioButton(tr("覆盖名单"), this);
+    m_replaceButton->setToolTip(tr("导入的名单将完全替换原有名单"));
     m_logEdit = new QPlainTextEdit(this);
     m_logEdit->setObjectName(QStringLiteral("logEdit"));
     m_logEdit->setReadOnly(true);
     m_logEdit->hide();
-    m_statusLabel = new QLabel(QStringLiteral("请选择照片"), this);
+    m_statusLabel = new QLabel(tr("请选择照片"), this);
     m_statusLabel->setObjectName(QStringLiteral("statusLabel"));
-    m_startButton = new QPushButton(QStringLiteral("开始"), this);
+    m_startButton = new QPushButton(tr("开始"), this);
     m_startButton->setObjectName(QStringLiteral("startButton"));
-    m_cancelButton = new QPushButton(QStringLiteral("取消"), this);
-    m_okButton = new QPushButton(QStringLiteral("确定"), this);
+    m_cancelButton = new QPushButton(tr("取消"), this);
+    m_okButton = new QPushButton(tr("确定"), this);
     m_okButton->hide();
     m_startButton->setEnabled(false);
     buildLayout(chooseBox);
 
     connect(m_shrinkBox, &QCheckBox::toggled, m_sizeSlider, &QSlider::setEnabled);
-    connect(m_sizeSlider, &QSlider::valueChanged, this, [this](int value) {
-        m_sizeLabel->setText(QStringLiteral("像素范围(%1x%1)内").arg(value * 100));
-    });
+    connect(m_sizeSlider, &QSlider::valueChanged, this,
+            [this](int value) { m_sizeLabel->setText(tr("像素范围(%1x%1)内").arg(value * 100)); });
     connect(m_chooseButton, &QPushButton::clicked, this, &PhotoImportDialog::chooseFiles);
     connect(m_startButton, &QPushButton::clicked, this, &PhotoImportDialog::startImport);
     connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
@@ -98,13 +95,13 @@ void PhotoImportDialog::buildLayout(QWidget *chooseBox) {
 }
 
 void PhotoImportDialog::chooseFiles() {
-    const QStringList files = ui().openFiles(
-        QStringLiteral("导入照片"), QString(),
-        QStringLiteral("所有图片文件 (*.jpg *.gif *.jpeg *.png);;JPG Files(*.jpg *.jpeg);;"
-                       "GIF Files(*.gif);;PNG Files(*.png)"));
+    const QStringList files =
+        ui().openFiles(tr("导入照片"), QString(),
+                       tr("所有图片文件 (*.jpg *.gif *.jpeg *.png);;JPG Files(*.jpg *.jpeg);;"
+                          "GIF Files(*.gif);;PNG Files(*.png)"));
     if (files.isEmpty()) return;
     m_files = files;
-    m_statusLabel->setText(QStringLiteral("共加载图片%1张，请点开始导入。").arg(files.size()));
+    m_statusLabel->setText(tr("共加载图片%1张，请点开始导入。").arg(files.size()));
     m_startButton->setEnabled(true);
 }
 
@@ -126,7 +123,7 @@ void PhotoImportDialog::startImport() {
     auto photos = std::make_unique<PhotoImport>(
         m_files, m_shrinkBox->isChecked(), m_sizeSlider->value(), m_replaceButton->isChecked());
     connect(photos.get(), &RosterImport::progress, this, [this](qint64 done, qint64 total) {
-        m_statusLabel->setText(QStringLiteral("导入数据中......,完成%1/%2").arg(done).arg(total));
+        m_statusLabel->setText(tr("导入数据中......,完成%1/%2").arg(done).arg(total));
         m_logEdit->setPlainText(job()->log().mid(1));
     });
     // A job that could not start has said why; the operator may try again.
@@ -138,11 +135,10 @@ void PhotoImportDialog::jobFinished(RosterImport::Outcome outcome) {
     if (outcome != RosterImport::Outcome::Finished) return;
     QString text = job()->log().mid(1);
     if (!text.isEmpty()) text += QLatin1Char('\n');
-    text += QStringLiteral("导入名单%1条\n重复%2条,请点确定按钮刷新")
+    text += tr("导入名单%1条\n重复%2条,请点确定按钮刷新")
                 .arg(job()->imported())
                 .arg(job()->duplicates());
-    if (job()->skipped() > 0)
-        text += QStringLiteral("\n文件名中没有姓名,跳过%1张").arg(job()->skipped());
+    if (job()->skipped() > 0) text += tr("\n文件名中没有姓名,跳过%1张").arg(job()->skipped());
     m_logEdit->setPlainText(text);
     m_logEdit->verticalScrollBar()->setValue(m_logEdit->verticalScrollBar()->maximum());
     m_statusLabel->hide();

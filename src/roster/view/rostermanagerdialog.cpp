@@ -31,15 +31,21 @@ namespace {
 enum Column { ColTick, ColPlace, ColName, ColPart, ColPhoto, ColStatus, ColDiff };
 constexpr int kIdRole = Qt::UserRole + 1;
 
-const QStringList kHeaders{
-    QStringLiteral("选择"),    QStringLiteral("排序"), QStringLiteral("抽奖名单(抽奖时滚动的内容)"),
-    QStringLiteral("备注"),    QStringLiteral("照片"), QStringLiteral("状态"),
-    QStringLiteral("区分编号")};
+// The list's column titles, also the header line of the export.
+QStringList headers() {
+    return {RosterManagerDialog::tr("选择"),
+            RosterManagerDialog::tr("排序"),
+            RosterManagerDialog::tr("抽奖名单(抽奖时滚动的内容)"),
+            RosterManagerDialog::tr("备注"),
+            RosterManagerDialog::tr("照片"),
+            RosterManagerDialog::tr("状态"),
+            RosterManagerDialog::tr("区分编号")};
+}
 
 }  // namespace
 
 RosterManagerDialog::RosterManagerDialog(QWidget *parent) : QDialog(parent) {
-    setWindowTitle(QStringLiteral("抽奖名单 - 管理"));
+    setWindowTitle(tr("抽奖名单 - 管理"));
     resize(1080, 660);
     auto *layout = new QHBoxLayout(this);
     layout->addWidget(buildList(), 1);
@@ -66,15 +72,14 @@ QToolBar *RosterManagerDialog::buildToolbar(QWidget *parent) {
         void (RosterManagerDialog::*handler)();
     };
     const QList<ToolAction> actions{
-        {QStringLiteral("  全选"), "tickAllAction", &RosterManagerDialog::toggleAllTicks},
-        {QStringLiteral("增加名单"), "addAction", &RosterManagerDialog::addParticipant},
-        {QStringLiteral("删除名单"), "deleteAction", &RosterManagerDialog::deleteTicked},
+        {tr("  全选"), "tickAllAction", &RosterManagerDialog::toggleAllTicks},
+        {tr("增加名单"), "addAction", &RosterManagerDialog::addParticipant},
+        {tr("删除名单"), "deleteAction", &RosterManagerDialog::deleteTicked},
         {QString(), nullptr, nullptr},
-        {QStringLiteral("导入Excel"), "importExcelAction", &RosterManagerDialog::importExcel},
-        {QStringLiteral("导入txt   "), "importTextAction", &RosterManagerDialog::importText},
-        {QStringLiteral("导入照片"), "importPhotosAction", &RosterManagerDialog::importPhotos},
-        {QStringLiteral("生成编号"), "generateNumbersAction",
-         &RosterManagerDialog::generateNumbers}};
+        {tr("导入Excel"), "importExcelAction", &RosterManagerDialog::importExcel},
+        {tr("导入txt   "), "importTextAction", &RosterManagerDialog::importText},
+        {tr("导入照片"), "importPhotosAction", &RosterManagerDialog::importPhotos},
+        {tr("生成编号"), "generateNumbersAction", &RosterManagerDialog::generateNumbers}};
     auto *toolbar = new QToolBar(parent);
     toolbar->setToolButtonStyle(Qt::ToolButtonTextOnly);
     for (const ToolAction &action : actions) {
@@ -95,16 +100,16 @@ QWidget *RosterManagerDialog::buildList() {
 
     m_searchEdit = new QLineEdit(panel);
     m_searchEdit->setObjectName(QStringLiteral("searchEdit"));
-    m_searchEdit->setPlaceholderText(QStringLiteral("输入名单关键字"));
+    m_searchEdit->setPlaceholderText(tr("输入名单关键字"));
     m_clearSearchButton = new QPushButton(QStringLiteral("×"), panel);
-    m_clearSearchButton->setToolTip(QStringLiteral("清除查询关键字"));
+    m_clearSearchButton->setToolTip(tr("清除查询关键字"));
     m_clearSearchButton->setFixedWidth(28);
-    m_searchButton = new QPushButton(QStringLiteral("查找名单"), panel);
+    m_searchButton = new QPushButton(tr("查找名单"), panel);
     m_searchButton->setObjectName(QStringLiteral("searchButton"));
     m_sortCombo = new QComboBox(panel);
     m_sortCombo->setObjectName(QStringLiteral("sortCombo"));
-    m_sortCombo->addItems({QStringLiteral("默认排序"), QStringLiteral("按备注信息排序"),
-                           QStringLiteral("按区分编号排序"), QStringLiteral("按状态排序")});
+    m_sortCombo->addItems(
+        {tr("默认排序"), tr("按备注信息排序"), tr("按区分编号排序"), tr("按状态排序")});
     auto *search = new QHBoxLayout;
     search->addWidget(m_searchEdit, 1);
     search->addWidget(m_clearSearchButton);
@@ -113,7 +118,7 @@ QWidget *RosterManagerDialog::buildList() {
 
     m_participantList = new QTreeWidget(panel);
     m_participantList->setObjectName(QStringLiteral("participantList"));
-    m_participantList->setHeaderLabels(kHeaders);
+    m_participantList->setHeaderLabels(headers());
     m_participantList->setRootIsDecorated(false);
     m_participantList->setUniformRowHeights(true);
     m_participantList->setAlternatingRowColors(true);
@@ -134,15 +139,15 @@ QWidget *RosterManagerDialog::buildList() {
     m_gaveUpLabel->setObjectName(QStringLiteral("gaveUpLabel"));
     m_pageLabel = new QLabel(panel);
     m_pageLabel->setObjectName(QStringLiteral("pageLabel"));
-    m_tickAllBox = new QCheckBox(QStringLiteral("全选"), panel);
+    m_tickAllBox = new QCheckBox(tr("全选"), panel);
     m_tickAllBox->setObjectName(QStringLiteral("tickAllBox"));
-    m_previousPageButton = new QPushButton(QStringLiteral("上一页"), panel);
+    m_previousPageButton = new QPushButton(tr("上一页"), panel);
     m_previousPageButton->setObjectName(QStringLiteral("previousPageButton"));
-    m_nextPageButton = new QPushButton(QStringLiteral("下一页"), panel);
+    m_nextPageButton = new QPushButton(tr("下一页"), panel);
     m_nextPageButton->setObjectName(QStringLiteral("nextPageButton"));
-    m_setDiffNumButton = new QPushButton(QStringLiteral("批量设置区分编号"), panel);
+    m_setDiffNumButton = new QPushButton(tr("批量设置区分编号"), panel);
     m_setDiffNumButton->setObjectName(QStringLiteral("setDiffNumButton"));
-    m_exportButton = new QPushButton(QStringLiteral("导出"), panel);
+    m_exportButton = new QPushButton(tr("导出"), panel);
     m_exportButton->setObjectName(QStringLiteral("exportButton"));
     auto *counters = new QHBoxLayout;
     for (QWidget *w : QList<QWidget *>{m_tickAllBox, m_totalLabel, m_wonLabel, m_gaveUpLabel})
@@ -185,33 +190,30 @@ QWidget *RosterManagerDialog::buildList() {
 }
 
 QWidget *RosterManagerDialog::buildEditor() {
-    auto *editorBox = new QGroupBox(QStringLiteral("名单编辑"), this);
+    auto *editorBox = new QGroupBox(tr("名单编辑"), this);
     editorBox->setFixedWidth(240);
     m_pictureBox = new PictureBox(editorBox);
     m_photoStateEdit = new QLineEdit(QStringLiteral("no"), editorBox);
     m_photoStateEdit->setObjectName(QStringLiteral("photoStateEdit"));
     m_photoStateEdit->hide();
-    m_photoToolbar = editorparts::makePhotoToolbar(
-        this, m_pictureBox, m_photoStateEdit, QStringLiteral("RosterManagerDialog"),
-        QStringLiteral("图片文件(*.jpg *.gif *.bmp *.jpeg *.png)"));
+    m_photoToolbar = editorparts::makePhotoToolbar(this, m_pictureBox, m_photoStateEdit,
+                                                   QStringLiteral("RosterManagerDialog"),
+                                                   tr("图片文件(*.jpg *.gif *.bmp *.jpeg *.png)"));
     m_nameEdit = new QLineEdit(editorBox);
     m_nameEdit->setObjectName(QStringLiteral("nameEdit"));
     m_remarkEdit = new QLineEdit(editorBox);
     m_remarkEdit->setObjectName(QStringLiteral("remarkEdit"));
     m_diffNumEdit = new QLineEdit(editorBox);
     m_diffNumEdit->setObjectName(QStringLiteral("diffNumEdit"));
-    m_diffNumEdit->setToolTip(QStringLiteral("用于对抽奖条件进行筛选的标识号码"));
-    editorparts::makeDigitsOnly(m_diffNumEdit);
-    m_saveButton = new QPushButton(QStringLiteral("编辑"), editorBox);
+    editorparts::makeDiffNumEdit(m_diffNumEdit);
+    m_saveButton = new QPushButton(tr("编辑"), editorBox);
     m_saveButton->setObjectName(QStringLiteral("saveButton"));
     auto *layout = new QVBoxLayout(editorBox);
     layout->addWidget(m_pictureBox, 0, Qt::AlignHCenter);
     layout->addWidget(m_photoToolbar, 0, Qt::AlignHCenter);
     auto *form = new QFormLayout;
     form->setRowWrapPolicy(QFormLayout::WrapAllRows);
-    form->addRow(QStringLiteral("抽奖名单："), m_nameEdit);
-    form->addRow(QStringLiteral("备注信息："), m_remarkEdit);
-    form->addRow(QStringLiteral("区分编号："), m_diffNumEdit);
+    editorparts::addParticipantRows(form, m_nameEdit, m_remarkEdit, m_diffNumEdit);
     layout->addLayout(form);
     layout->addWidget(m_saveButton);
     layout->addStretch();
@@ -287,10 +289,10 @@ void RosterManagerDialog::showParticipants(const QString &search, int page, int 
 }
 
 void RosterManagerDialog::updateCounters(int total, int won, int gaveUp, int pageCount) {
-    m_totalLabel->setText(QStringLiteral("总计人数：%1").arg(total));
-    m_wonLabel->setText(QStringLiteral("已中奖人数：%1").arg(won));
-    m_gaveUpLabel->setText(QStringLiteral("弃奖∶%1").arg(gaveUp));
-    m_pageLabel->setText(QStringLiteral("当前第∶%1页/ 共%2页").arg(m_page).arg(pageCount));
+    m_totalLabel->setText(tr("总计人数：%1").arg(total));
+    m_wonLabel->setText(tr("已中奖人数：%1").arg(won));
+    m_gaveUpLabel->setText(tr("弃奖∶%1").arg(gaveUp));
+    m_pageLabel->setText(tr("当前第∶%1页/ 共%2页").arg(m_page).arg(pageCount));
 }
 
 void RosterManagerDialog::loadEditor(QTreeWidgetItem *item) {
@@ -300,7 +302,7 @@ void RosterManagerDialog::loadEditor(QTreeWidgetItem *item) {
     roster::Participant participant;
     if (!roster::loadParticipant(store::mainConn(), item->data(ColTick, kIdRole).toInt(),
                                  &participant)) {
-        ui().message(QStringLiteral("找不到对应的名单"), MsgStyle::Critical, titles::error);
+        ui().message(tr("找不到对应的名单"), MsgStyle::Critical, titles::error);
         return;
     }
     const bool hasPhoto = !participant.photo.trimmed().isEmpty();
@@ -314,8 +316,7 @@ void RosterManagerDialog::loadEditor(QTreeWidgetItem *item) {
 void RosterManagerDialog::saveParticipant() {
     const QString diff = m_diffNumEdit->text().trimmed();
     if (!diff.isEmpty() && !roster::isNumeric(diff)) {
-        ui().message(QStringLiteral("“区分编号”只能填写数字"), MsgStyle::Exclamation,
-                     titles::warning);
+        ui().message(tr("“区分编号”只能填写数字"), MsgStyle::Exclamation, titles::warning);
         m_diffNumEdit->setFocus();
         selectAllText(m_diffNumEdit);
         return;
@@ -328,7 +329,7 @@ void RosterManagerDialog::saveParticipant() {
     }
     // Nobody may be nameless: the stage would scroll an empty cell and the draw could pick it.
     if (m_nameEdit->text().trimmed().isEmpty()) {
-        ui().message(QStringLiteral("请输入抽奖名单!"), MsgStyle::Information, titles::notice);
+        ui().message(editorparts::missingNameMessage(), MsgStyle::Information, titles::notice);
         m_nameEdit->setFocus();
         return;
     }
@@ -338,8 +339,7 @@ void RosterManagerDialog::saveParticipant() {
     if (store::isDuplicate(QStringLiteral("UserList"), QStringLiteral("UserName"),
                            QStringLiteral("UserPart"), m_nameEdit->text().trimmed(),
                            m_remarkEdit->text().trimmed(), id)) {
-        ui().message(QStringLiteral("名单重复,已经存在同样的人员信息"), MsgStyle::Critical,
-                     QStringLiteral("编辑失败"));
+        ui().message(editorparts::duplicateMessage(), MsgStyle::Critical, tr("编辑失败"));
         return;
     }
     roster::Participant stored;
@@ -356,7 +356,7 @@ void RosterManagerDialog::saveParticipant() {
         ui().message(error, MsgStyle::Critical, titles::error);
         return;
     }
-    ui().message(QStringLiteral("数据更新成功！"), MsgStyle::Information, titles::notice);
+    ui().message(tr("数据更新成功！"), MsgStyle::Information, titles::notice);
     showParticipants(m_searchEdit->text().trimmed(), m_page, id);
     m_participantList->setFocus();
 }
@@ -374,11 +374,10 @@ QList<int> RosterManagerDialog::tickedIds() const {
 void RosterManagerDialog::deleteTicked() {
     const QList<int> ids = tickedIds();
     if (ids.isEmpty()) {
-        ui().message(QStringLiteral("请勾选需要删除的名单!"), MsgStyle::Critical,
-                     QStringLiteral("删除失败"));
+        ui().message(tr("请勾选需要删除的名单!"), MsgStyle::Critical, tr("删除失败"));
         return;
     }
-    if (!ui().question(QStringLiteral("确认要删除选择的抽奖名单么?"), titles::warning)) return;
+    if (!ui().question(tr("确认要删除选择的抽奖名单么?"), titles::warning)) return;
     QString error;
     if (!roster::deleteParticipants(store::mainConn(), ids, &error)) {
         ui().message(error, MsgStyle::Critical, titles::error);
@@ -401,19 +400,17 @@ void RosterManagerDialog::toggleAllTicks() {
 void RosterManagerDialog::setDiffNumOfTicked() {
     const QList<int> ids = tickedIds();
     if (ids.isEmpty()) {
-        ui().message(QStringLiteral("请勾选需要设置区分编号的名单!"), MsgStyle::Critical,
-                     titles::notice);
+        ui().message(tr("请勾选需要设置区分编号的名单!"), MsgStyle::Critical, titles::notice);
         return;
     }
-    const QString answer = ui().inputText(QStringLiteral("请输入区分编号\n只能输入数字"),
-                                          titles::notice, QStringLiteral("0"))
-                               .trimmed();
+    const QString answer =
+        ui().inputText(tr("请输入区分编号\n只能输入数字"), titles::notice, QStringLiteral("0"))
+            .trimmed();
     if (answer.isEmpty()) return;
     bool ok = false;
     const int value = answer.toInt(&ok);
     if (!ok) {
-        ui().message(QStringLiteral("您没输入正确的区分编号!"), MsgStyle::Critical,
-                     QStringLiteral("更新失败"));
+        ui().message(tr("您没输入正确的区分编号!"), MsgStyle::Critical, tr("更新失败"));
         return;
     }
     QString error;
@@ -421,19 +418,19 @@ void RosterManagerDialog::setDiffNumOfTicked() {
         ui().message(error, MsgStyle::Critical, titles::error);
         return;
     }
-    ui().message(QStringLiteral("数据更新成功！"), MsgStyle::Information, titles::notice);
+    ui().message(tr("数据更新成功！"), MsgStyle::Information, titles::notice);
     refresh();
 }
 
 void RosterManagerDialog::exportPage() {
     m_exportButton->setEnabled(false);
-    const QString path = ui().saveFile(QStringLiteral("导出文件"), QStringLiteral("抽奖名单.csv"),
-                                       QStringLiteral("Text Files (*.csv)"));
+    const QString path =
+        ui().saveFile(tr("导出文件"), tr("抽奖名单.csv"), QStringLiteral("Text Files (*.csv)"));
     if (path.isEmpty()) {
         m_exportButton->setEnabled(true);
         return;
     }
-    QList<QStringList> lines{kHeaders.mid(1)};
+    QList<QStringList> lines{headers().mid(1)};
     for (int i = 0; i < m_participantList->topLevelItemCount(); ++i) {
         QStringList fields;
         for (int column = ColPlace; column <= ColDiff; ++column)
@@ -442,7 +439,7 @@ void RosterManagerDialog::exportPage() {
     }
     QString error;
     if (roster::writeCsv(path, lines, &error))
-        ui().message(QStringLiteral("导出完毕"), MsgStyle::Information, titles::notice);
+        ui().message(tr("导出完毕"), MsgStyle::Information, titles::notice);
     else
         ui().message(error, MsgStyle::Critical, titles::error);
     m_exportButton->setEnabled(true);

@@ -1,5 +1,7 @@
 #include "roster/view/rosterscreens.h"
 
+#include <QCoreApplication>
+
 #include "awards/view/camerahook.h"
 #include "core/ui.h"
 #include "roster/view/cameracapturedialog.h"
@@ -25,8 +27,9 @@ void runImport(ImportDialog &form, QWidget *parent, bool fromConsole) {
 }  // namespace
 
 bool importExcel(QWidget *parent, bool fromConsole) {
-    const QString file = ui().openFile(QStringLiteral("导入Excel文件"), QString(),
-                                       QStringLiteral("Excel文件 (*.xls *.xlsx)"));
+    const QString file =
+        ui().openFile(QCoreApplication::translate("rosterscreens", "导入Excel文件"), QString(),
+                      QCoreApplication::translate("rosterscreens", "Excel文件 (*.xls *.xlsx)"));
     if (file.trimmed().isEmpty()) return false;
     ExcelImportDialog form(file, parent);
     runImport(form, parent, fromConsole);
@@ -35,7 +38,8 @@ bool importExcel(QWidget *parent, bool fromConsole) {
 
 bool importText(QWidget *parent, bool fromConsole) {
     const QString file =
-        ui().openFile(QStringLiteral("导入Txt文件"), QString(), QStringLiteral("文本文件 (*.txt)"));
+        ui().openFile(QCoreApplication::translate("rosterscreens", "导入Txt文件"), QString(),
+                      QCoreApplication::translate("rosterscreens", "文本文件 (*.txt)"));
     if (file.trimmed().isEmpty()) return false;
     TextImportDialog form(file, parent);
     runImport(form, parent, fromConsole);

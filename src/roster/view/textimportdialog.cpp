@@ -18,8 +18,8 @@
 #include "core/ui.h"
 
 TextImportDialog::TextImportDialog(const QString &path, QWidget *parent)
-    : ImportDialog(QStringLiteral("文件正在导入中，确认要退出么？"), parent), m_path(path) {
-    setWindowTitle(QStringLiteral("导入txt文件"));
+    : ImportDialog(fileImportQuestion(), parent), m_path(path) {
+    setWindowTitle(tr("导入txt文件"));
     resize(560, 420);
     auto *fileLabel = new QLabel(path, this);
     fileLabel->setWordWrap(true);
@@ -28,18 +28,18 @@ TextImportDialog::TextImportDialog(const QString &path, QWidget *parent)
     m_separatorEdit->setMaxLength(1);
     m_separatorEdit->setFixedWidth(40);
     m_separatorEdit->installEventFilter(this);
-    m_appendButton = new QRadioButton(QStringLiteral("导入的名单追加到原有名单之后"), this);
+    m_appendButton = new QRadioButton(appendCaption(), this);
     m_appendButton->setObjectName(QStringLiteral("appendButton"));
-    m_replaceButton = new QRadioButton(QStringLiteral("完全替换原有名单"), this);
+    m_replaceButton = new QRadioButton(replaceCaption(), this);
     m_replaceButton->setObjectName(QStringLiteral("replaceButton"));
     checkDefaultMode(m_appendButton, m_replaceButton);
-    m_resultBox = new QGroupBox(QStringLiteral("导入信息"), this);
+    m_resultBox = new QGroupBox(tr("导入信息"), this);
     m_duplicatesEdit = new QPlainTextEdit(m_resultBox);
     m_duplicatesEdit->setObjectName(QStringLiteral("duplicatesEdit"));
     m_duplicatesEdit->setReadOnly(true);
     m_duplicatesEdit->hide();
-    auto *hint = new QLabel(QStringLiteral("提示：\"间隔符号\"是用来将文本中一行信息前后分开\n"
-                                           "分别导入到 抽奖名单 和 备注栏中"),
+    auto *hint = new QLabel(tr("提示：\"间隔符号\"是用来将文本中一行信息前后分开\n"
+                               "分别导入到 抽奖名单 和 备注栏中"),
                             m_resultBox);
     hint->setStyleSheet(QStringLiteral("color:#8a5a00;"));
     auto *resultLayout = new QVBoxLayout(m_resultBox);
@@ -48,15 +48,15 @@ TextImportDialog::TextImportDialog(const QString &path, QWidget *parent)
     m_resultLabel = new QLabel(this);
     m_resultLabel->setObjectName(QStringLiteral("resultLabel"));
     m_resultLabel->hide();
-    m_startButton = new QPushButton(QStringLiteral("开始导入"), this);
+    m_startButton = new QPushButton(tr("开始导入"), this);
     m_startButton->setObjectName(QStringLiteral("startButton"));
-    m_cancelButton = new QPushButton(QStringLiteral("取消"), this);
-    m_okButton = new QPushButton(QStringLiteral("确定"), this);
+    m_cancelButton = new QPushButton(tr("取消"), this);
+    m_okButton = new QPushButton(tr("确定"), this);
     m_okButton->hide();
 
     auto *form = new QFormLayout;
-    form->addRow(QStringLiteral("文件："), fileLabel);
-    form->addRow(QStringLiteral("Txt文件中信息间隔符号："), m_separatorEdit);
+    form->addRow(tr("文件："), fileLabel);
+    form->addRow(tr("Txt文件中信息间隔符号："), m_separatorEdit);
     auto *choice = new QHBoxLayout;
     choice->addWidget(m_appendButton);
     choice->addWidget(m_replaceButton);
@@ -114,7 +114,7 @@ void TextImportDialog::jobFinished(RosterImport::Outcome outcome) {
         setInputsEnabled(true);
         return;
     }
-    if (job()->duplicates() > 0) m_resultBox->setTitle(QStringLiteral("重复数据"));
+    if (job()->duplicates() > 0) m_resultBox->setTitle(tr("重复数据"));
     if (!job()->log().isEmpty()) {
         m_duplicatesEdit->setPlainText(job()->log().mid(1));
         m_duplicatesEdit->show();
