@@ -1027,7 +1027,7 @@ Press Esc to leave the stage, then on the console click “Draw setup”:
 </translation>
     </message>
     <message>
-        <source>您按键太快了(%1秒!!)</source>
+        <source>您按键太快了(%1秒!!</source>
         <translation>Too fast! Wait %1 s</translation>
     </message>
 </context>

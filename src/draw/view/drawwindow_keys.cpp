@@ -72,7 +72,7 @@ void DrawWindow::pushScrollSample() {
 }
 
 QString DrawWindow::stopGuardText(int secondsLeft) {
-    return tr("您按键太快了(%1秒!!)").arg(secondsLeft);
+    return tr("您按键太快了(%1秒!!").arg(secondsLeft);
 }
 
 void DrawWindow::onStopGuardTick() {
