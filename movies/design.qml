@@ -192,7 +192,7 @@ Item {
         mode = "box"
         var area = page.drawArea
         if (!area) return
-        var demoName = P.field(f, 19, "演示文字") || "演示文字"
+        var demoName = P.field(f, 19, qsTr("演示文字")) || qsTr("演示文字")
         // Rearranged into the draw screen's vbLoadBlock: the sample and the cell values, then the
         // style, then the end mark.
         var block = [demoName]
@@ -215,10 +215,10 @@ Item {
         if (page.drawArea) page.drawArea.clear()
         mode = "play"
         var names = ""
-        for (var i = 1; i <= 24; ++i) names += "中奖者" + i + "$"
+        for (var i = 1; i <= 24; ++i) names += qsTr("中奖者%1").arg(i) + "$"
         var play = []
         for (i = 0; i < 34; ++i) play[play.length] = P.field(f, i)
-        play[play.length] = "一等奖  奖品∶演示奖品"
+        play[play.length] = qsTr("一等奖  奖品∶演示奖品")
         play[play.length] = "1"
         play[play.length] = names
         play[play.length] = ""

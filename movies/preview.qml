@@ -67,7 +67,7 @@ Item {
             id: page
             preview: true
             festive: true
-            vars: ({ award: "一等奖", prize: "笔记本电脑", slots: "10", left: "10" })
+            vars: ({ award: qsTr("一等奖"), prize: qsTr("笔记本电脑"), slots: "10", left: "10" })
         }
     }
 }

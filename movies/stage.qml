@@ -321,7 +321,7 @@ Item {
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         anchors.margins: 10
-        text: "指纹 " + root.fingerprint
+        text: qsTr("指纹 %1").arg(root.fingerprint)
         color: "#99FFFFFF"
         font.pixelSize: 14
         font.family: "monospace"

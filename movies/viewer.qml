@@ -43,7 +43,7 @@ Item {
         }
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
-            text: root.path === "" ? "暂无照片" : "无法显示该图片"
+            text: root.path === "" ? qsTr("暂无照片") : qsTr("无法显示该图片")
             color: "#C0FFE9C0"
             font.family: "黑体"
             font.pixelSize: Math.max(11, Math.min(root.width, root.height) * 0.09)

@@ -48,6 +48,41 @@
     </message>
 </context>
 <context>
+    <name>AnimationObjectDialog</name>
+    <message>
+        <source>SWF文件属性</source>
+        <translation>Animation</translation>
+    </message>
+    <message>
+        <source>数据库中找不到SWF元件!</source>
+        <translation>The animation is missing from the database!</translation>
+    </message>
+    <message>
+        <source>默认尺寸</source>
+        <translation>Natural size</translation>
+    </message>
+    <message>
+        <source>(像素)</source>
+        <translation>(pixels)</translation>
+    </message>
+    <message>
+        <source>SWF影片宽度∶</source>
+        <translation>Width:</translation>
+    </message>
+    <message>
+        <source>SWF影片高度∶</source>
+        <translation>Height:</translation>
+    </message>
+    <message>
+        <source>(默认请设置为0)</source>
+        <translation>(0 for the natural size)</translation>
+    </message>
+    <message>
+        <source>参数设置</source>
+        <translation>Settings</translation>
+    </message>
+</context>
+<context>
     <name>AwardEditor</name>
     <message>
         <source>排除已中奖的人</source>
@@ -213,6 +248,137 @@ Save the change?</translation>
 确认要删除么?</source>
         <translation>Deleting awards clears their winners.
 Delete them?</translation>
+    </message>
+</context>
+<context>
+    <name>ButtonBar</name>
+    <message>
+        <source>开始</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>开始抽奖</source>
+        <translation>Start the draw</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>停止抽奖</source>
+        <translation>Stop the draw</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>取消本次滚动</source>
+        <translation>Cancel this roll</translation>
+    </message>
+    <message>
+        <source>撤消</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>撤消本批中奖</source>
+        <translation>Undo this batch</translation>
+    </message>
+    <message>
+        <source>放弃</source>
+        <translation>Give up</translation>
+    </message>
+    <message>
+        <source>放弃中奖</source>
+        <translation>Give up a win</translation>
+    </message>
+    <message>
+        <source>补抽</source>
+        <translation>Extra</translation>
+    </message>
+    <message>
+        <source>补抽奖项</source>
+        <translation>Extra draw</translation>
+    </message>
+    <message>
+        <source>上一项</source>
+        <translation>Prev</translation>
+    </message>
+    <message>
+        <source>上一个奖项</source>
+        <translation>Previous award</translation>
+    </message>
+    <message>
+        <source>下一项</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>下一个奖项</source>
+        <translation>Next award</translation>
+    </message>
+    <message>
+        <source>打印</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>打印中奖名单</source>
+        <translation>Print the winners</translation>
+    </message>
+    <message>
+        <source>导出</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>导出中奖名单</source>
+        <translation>Export the winners</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>Replay</translation>
+    </message>
+    <message>
+        <source>播放中奖名单</source>
+        <translation>Replay the winners</translation>
+    </message>
+    <message>
+        <source>静音</source>
+        <translation>Mute</translation>
+    </message>
+    <message>
+        <source>关闭声音</source>
+        <translation>Sound off</translation>
+    </message>
+    <message>
+        <source>声音</source>
+        <translation>Sound</translation>
+    </message>
+    <message>
+        <source>打开声音</source>
+        <translation>Sound on</translation>
+    </message>
+    <message>
+        <source>窗口</source>
+        <translation>Window</translation>
+    </message>
+    <message>
+        <source>退出全屏</source>
+        <translation>Leave full screen</translation>
+    </message>
+    <message>
+        <source>全屏</source>
+        <translation>Full</translation>
+    </message>
+    <message>
+        <source>全屏显示</source>
+        <translation>Full screen</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <source>退出抽奖</source>
+        <translation>Leave the draw</translation>
     </message>
 </context>
 <context>
@@ -448,6 +614,375 @@ Delete them?</translation>
     </message>
 </context>
 <context>
+    <name>DesignerWindow</name>
+    <message>
+        <source>  宽度:</source>
+        <translation>  Width:</translation>
+    </message>
+    <message>
+        <source> 高度:</source>
+        <translation> Height:</translation>
+    </message>
+    <message>
+        <source>模板编辑</source>
+        <translation>Template editor</translation>
+    </message>
+    <message>
+        <source>  抽奖界面设计  </source>
+        <translation>  Stage layout  </translation>
+    </message>
+    <message>
+        <source>抽奖时滚动文字样式设计</source>
+        <translation>Style of the names rolling during the draw</translation>
+    </message>
+    <message>
+        <source>  抽奖滚动文字样式设计  </source>
+        <translation>  Rolling names style  </translation>
+    </message>
+    <message>
+        <source>播放中奖时文字样式设计</source>
+        <translation>Style of the winners&apos; replay</translation>
+    </message>
+    <message>
+        <source>  播放中奖文字样式设计  </source>
+        <translation>  Winners replay style  </translation>
+    </message>
+    <message>
+        <source>Quellio抽奖软件界面设计器 Ver 2016</source>
+        <translation>Quellio Lucky Draw stage designer Ver 2016</translation>
+    </message>
+    <message>
+        <source>退出设计</source>
+        <translation>Close designer</translation>
+    </message>
+    <message>
+        <source>返回到主界面</source>
+        <translation>Back to the console</translation>
+    </message>
+    <message>
+        <source>保存修改</source>
+        <translation>Save changes</translation>
+    </message>
+    <message>
+        <source>一键还原</source>
+        <translation>Restore default</translation>
+    </message>
+    <message>
+        <source>将界面恢复到默认状态</source>
+        <translation>Put the stage back to its default layout</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>重做</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>缩放编辑窗口</source>
+        <translation>Zoom the editing view</translation>
+    </message>
+    <message>
+        <source>参数设置</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>参数传递错误,数组数量少于5</source>
+        <translation>Bad parameters: fewer than 5 values</translation>
+    </message>
+    <message>
+        <source>当前坐标:</source>
+        <translation>Position:</translation>
+    </message>
+    <message>
+        <source>移动坐标:</source>
+        <translation>Moved to:</translation>
+    </message>
+    <message>
+        <source>您确定要将界面还原至初始状态么?</source>
+        <translation>Do you really want to restore the stage to its original layout?</translation>
+    </message>
+    <message>
+        <source>是否保存修改内容?</source>
+        <translation>Save your changes?</translation>
+    </message>
+    <message>
+        <source>奖品图片</source>
+        <translation>Prize picture</translation>
+    </message>
+    <message>
+        <source>奖品名称 (变量 $Name1)</source>
+        <translation>Prize name (variable $Name1)</translation>
+    </message>
+    <message>
+        <source>奖项名称 (变量 $Name2)</source>
+        <translation>Award name (variable $Name2)</translation>
+    </message>
+    <message>
+        <source>奖品数量信息(变量 $1 $2)</source>
+        <translation>Prize count (variables $1 $2)</translation>
+    </message>
+    <message>
+        <source>中奖信息</source>
+        <translation>Winners ticker</translation>
+    </message>
+    <message>
+        <source>主标题</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>副标题</source>
+        <translation>Subtitle</translation>
+    </message>
+    <message>
+        <source>插件管理</source>
+        <translation>Items</translation>
+    </message>
+    <message>
+        <source>系统元件</source>
+        <translation>System items</translation>
+    </message>
+    <message>
+        <source>抽奖名单滚动区域 (必选)</source>
+        <translation>Rolling names area (required)</translation>
+    </message>
+    <message>
+        <source>什么是变量呢?</source>
+        <translation>What are variables?</translation>
+    </message>
+    <message>
+        <source>添加元件</source>
+        <translation>Add item</translation>
+    </message>
+    <message>
+        <source>添加文字</source>
+        <translation>Add text</translation>
+    </message>
+    <message>
+        <source>滚动文字</source>
+        <translation>Scrolling text</translation>
+    </message>
+    <message>
+        <source>添加图片</source>
+        <translation>Add image</translation>
+    </message>
+    <message>
+        <source>添加动画</source>
+        <translation>Add animation</translation>
+    </message>
+    <message>
+        <source>当前元件</source>
+        <translation>Selected item</translation>
+    </message>
+    <message>
+        <source>上一层</source>
+        <translation>Forward</translation>
+    </message>
+    <message>
+        <source>下一层</source>
+        <translation>Backward</translation>
+    </message>
+    <message>
+        <source>编 辑  </source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>删 除</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>方向键微调位置(Shift 10像素), Delete 删除, Ctrl+Z 撤销, Ctrl+Y 重做</source>
+        <translation>Arrow keys nudge (Shift: 10 px), Delete removes, Ctrl+Z undo, Ctrl+Y redo</translation>
+    </message>
+    <message>
+        <source>图片文件(*.png,*.jpg,*.gif,*.bmp,*.jpeg)|*.png;*.jpg;*.gif;*.bmp;*.jpeg|PNG Files(*.png)|*.png|JPG Files(*.jpg)|*.jpg|GIF Files(*.gif)|*.gif|BMP Files(*.bmp)|*.bmp</source>
+        <translation>Image files(*.png,*.jpg,*.gif,*.bmp,*.jpeg)|*.png;*.jpg;*.gif;*.bmp;*.jpeg|PNG Files(*.png)|*.png|JPG Files(*.jpg)|*.jpg|GIF Files(*.gif)|*.gif|BMP Files(*.bmp)|*.bmp</translation>
+    </message>
+    <message>
+        <source>动画文件(*.gif,*.webp,*.png)|*.gif;*.webp;*.png;*.apng</source>
+        <translation>Animation files(*.gif,*.webp,*.png)|*.gif;*.webp;*.png;*.apng</translation>
+    </message>
+    <message>
+        <source>元件管理</source>
+        <translation>Item</translation>
+    </message>
+    <message>
+        <source>编辑</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>上移一层</source>
+        <translation>Bring forward</translation>
+    </message>
+    <message>
+        <source>下移一层</source>
+        <translation>Send backward</translation>
+    </message>
+</context>
+<context>
+    <name>DrawArea</name>
+    <message>
+        <source>演示文字</source>
+        <translation>Sample name</translation>
+    </message>
+    <message>
+        <source>好运即将揭晓</source>
+        <translation>Good luck is on its way</translation>
+    </message>
+</context>
+<context>
+    <name>DrawAreaPanel</name>
+    <message>
+        <source>方形背景</source>
+        <translation>Square</translation>
+    </message>
+    <message>
+        <source>圆角背景</source>
+        <translation>Rounded</translation>
+    </message>
+    <message>
+        <source>设置背景圆角弧度大小</source>
+        <translation>Corner radius of the background</translation>
+    </message>
+    <message>
+        <source>设置...</source>
+        <translation>Set...</translation>
+    </message>
+    <message>
+        <source>演示数据</source>
+        <translation>Sample</translation>
+    </message>
+    <message>
+        <source>纯文字抽奖</source>
+        <translation>Names only</translation>
+    </message>
+    <message>
+        <source>纯图片抽奖</source>
+        <translation>Pictures only</translation>
+    </message>
+    <message>
+        <source>图片加文字</source>
+        <translation>Picture and name</translation>
+    </message>
+    <message>
+        <source>背景类型：</source>
+        <translation>Background:</translation>
+    </message>
+    <message>
+        <source>背景颜色：</source>
+        <translation>Background colour:</translation>
+    </message>
+    <message>
+        <source>背景透明：</source>
+        <translation>Background opacity:</translation>
+    </message>
+    <message>
+        <source>横向间距：</source>
+        <translation>Horizontal gap:</translation>
+    </message>
+    <message>
+        <source>纵向间距：</source>
+        <translation>Vertical gap:</translation>
+    </message>
+    <message>
+        <source>文字边距：</source>
+        <translation>Text padding:</translation>
+    </message>
+    <message>
+        <source>设置字体：</source>
+        <translation>Font:</translation>
+    </message>
+    <message>
+        <source>预览数量：</source>
+        <translation>Preview count:</translation>
+    </message>
+    <message>
+        <source>预览文字：</source>
+        <translation>Preview text:</translation>
+    </message>
+    <message>
+        <source>预览模式：</source>
+        <translation>Preview mode:</translation>
+    </message>
+    <message>
+        <source>背景单元格设置</source>
+        <translation>Cell background</translation>
+    </message>
+</context>
+<context>
+    <name>DrawFontDialog</name>
+    <message>
+        <source>字体设置</source>
+        <translation>Font</translation>
+    </message>
+    <message>
+        <source>读取数据错误!</source>
+        <translation>Could not read the data!</translation>
+    </message>
+    <message>
+        <source>滚动字体样式</source>
+        <translation>Rolling names font</translation>
+    </message>
+</context>
+<context>
+    <name>DrawWindow</name>
+    <message>
+        <source>抽奖名单</source>
+        <translation>names</translation>
+    </message>
+    <message>
+        <source>· 在“名单设置”中添加名单，或从Excel、txt文件导入名单</source>
+        <translation>· In “Names”, add names or import them from an Excel or txt file</translation>
+    </message>
+    <message>
+        <source>奖项</source>
+        <translation>awards</translation>
+    </message>
+    <message>
+        <source>· 在“奖项设置”中添加奖项</source>
+        <translation>· In “Awards”, add awards</translation>
+    </message>
+    <message>
+        <source>还没有%1，无法开始抽奖。
+请按Esc退出抽奖界面，在控制台点击“抽奖设置”：
+</source>
+        <translation>There are no %1 yet, the draw cannot start.
+Press Esc to leave the stage, then on the console click “Draw setup”:
+</translation>
+    </message>
+    <message>
+        <source>和</source>
+        <translation> and </translation>
+    </message>
+    <message>
+        <source>  指纹 %1</source>
+        <translation>  fingerprint %1</translation>
+    </message>
+    <message>
+        <source>确认要退出当前抽奖界面么?</source>
+        <translation>Leave the draw screen?</translation>
+    </message>
+    <message>
+        <source>返回系统消息</source>
+        <translation> sent a system message</translation>
+    </message>
+    <message>
+        <source>中奖结果保存失败,本次抽奖无效,请重新抽取!
+</source>
+        <translation>The winners could not be saved, this draw does not count. Please draw again!
+</translation>
+    </message>
+    <message>
+        <source>您按键太快了(%1秒!!</source>
+        <translation>Too fast! Wait %1 s</translation>
+    </message>
+</context>
+<context>
     <name>DrawWizardDialog</name>
     <message>
         <source>抽奖向导</source>
@@ -532,6 +1067,57 @@ Delete them?</translation>
     <message>
         <source>参数保存成功!</source>
         <translation>Settings saved.</translation>
+    </message>
+</context>
+<context>
+    <name>EndOfDrawDialog</name>
+    <message>
+        <source>系统提示</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>所有的奖项均已经抽取完毕!</source>
+        <translation>All the awards have been drawn!</translation>
+    </message>
+    <message>
+        <source>请选择接下来要做的事</source>
+        <translation>What would you like to do next?</translation>
+    </message>
+    <message>
+        <source>重新抽奖</source>
+        <translation>Start over</translation>
+    </message>
+    <message>
+        <source>导出名单</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>打印名单</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>中奖回放</source>
+        <translation>Replay</translation>
+    </message>
+    <message>
+        <source>删除所有中奖信息,重新开始抽奖</source>
+        <translation>Delete all the winners and start the draw again</translation>
+    </message>
+    <message>
+        <source>把中奖名单导出为CSV文件</source>
+        <translation>Export the winners to a CSV file</translation>
+    </message>
+    <message>
+        <source>打印所有中奖名单</source>
+        <translation>Print all the winners</translation>
+    </message>
+    <message>
+        <source>在舞台上滚动播放所有中奖名单</source>
+        <translation>Scroll all the winners on the stage</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
     </message>
 </context>
 <context>
@@ -625,6 +1211,96 @@ Delete the columns you do not need, then import again.</translation>
     </message>
 </context>
 <context>
+    <name>FontStyleBox</name>
+    <message>
+        <source>颜色</source>
+        <translation>Colour</translation>
+    </message>
+    <message>
+        <source>启用阴影效果</source>
+        <translation>Shadow</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>中</source>
+        <translation>Centre</translation>
+    </message>
+    <message>
+        <source>左</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>字体：</source>
+        <translation>Font:</translation>
+    </message>
+    <message>
+        <source>大小：</source>
+        <translation>Size:</translation>
+    </message>
+    <message>
+        <source>颜色：</source>
+        <translation>Colour:</translation>
+    </message>
+    <message>
+        <source>透明：</source>
+        <translation>Opacity:</translation>
+    </message>
+</context>
+<context>
+    <name>GiveUpDialog</name>
+    <message>
+        <source>弃奖</source>
+        <translation>Give up</translation>
+    </message>
+    <message>
+        <source>上一页</source>
+        <translation>Previous</translation>
+    </message>
+    <message>
+        <source>下一页</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>请输入查询关键字</source>
+        <translation>Search for a name</translation>
+    </message>
+    <message>
+        <source>清除查询关键字</source>
+        <translation>Clear the search</translation>
+    </message>
+    <message>
+        <source>查找名单</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>序号</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>中奖名单</source>
+        <translation>Winner</translation>
+    </message>
+    <message>
+        <source>所中奖项</source>
+        <translation>Award</translation>
+    </message>
+    <message>
+        <source>状态</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>请勾选需要做弃奖的的名单!</source>
+        <translation>Please tick the winners who give up!</translation>
+    </message>
+    <message>
+        <source>确认要将选择的中奖名单做弃奖么?</source>
+        <translation>Mark the ticked winners as given up?</translation>
+    </message>
+</context>
+<context>
     <name>HotkeySettingsDialog</name>
     <message>
         <source>开始抽奖∶</source>
@@ -700,6 +1376,29 @@ Delete the columns you do not need, then import again.</translation>
     </message>
 </context>
 <context>
+    <name>ImageObjectDialog</name>
+    <message>
+        <source>图片编辑</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>数据库中找不到图片数据!</source>
+        <translation>The image is missing from the database!</translation>
+    </message>
+    <message>
+        <source>启用图片倒影</source>
+        <translation>Reflection</translation>
+    </message>
+    <message>
+        <source>图片透明：</source>
+        <translation>Opacity:</translation>
+    </message>
+    <message>
+        <source>图片设置</source>
+        <translation>Image settings</translation>
+    </message>
+</context>
+<context>
     <name>ImportDialog</name>
     <message>
         <source>导入发生错误,错误原因如下
@@ -726,6 +1425,84 @@ Delete the columns you do not need, then import again.</translation>
     <message>
         <source>，跳过空白或无法识别的数据%1条</source>
         <translation>, skipped %1 empty or unreadable lines</translation>
+    </message>
+</context>
+<context>
+    <name>LoadingScene</name>
+    <message>
+        <source>正在准备抽奖舞台…</source>
+        <translation>Preparing the stage…</translation>
+    </message>
+</context>
+<context>
+    <name>MakeUpDrawDialog</name>
+    <message>
+        <source>补奖</source>
+        <translation>Extra draw</translation>
+    </message>
+    <message>
+        <source>快速补奖</source>
+        <translation>Quick extra</translation>
+    </message>
+    <message>
+        <source>奖项设置</source>
+        <translation>New award</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>(名额)</source>
+        <translation>(places)</translation>
+    </message>
+    <message>
+        <source>奖项：</source>
+        <translation>Award:</translation>
+    </message>
+    <message>
+        <source>追加：</source>
+        <translation>Add:</translation>
+    </message>
+    <message>
+        <source>追加奖项名额必须为正整数!!</source>
+        <translation>The places to add must be a positive whole number!</translation>
+    </message>
+    <message>
+        <source>排除已中奖的人</source>
+        <translation>Leave out past winners</translation>
+    </message>
+    <message>
+        <source>(禁止重复中奖)</source>
+        <translation>(nobody wins twice)</translation>
+    </message>
+    <message>
+        <source>奖项名称：</source>
+        <translation>Award name:</translation>
+    </message>
+    <message>
+        <source>奖品名额：</source>
+        <translation>Places:</translation>
+    </message>
+    <message>
+        <source>分几次抽：</source>
+        <translation>Rounds:</translation>
+    </message>
+    <message>
+        <source>奖品名称：</source>
+        <translation>Prize name:</translation>
+    </message>
+    <message>
+        <source>无任何奖项</source>
+        <translation>No awards</translation>
+    </message>
+    <message>
+        <source>该奖项现有名额 %1 个，已中奖 %2 人，剩余 %3 个</source>
+        <translation>This award has %1 places, %2 won, %3 left</translation>
     </message>
 </context>
 <context>
@@ -903,6 +1680,13 @@ Generate the numbers?</translation>
     </message>
 </context>
 <context>
+    <name>Page</name>
+    <message>
+        <source>恭喜∶中奖名单将在这里滚动显示</source>
+        <translation>Congratulations: the winners will scroll here</translation>
+    </message>
+</context>
+<context>
     <name>PasswordPromptDialog</name>
     <message>
         <source>密码验证</source>
@@ -1043,6 +1827,101 @@ Shrinking failed: </translation>
 文件名中没有姓名,跳过%1张</source>
         <translation>
 Skipped %1 with no name in the file name</translation>
+    </message>
+</context>
+<context>
+    <name>PlaybackPanel</name>
+    <message>
+        <source>百分比</source>
+        <translation>Percent</translation>
+    </message>
+    <message>
+        <source>滚动播放列表</source>
+        <translation>Scroll the list</translation>
+    </message>
+    <message>
+        <source>奖项名称</source>
+        <translation>Award name</translation>
+    </message>
+    <message>
+        <source>奖项+奖品名称</source>
+        <translation>Award + prize name</translation>
+    </message>
+    <message>
+        <source>设置字体..</source>
+        <translation>Font...</translation>
+    </message>
+    <message>
+        <source>抽奖名单</source>
+        <translation>Names</translation>
+    </message>
+    <message>
+        <source>图片</source>
+        <translation>Pictures</translation>
+    </message>
+    <message>
+        <source>抽奖名单+图片</source>
+        <translation>Names + pictures</translation>
+    </message>
+    <message>
+        <source>整体宽度：</source>
+        <translation>Width:</translation>
+    </message>
+    <message>
+        <source>整体高度：</source>
+        <translation>Height:</translation>
+    </message>
+    <message>
+        <source>滚动速度：</source>
+        <translation>Scroll speed:</translation>
+    </message>
+    <message>
+        <source>横向数量：</source>
+        <translation>Columns:</translation>
+    </message>
+    <message>
+        <source>标题内容：</source>
+        <translation>Title shows:</translation>
+    </message>
+    <message>
+        <source>文字边距：</source>
+        <translation>Text padding:</translation>
+    </message>
+    <message>
+        <source>背景透明：</source>
+        <translation>Background opacity:</translation>
+    </message>
+    <message>
+        <source>背景颜色：</source>
+        <translation>Background colour:</translation>
+    </message>
+    <message>
+        <source>标题字体：</source>
+        <translation>Title font:</translation>
+    </message>
+    <message>
+        <source>名单内容：</source>
+        <translation>List shows:</translation>
+    </message>
+    <message>
+        <source>横向间距：</source>
+        <translation>Horizontal gap:</translation>
+    </message>
+    <message>
+        <source>纵向间距：</source>
+        <translation>Vertical gap:</translation>
+    </message>
+    <message>
+        <source>名单字体：</source>
+        <translation>Names font:</translation>
+    </message>
+    <message>
+        <source>标题样式设置</source>
+        <translation>Title style</translation>
+    </message>
+    <message>
+        <source>名单样式设置</source>
+        <translation>Names style</translation>
     </message>
 </context>
 <context>
@@ -1252,6 +2131,77 @@ Digits only</translation>
     </message>
 </context>
 <context>
+    <name>ScrollTextDialog</name>
+    <message>
+        <source>滚动文字属性</source>
+        <translation>Scrolling text</translation>
+    </message>
+    <message>
+        <source>中奖信息变量,无法更改!</source>
+        <translation>Winners ticker variable, cannot be changed!</translation>
+    </message>
+    <message>
+        <source>文字滚动区域宽(像素)</source>
+        <translation>Width of the scrolling area (pixels)</translation>
+    </message>
+    <message>
+        <source>文字滚动区域高(像素)</source>
+        <translation>Height of the scrolling area (pixels)</translation>
+    </message>
+    <message>
+        <source>方形背景</source>
+        <translation>Square</translation>
+    </message>
+    <message>
+        <source>圆角背景</source>
+        <translation>Rounded</translation>
+    </message>
+    <message>
+        <source>设置背景圆角弧度大小</source>
+        <translation>Corner radius of the background</translation>
+    </message>
+    <message>
+        <source>从右向左</source>
+        <translation>Right to left</translation>
+    </message>
+    <message>
+        <source>从左向右</source>
+        <translation>Left to right</translation>
+    </message>
+    <message>
+        <source>从下往上</source>
+        <translation>Bottom to top</translation>
+    </message>
+    <message>
+        <source>背景长宽∶</source>
+        <translation>Background size:</translation>
+    </message>
+    <message>
+        <source>背景类型：</source>
+        <translation>Background:</translation>
+    </message>
+    <message>
+        <source>背景颜色：</source>
+        <translation>Background colour:</translation>
+    </message>
+    <message>
+        <source>背景透明：</source>
+        <translation>Background opacity:</translation>
+    </message>
+    <message>
+        <source>滚动速度：</source>
+        <translation>Scroll speed:</translation>
+    </message>
+    <message>
+        <source>滚动方向：</source>
+        <translation>Direction:</translation>
+    </message>
+    <message>
+        <source>滚屏设置</source>
+        <translation>Scrolling</translation>
+    </message>
+</context>
+<context>
     <name>TemplatePanel</name>
     <message>
         <source>更换背景图片</source>
@@ -1319,6 +2269,36 @@ Digits only</translation>
     </message>
 </context>
 <context>
+    <name>TemplateRestoreDialog</name>
+    <message>
+        <source>还原模板</source>
+        <translation>Restore template</translation>
+    </message>
+    <message>
+        <source>正在清空临时数据...</source>
+        <translation>Clearing temporary data...</translation>
+    </message>
+    <message>
+        <source>正在还原备份文件...</source>
+        <translation>Restoring the backup file...</translation>
+    </message>
+</context>
+<context>
+    <name>TextDialogBase</name>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>读取数据错误!</source>
+        <translation>Could not read the data!</translation>
+    </message>
+</context>
+<context>
     <name>TextImportDialog</name>
     <message>
         <source>导入txt文件</source>
@@ -1360,6 +2340,41 @@ the name before it and the remark after it</translation>
     </message>
 </context>
 <context>
+    <name>TextObjectDialog</name>
+    <message>
+        <source>文字编辑</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>方形边角</source>
+        <translation>Square corners</translation>
+    </message>
+    <message>
+        <source>圆形边角</source>
+        <translation>Round corners</translation>
+    </message>
+    <message>
+        <source>边框类型：</source>
+        <translation>Border type:</translation>
+    </message>
+    <message>
+        <source>边框大小：</source>
+        <translation>Border size:</translation>
+    </message>
+    <message>
+        <source>边款颜色：</source>
+        <translation>Border colour:</translation>
+    </message>
+    <message>
+        <source>边框透明：</source>
+        <translation>Border opacity:</translation>
+    </message>
+    <message>
+        <source>边框设置</source>
+        <translation>Border</translation>
+    </message>
+</context>
+<context>
     <name>TxtImport</name>
     <message>
         <source>无法打开文件：</source>
@@ -1382,6 +2397,21 @@ Duplicate: </translation>
 区分编号超出范围,记为0：第%1行</source>
         <translation>
 Group no. out of range, set to 0: line %1</translation>
+    </message>
+</context>
+<context>
+    <name>VariablesHelpDialog</name>
+    <message>
+        <source>什么是变量呢?</source>
+        <translation>What are variables?</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;模板里的文字可以带上变量，抽奖时会换成当前奖项的内容：&lt;/p&gt;&lt;p&gt;&lt;b&gt;$Name2&lt;/b&gt;&#x3000;奖项名称，例如“一等奖”&lt;br&gt;&lt;b&gt;$Name1&lt;/b&gt;&#x3000;奖品名称，例如“笔记本电脑”&lt;br&gt;&lt;b&gt;$1&lt;/b&gt;&#x3000;该奖项的名额&lt;br&gt;&lt;b&gt;$2&lt;/b&gt;&#x3000;该奖项还剩下的名额&lt;/p&gt;&lt;p&gt;例如“名额 $1 名，剩余 $2 名”在抽奖时显示为“名额 10 名，剩余 4 名”。&lt;/p&gt;</source>
+        <translation>&lt;p&gt;A text in the template can hold variables; during the draw they show the current award:&lt;/p&gt;&lt;p&gt;&lt;b&gt;$Name2&lt;/b&gt;  the award&apos;s name, e.g. “First prize”&lt;br&gt;&lt;b&gt;$Name1&lt;/b&gt;  the prize&apos;s name, e.g. “Laptop”&lt;br&gt;&lt;b&gt;$1&lt;/b&gt;  the award&apos;s places&lt;br&gt;&lt;b&gt;$2&lt;/b&gt;  the places still left&lt;/p&gt;&lt;p&gt;For example “$1 places, $2 left” shows as “10 places, 4 left” during the draw.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>好的,我知道了</source>
+        <translation>OK, got it</translation>
     </message>
 </context>
 <context>
@@ -1553,6 +2583,256 @@ Group no. out of range, set to 0: line %1</translation>
     </message>
 </context>
 <context>
+    <name>design</name>
+    <message>
+        <source>演示文字</source>
+        <translation>Sample name</translation>
+    </message>
+    <message>
+        <source>中奖者%1</source>
+        <translation>Winner %1</translation>
+    </message>
+    <message>
+        <source>一等奖  奖品∶演示奖品</source>
+        <translation>First prize  Prize: Sample prize</translation>
+    </message>
+    <message>
+        <source>新增普通文字，双击文字可以进行编辑</source>
+        <translation>New text, double-click to edit</translation>
+    </message>
+    <message>
+        <source>请双击输入滚动文字信息...</source>
+        <translation>Double-click to enter the scrolling text...</translation>
+    </message>
+    <message>
+        <source>  奖品∶</source>
+        <translation>  Prize: </translation>
+    </message>
+    <message>
+        <source>找不到抽奖滚动文字样式数据!</source>
+        <translation>The style of the draw&apos;s rolling names is missing!</translation>
+    </message>
+    <message>
+        <source>分辨率宽度需要输入数字</source>
+        <translation>The width must be a number</translation>
+    </message>
+    <message>
+        <source>分辨率高度需要输入数字</source>
+        <translation>The height must be a number</translation>
+    </message>
+    <message>
+        <source>分辨率宽度最小不低于257px</source>
+        <translation>The width must be at least 257px</translation>
+    </message>
+    <message>
+        <source>分辨率高度不能低于177px</source>
+        <translation>The height must be at least 177px</translation>
+    </message>
+    <message>
+        <source>分辨率宽度最大不能超过32767px</source>
+        <translation>The width cannot exceed 32767px</translation>
+    </message>
+    <message>
+        <source>分辨率高度最大不能超过32767px</source>
+        <translation>The height cannot exceed 32767px</translation>
+    </message>
+    <message>
+        <source>找不到原始数据文件无法恢复...</source>
+        <translation>The original file is missing, cannot restore...</translation>
+    </message>
+    <message>
+        <source>正在打开备份文件...</source>
+        <translation>Opening the backup file...</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>界面数据文件数据异常,请更换模板!</source>
+        <translation>The template&apos;s data is damaged, please use another template!</translation>
+    </message>
+</context>
+<context>
+    <name>design::DesignerDocument</name>
+    <message>
+        <source>添加文字</source>
+        <translation>Add text</translation>
+    </message>
+    <message>
+        <source>添加滚动文字</source>
+        <translation>Add scrolling text</translation>
+    </message>
+    <message>
+        <source>添加图片</source>
+        <translation>Add image</translation>
+    </message>
+    <message>
+        <source>添加动画</source>
+        <translation>Add animation</translation>
+    </message>
+    <message>
+        <source>坐标数据错误,非数字类型</source>
+        <translation>Bad position: not a number</translation>
+    </message>
+    <message>
+        <source>移动</source>
+        <translation>Move</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Show</translation>
+    </message>
+    <message>
+        <source>隐藏</source>
+        <translation>Hide</translation>
+    </message>
+    <message>
+        <source>系统变量不能删除!</source>
+        <translation>System items cannot be deleted!</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>上移一层</source>
+        <translation>Bring forward</translation>
+    </message>
+    <message>
+        <source>下移一层</source>
+        <translation>Send backward</translation>
+    </message>
+    <message>
+        <source>编辑</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>样式</source>
+        <translation>Style</translation>
+    </message>
+</context>
+<context>
+    <name>draw</name>
+    <message>
+        <source>无法写入抽奖记录</source>
+        <translation>Cannot write the draw log</translation>
+    </message>
+    <message>
+        <source>总计∶%1 人, 当前第%2页/共%3页</source>
+        <translation>Total: %1, page %2 of %3</translation>
+    </message>
+    <message>
+        <source>已弃奖</source>
+        <translation>Given up</translation>
+    </message>
+    <message>
+        <source>已领奖</source>
+        <translation>Collected</translation>
+    </message>
+    <message>
+        <source>已中奖</source>
+        <translation>Won</translation>
+    </message>
+    <message>
+        <source>至少追加一个名额!</source>
+        <translation>Add at least one place!</translation>
+    </message>
+    <message>
+        <source>追加后奖品名额最多为32767个</source>
+        <translation>An award can have at most 32767 places</translation>
+    </message>
+    <message>
+        <source>找不到指定的奖项!</source>
+        <translation>The award cannot be found!</translation>
+    </message>
+    <message>
+        <source>请输入奖项名称!</source>
+        <translation>Please enter the award&apos;s name!</translation>
+    </message>
+    <message>
+        <source>至少存在1个名额</source>
+        <translation>At least 1 place</translation>
+    </message>
+    <message>
+        <source>奖品名额最多为32767个</source>
+        <translation>At most 32767 places</translation>
+    </message>
+    <message>
+        <source>至少存在1个抽奖批次</source>
+        <translation>At least 1 round</translation>
+    </message>
+    <message>
+        <source>抽奖批次最多为32767次</source>
+        <translation>At most 32767 rounds</translation>
+    </message>
+    <message>
+        <source>奖品名称不能为空</source>
+        <translation>The prize name cannot be empty</translation>
+    </message>
+    <message>
+        <source>奖项编号已到上限32767,不能再增加奖项!</source>
+        <translation>Award numbers have reached 32767, no more awards can be added!</translation>
+    </message>
+    <message>
+        <source>重要提示∶
+确认要清空所有中奖记录,复原至初始状态么?</source>
+        <translation>Important:
+Clear all the winners and go back to the start?</translation>
+    </message>
+    <message>
+        <source>已恢复至初始抽奖状态!</source>
+        <translation>Back to the start of the draw!</translation>
+    </message>
+</context>
+<context>
+    <name>draw::DrawEngine</name>
+    <message>
+        <source>找不到指定的奖项!</source>
+        <translation>The award cannot be found!</translation>
+    </message>
+    <message>
+        <source>当前奖项暂无获奖名单...</source>
+        <translation>No winners for this award yet...</translation>
+    </message>
+    <message>
+        <source>恭喜∶%1获得%2</source>
+        <translation>Congratulations: %1 won %2</translation>
+    </message>
+    <message>
+        <source>当前未设置任何奖项,请先添加奖项!</source>
+        <translation>No awards are set up yet, please add an award first!</translation>
+    </message>
+    <message>
+        <source>%1,本次抽奖未进行!</source>
+        <translation>%1, this draw did not take place!</translation>
+    </message>
+    <message>
+        <source>已无符合条件的抽奖名单可抽取!</source>
+        <translation>Nobody eligible is left to draw!</translation>
+    </message>
+    <message>
+        <source>确定要撤消此次产生的中奖结果么?</source>
+        <translation>Undo the winners of this draw?</translation>
+    </message>
+    <message>
+        <source>%1,本次撤消未进行!</source>
+        <translation>%1, nothing was undone!</translation>
+    </message>
+    <message>
+        <source>您确定要删除所有中奖信息,重新开始抽奖么?</source>
+        <translation>Delete all the winners and start the draw again?</translation>
+    </message>
+    <message>
+        <source>重要提示</source>
+        <translation>Important</translation>
+    </message>
+</context>
+<context>
     <name>editorparts</name>
     <message>
         <source>用于对抽奖条件进行筛选的标识号码</source>
@@ -1666,6 +2946,17 @@ Group no. out of range, set to 0: line %1</translation>
     <message>
         <source>屏蔽号码后没有可以生成的号码，请修改屏蔽号码。</source>
         <translation>No number is left once the masked digits are left out. Please change them.</translation>
+    </message>
+</context>
+<context>
+    <name>preview</name>
+    <message>
+        <source>一等奖</source>
+        <translation>First prize</translation>
+    </message>
+    <message>
+        <source>笔记本电脑</source>
+        <translation>Laptop</translation>
     </message>
 </context>
 <context>
@@ -1871,6 +3162,22 @@ Clear all winners and start again?</translation>
         <source>演示文字</source>
         <translation>Sample text</translation>
     </message>
+    <message>
+        <source>按 %1 开始抽奖</source>
+        <translation>Press %1 to start</translation>
+    </message>
+    <message>
+        <source>按 %1 开始抽奖，再按一次停止</source>
+        <translation>Press %1 to start, again to stop</translation>
+    </message>
+    <message>
+        <source>按 %1 开始抽奖，按 %2 停止</source>
+        <translation>Press %1 to start, %2 to stop</translation>
+    </message>
+    <message>
+        <source>指纹 %1</source>
+        <translation>Fingerprint %1</translation>
+    </message>
 </context>
 <context>
     <name>startup</name>
@@ -1930,6 +3237,144 @@ Clear all winners and start again?</translation>
     <message>
         <source>错误</source>
         <translation>Error</translation>
+    </message>
+</context>
+<context>
+    <name>verifier</name>
+    <message>
+        <source>此次抽奖的记录缺失</source>
+        <translation>The log of this draw is missing</translation>
+    </message>
+    <message>
+        <source>第%1行无法读取</source>
+        <translation>Line %1 cannot be read</translation>
+    </message>
+    <message>
+        <source>记录链在第%1行断开</source>
+        <translation>The log&apos;s chain breaks at line %1</translation>
+    </message>
+    <message>
+        <source>第%1行的事件无法识别</source>
+        <translation>Line %1 holds an unknown event</translation>
+    </message>
+    <message>
+        <source>会话 %1 的名单快照缺失或无法读取</source>
+        <translation>The roster snapshot of session %1 is missing or unreadable</translation>
+    </message>
+    <message>
+        <source>会话 %1 的名单快照已被改动</source>
+        <translation>The roster snapshot of session %1 has been changed</translation>
+    </message>
+    <message>
+        <source>抽奖记录无法读取</source>
+        <translation>The draw&apos;s record cannot be read</translation>
+    </message>
+    <message>
+        <source>抽奖序号重复或倒退</source>
+        <translation>The draw number repeats or goes back</translation>
+    </message>
+    <message>
+        <source>找不到此次抽奖所依据的名单</source>
+        <translation>The roster this draw used cannot be found</translation>
+    </message>
+    <message>
+        <source>候选人数不符: 记录%1人, 重建%2人</source>
+        <translation>Candidate count differs: logged %1, rebuilt %2</translation>
+    </message>
+    <message>
+        <source>候选名单摘要不符</source>
+        <translation>The candidates&apos; digest differs</translation>
+    </message>
+    <message>
+        <source>中奖名单与种子推算的结果不符</source>
+        <translation>The winners differ from what the seed gives</translation>
+    </message>
+    <message>
+        <source>入库记录找不到对应的抽奖</source>
+        <translation>A stored batch has no matching draw</translation>
+    </message>
+    <message>
+        <source>入库名单与抽出的名单不符</source>
+        <translation>The stored winners differ from the drawn ones</translation>
+    </message>
+    <message>
+        <source>撤消记录找不到对应的入库</source>
+        <translation>An undo has no matching stored batch</translation>
+    </message>
+    <message>
+        <source>弃奖记录无法读取</source>
+        <translation>A give-up record cannot be read</translation>
+    </message>
+    <message>
+        <source>公开的密钥与开场时的承诺不符</source>
+        <translation>The revealed key does not match the opening commitment</translation>
+    </message>
+    <message>
+        <source>种子不是由会话密钥推出的</source>
+        <translation>The seed does not come from the session key</translation>
+    </message>
+    <message>
+        <source>库中已没有中奖者 %1 的这次中奖</source>
+        <translation>The database no longer holds this win of winner %1</translation>
+    </message>
+    <message>
+        <source>库中这一批多出了未记录的中奖者 %1</source>
+        <translation>This batch in the database has an unlogged winner %1</translation>
+    </message>
+    <message>
+        <source>找不到抽奖记录 </source>
+        <translation>Draw log not found: </translation>
+    </message>
+    <message>
+        <source>会话 %1 第%2次 奖项%3: </source>
+        <translation>Session %1 draw %2 award %3: </translation>
+    </message>
+    <message>
+        <source>相符</source>
+        <translation>matches</translation>
+    </message>
+    <message>
+        <source>不符</source>
+        <translation>differs</translation>
+    </message>
+    <message>
+        <source>已撤消</source>
+        <translation>undone</translation>
+    </message>
+    <message>
+        <source>已入库</source>
+        <translation>stored</translation>
+    </message>
+    <message>
+        <source>密钥未公开</source>
+        <translation>key not revealed</translation>
+    </message>
+    <message>
+        <source>共%1行记录, %2次抽奖: %3次相符, %4次不符</source>
+        <translation>%1 log lines, %2 draws: %3 match, %4 differ</translation>
+    </message>
+    <message>
+        <source>, 其中%1次的会话密钥尚未公开(只按记录的种子核对)</source>
+        <translation>, of which %1 with the session key not yet revealed (checked against the logged seed only)</translation>
+    </message>
+    <message>
+        <source>结论: 全部相符</source>
+        <translation>Verdict: everything matches</translation>
+    </message>
+    <message>
+        <source>结论: 有不符之处</source>
+        <translation>Verdict: there are differences</translation>
+    </message>
+</context>
+<context>
+    <name>viewer</name>
+    <message>
+        <source>暂无照片</source>
+        <translation>No photo yet</translation>
+    </message>
+    <message>
+        <source>无法显示该图片</source>
+        <translation>Cannot show this picture</translation>
     </message>
 </context>
 <context>

@@ -33,22 +33,22 @@ Item {
         ["btnNext"], ["btnAdd"], ["btnGiveUp"], ["btnLstPrt"], ["btnLstOut"], ["btnPlayLuck"],
         ["btnSoundOn", "btnSoundOff"], ["btnScreenN", "btnScreenF"], ["btnExit"]]
     readonly property var info: ({
-        "btnStart": ["▶", "开始", "开始抽奖"],
-        "btnStop": ["■", "停止", "停止抽奖"],
-        "btnClear": ["✕", "取消", "取消本次滚动"],
-        "btnCancel": ["↶", "撤消", "撤消本批中奖"],
-        "btnGiveUp": ["⚑", "放弃", "放弃中奖"],
-        "btnAdd": ["+", "补抽", "补抽奖项"],
-        "btnPre": ["⇤", "上一项", "上一个奖项"],
-        "btnNext": ["⇥", "下一项", "下一个奖项"],
-        "btnLstPrt": ["▤", "打印", "打印中奖名单"],
-        "btnLstOut": ["⇩", "导出", "导出中奖名单"],
-        "btnPlayLuck": ["★", "播放", "播放中奖名单"],
-        "btnSoundOn": ["♪", "静音", "关闭声音"],
-        "btnSoundOff": ["♫", "声音", "打开声音"],
-        "btnScreenN": ["❐", "窗口", "退出全屏"],
-        "btnScreenF": ["▣", "全屏", "全屏显示"],
-        "btnExit": ["⎋", "退出", "退出抽奖"]
+        "btnStart": ["▶", qsTr("开始"), qsTr("开始抽奖")],
+        "btnStop": ["■", qsTr("停止"), qsTr("停止抽奖")],
+        "btnClear": ["✕", qsTr("取消"), qsTr("取消本次滚动")],
+        "btnCancel": ["↶", qsTr("撤消"), qsTr("撤消本批中奖")],
+        "btnGiveUp": ["⚑", qsTr("放弃"), qsTr("放弃中奖")],
+        "btnAdd": ["+", qsTr("补抽"), qsTr("补抽奖项")],
+        "btnPre": ["⇤", qsTr("上一项"), qsTr("上一个奖项")],
+        "btnNext": ["⇥", qsTr("下一项"), qsTr("下一个奖项")],
+        "btnLstPrt": ["▤", qsTr("打印"), qsTr("打印中奖名单")],
+        "btnLstOut": ["⇩", qsTr("导出"), qsTr("导出中奖名单")],
+        "btnPlayLuck": ["★", qsTr("播放"), qsTr("播放中奖名单")],
+        "btnSoundOn": ["♪", qsTr("静音"), qsTr("关闭声音")],
+        "btnSoundOff": ["♫", qsTr("声音"), qsTr("打开声音")],
+        "btnScreenN": ["❐", qsTr("窗口"), qsTr("退出全屏")],
+        "btnScreenF": ["▣", qsTr("全屏"), qsTr("全屏显示")],
+        "btnExit": ["⎋", qsTr("退出"), qsTr("退出抽奖")]
     })
 
     readonly property var shownNames: {

@@ -17,7 +17,7 @@ Item {
     property var winners: []
     property var pool: []
     property int mode: 0
-    property var look: ({ sample: "演示文字" })
+    property var look: ({ sample: qsTr("演示文字") })
     property int count: 0
     property real cellW: 100
     property real cellH: 60
@@ -53,7 +53,7 @@ Item {
         var head = f.slice(0, end - 9)
         var full = head.length >= 11
         look = {
-            sample: P.field(f, 0, "演示文字") || "演示文字",
+            sample: P.field(f, 0, qsTr("演示文字")) || qsTr("演示文字"),
             family: st.family, color: st.color, size: st.size, opacity: st.opacity,
             bold: st.bold, italic: st.italic, underline: st.underline, align: st.align,
             shadow: st.shadow,
@@ -259,7 +259,7 @@ Item {
             }
             Text {
                 anchors.horizontalCenter: parent.horizontalCenter
-                text: "好运即将揭晓"
+                text: qsTr("好运即将揭晓")
                 color: "#FFE9B0"
                 font.family: "黑体"
                 font.bold: true
@@ -281,7 +281,7 @@ Item {
             id: sampleText
             anchors.centerIn: parent
             visible: area.preview
-            text: "演示文字"
+            text: qsTr("演示文字")
             color: area.previewFont ? area.previewFont.color : "#FFE08A"
             font.family: area.previewFont ? area.previewFont.family : "黑体"
             font.pixelSize: area.previewFont ? area.previewFont.size * 1.4 : 40

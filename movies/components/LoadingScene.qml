@@ -41,7 +41,7 @@ Rectangle {
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.top: parent.verticalCenter
         anchors.topMargin: 80
-        text: "正在准备抽奖舞台…"
+        text: qsTr("正在准备抽奖舞台…")
         color: "#FFE9C0"
         font.family: "黑体"
         font.pixelSize: 28

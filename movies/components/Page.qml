@@ -86,7 +86,7 @@ Item {
             hideUnfilled: page.hideUnfilled
             // The winner line of the draw; the console shows a sample in its place.
             useOverride: objName === "scr_luckls" && (!page.preview || rawText === "")
-            override: page.preview ? "恭喜∶中奖名单将在这里滚动显示" : page.luckLine
+            override: page.preview ? qsTr("恭喜∶中奖名单将在这里滚动显示") : page.luckLine
         }
     }
     Component { id: imageKind; ImageObject {} }

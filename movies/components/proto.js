@@ -109,11 +109,18 @@ function style(list, at) {
 // The name of a key code as the hotkey settings show it; "" for a key they cannot set.
 function keyName(code) {
     var c = num(code, 0)
-    if (c >= 65 && c <= 90) return String.fromCharCode(c) + "键"
-    if (c >= 48 && c <= 57) return "数字" + String.fromCharCode(c)
-    if (c >= 96 && c <= 105) return "小键盘数字" + String.fromCharCode(c - 48)
-    var named = { 8: "BackSpace键", 13: "回车键(Enter)", 32: "空格键(Space)", 33: "PageUp键",
-                  34: "PageDown键", 38: "↑键", 40: "↓键", 46: "Delete键" }
+    if (c >= 65 && c <= 90) return qsTranslate("hotkeys", "%1键").arg(String.fromCharCode(c))
+    if (c >= 48 && c <= 57) return qsTranslate("hotkeys", "数字%1").arg(String.fromCharCode(c))
+    if (c >= 96 && c <= 105)
+        return qsTranslate("hotkeys", "小键盘数字%1").arg(String.fromCharCode(c - 48))
+    var named = { 8: qsTranslate("hotkeys", "BackSpace键"),
+                  13: qsTranslate("hotkeys", "回车键(Enter)"),
+                  32: qsTranslate("hotkeys", "空格键(Space)"),
+                  33: qsTranslate("hotkeys", "PageUp键"),
+                  34: qsTranslate("hotkeys", "PageDown键"),
+                  38: qsTranslate("hotkeys", "↑键"),
+                  40: qsTranslate("hotkeys", "↓键"),
+                  46: qsTranslate("hotkeys", "Delete键") }
     return named[c] || ""
 }
 
@@ -121,9 +128,9 @@ function keyName(code) {
 function keyHint(startCode, stopCode) {
     var start = keyName(startCode), stop = keyName(stopCode)
     if (start === "") return ""
-    if (stop === "") return "按 " + start + " 开始抽奖"
-    if (stop === start) return "按 " + start + " 开始抽奖，再按一次停止"
-    return "按 " + start + " 开始抽奖，按 " + stop + " 停止"
+    if (stop === "") return qsTranslate("stage", "按 %1 开始抽奖").arg(start)
+    if (stop === start) return qsTranslate("stage", "按 %1 开始抽奖，再按一次停止").arg(start)
+    return qsTranslate("stage", "按 %1 开始抽奖，按 %2 停止").arg(start).arg(stop)
 }
 
 // True when a template text carries an award variable.

@@ -161,7 +161,7 @@ QString DesignerDocument::addText() {
     const int depth =
         qint16(store::getNextID(QStringLiteral("LuckObj"), QStringLiteral("ObjDepth"), db()));
     const QPoint at = m_insertAt;
-    const bool ok = record(QStringLiteral("添加文字"), [&] {
+    const bool ok = record(tr("添加文字"), [&] {
         m_stage.setVariable(proto::vbAddTxt, addTextPayload(name, depth, at.x(), at.y()));
         return store::exec(
             db(),
@@ -170,7 +170,7 @@ QString DesignerDocument::addText() {
                            "fItalic,fUnderline,isVisible) VALUES (?,'vbAddTxt',?,?,?,100,"
                            "'0xFFFFFF',50,5,'round',?,'宋体','0x000000',16,'true','false',"
                            "'false',1)"),
-            {name, depth, at.x(), at.y(), QStringLiteral("新增普通文字，双击文字可以进行编辑")});
+            {name, depth, at.x(), at.y(), newTextContent()});
     });
     if (!ok) return QString();
     m_stage.setVariable(proto::selMcByName, selectObjectPayload(name));
@@ -183,7 +183,7 @@ QString DesignerDocument::addScrollText() {
     const int depth =
         qint16(store::getNextID(QStringLiteral("LuckObj"), QStringLiteral("ObjDepth"), db()));
     const QPoint at = m_insertAt;
-    const bool ok = record(QStringLiteral("添加滚动文字"), [&] {
+    const bool ok = record(tr("添加滚动文字"), [&] {
         const bool stored = store::exec(
             db(),
             QStringLiteral("INSERT INTO LuckObj (ObjName,ObjType,ObjDepth,ObjDirection,ObjX,ObjY,"
@@ -191,7 +191,7 @@ QString DesignerDocument::addScrollText() {
                            "fColor,fSize,fBold,fItalic,fUnderline,SrcV,isVisible) VALUES (?,"
                            "'vbAddStxt',?,0,?,?,280,20,'0xFFFFFF',50,'round',5,?,100,'宋体',"
                            "'0x000000',14,'false','false','false',1,1)"),
-            {name, depth, at.x(), at.y(), QStringLiteral("请双击输入滚动文字信息...")});
+            {name, depth, at.x(), at.y(), newScrollTextContent()});
         if (stored)
             m_stage.setVariable(proto::vbAddStxt,
                                 addScrollTextPayload(name, depth, at.x(), at.y()));
@@ -225,7 +225,7 @@ QString DesignerDocument::addFileObject(const QString &sourceFile, const QString
         qint16(store::getNextID(QStringLiteral("LuckObj"), QStringLiteral("ObjDepth"), db()));
     const QPoint at = m_insertAt;
     const bool image = type == proto::vbAddImg;
-    const bool ok = record(image ? QStringLiteral("添加图片") : QStringLiteral("添加动画"), [&] {
+    const bool ok = record(image ? tr("添加图片") : tr("添加动画"), [&] {
         const bool stored = store::exec(
             db(),
             QStringLiteral("INSERT INTO LuckObj (ObjName,ObjType,ObjDepth,ObjX,ObjY,ObjW,ObjH,"
@@ -259,12 +259,11 @@ bool DesignerDocument::storeGeometry(const QString &name, const QString &x, cons
                                      const QString &w, const QString &h) {
     const QString kind = objectKind(name.trimmed());
     if (!isNumber(x) || !isNumber(y)) {
-        ui().message(QStringLiteral("坐标数据错误,非数字类型"), MsgStyle::Critical,
-                     titles::warning);
+        ui().message(tr("坐标数据错误,非数字类型"), MsgStyle::Critical, titles::warning);
         return false;
     }
     const QString objName = name.trimmed();
-    return record(QStringLiteral("移动"), [&] {
+    return record(tr("移动"), [&] {
         if (kind == QLatin1String("txt"))
             return store::exec(db(),
                                QStringLiteral("UPDATE LuckObj SET ObjX=?, ObjY=? WHERE ObjName=?"),
@@ -284,7 +283,7 @@ bool DesignerDocument::storeGeometry(const QString &name, const QString &x, cons
 bool DesignerDocument::nudge(const QString &name, int dx, int dy) {
     ObjRow row;
     if (name.isEmpty() || !readObject(name, &row)) return false;
-    const bool ok = record(QStringLiteral("移动"), [&] {
+    const bool ok = record(tr("移动"), [&] {
         return store::exec(db(),
                            QStringLiteral("UPDATE LuckObj SET ObjX=?, ObjY=? WHERE ObjName=?"),
                            {row.ObjX + dx, row.ObjY + dy, name});
@@ -294,7 +293,7 @@ bool DesignerDocument::nudge(const QString &name, int dx, int dy) {
 }
 
 void DesignerDocument::setVisible(const QString &name, bool visible) {
-    record(visible ? QStringLiteral("显示") : QStringLiteral("隐藏"), [&] {
+    record(visible ? tr("显示") : tr("隐藏"), [&] {
         const bool ok =
             store::exec(db(), QStringLiteral("UPDATE LuckObj SET isVisible=? WHERE ObjName=?"),
                         {visible ? 1 : 0, name});
@@ -311,7 +310,7 @@ DeleteOutcome DesignerDocument::deleteObject(const QString &name) {
     if (objName.isEmpty()) return DeleteOutcome::Nothing;
     if (!isUserObject(objName)) {
         if (!switchableSystemObjects().contains(objName)) {
-            ui().message(QStringLiteral("系统变量不能删除!"), MsgStyle::Critical, titles::warning);
+            ui().message(tr("系统变量不能删除!"), MsgStyle::Critical, titles::warning);
             return DeleteOutcome::Refused;
         }
         setVisible(objName, false);
@@ -325,7 +324,7 @@ DeleteOutcome DesignerDocument::deleteObject(const QString &name) {
                 .toString());
         if (!path.isEmpty() && fileExists(m_appPath + path)) m_removedFiles << m_appPath + path;
     }
-    record(QStringLiteral("删除"), [&] {
+    record(tr("删除"), [&] {
         m_stage.setVariable(proto::delObj, objName);
         return store::exec(db(), QStringLiteral("DELETE FROM LuckObj WHERE ObjName=?"), {objName});
     });
@@ -349,7 +348,7 @@ bool DesignerDocument::moveDepth(const QString &name, bool up) {
     const QString neighbour = query.value(0).toString();
     const int neighbourDepth = query.value(1).toInt();
     query.finish();
-    return record(up ? QStringLiteral("上移一层") : QStringLiteral("下移一层"), [&] {
+    return record(up ? tr("上移一层") : tr("下移一层"), [&] {
         const QString sql = QStringLiteral("UPDATE LuckObj SET ObjDepth=? WHERE ObjName=?");
         const bool ok = store::exec(db(), sql, {neighbourDepth, objName}) &&
                         store::exec(db(), sql, {depth, neighbour});
@@ -380,15 +379,14 @@ bool updateRow(QSqlDatabase db, const QString &table, const QString &name,
 }  // namespace
 
 bool DesignerDocument::updateObject(const QString &name, const QVariantMap &columns) {
-    const bool ok = record(QStringLiteral("编辑"), [&] {
-        return updateRow(db(), QStringLiteral("LuckObj"), name, columns);
-    });
+    const bool ok = record(
+        tr("编辑"), [&] { return updateRow(db(), QStringLiteral("LuckObj"), name, columns); });
     if (ok) refreshObject(name);
     return ok;
 }
 
 bool DesignerDocument::updatePlay(const QString &row, const QVariantMap &columns) {
-    return record(QStringLiteral("样式"),
+    return record(tr("样式"),
                   [&] { return updateRow(db(), QStringLiteral("LuckPlay"), row, columns); });
 }
 

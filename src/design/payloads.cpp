@@ -1,5 +1,7 @@
 #include "design/payloads.h"
 
+#include <QCoreApplication>
+
 #include <cmath>
 
 #include "core/helpers.h"
@@ -239,12 +241,20 @@ StageCommand objectCommand(const ObjRow &row, const PayloadContext &context, Obj
     return command;
 }
 
+QString newTextContent() {
+    return QCoreApplication::translate("design", "新增普通文字，双击文字可以进行编辑");
+}
+
+QString newScrollTextContent() {
+    return QCoreApplication::translate("design", "请双击输入滚动文字信息...");
+}
+
 QString addTextPayload(const QString &name, int depth, int x, int y) {
     Fields fields;
     fields << proto::falseText << name << depth << x << y << 100 << QStringLiteral("0xFFFFFF") << 50
-           << 5 << QStringLiteral("round") << QStringLiteral("新增普通文字，双击文字可以进行编辑")
-           << QStringLiteral("宋体") << QStringLiteral("0x000000") << 16 << proto::trueText
-           << proto::falseText << proto::falseText;
+           << 5 << QStringLiteral("round") << newTextContent() << QStringLiteral("宋体")
+           << QStringLiteral("0x000000") << 16 << proto::trueText << proto::falseText
+           << proto::falseText;
     return fields.text();
 }
 
@@ -252,9 +262,8 @@ QString addScrollTextPayload(const QString &name, int depth, int x, int y) {
     Fields fields;
     fields << proto::trueText << name << depth << 0 << x << y << 280 << 20
            << QStringLiteral("0xFFFFFF") << 50 << QStringLiteral("round") << 5
-           << QStringLiteral("请双击输入滚动文字信息...") << 100 << QStringLiteral("宋体")
-           << QStringLiteral("0x000000") << 14 << proto::falseText << proto::falseText
-           << proto::falseText << 1;
+           << newScrollTextContent() << 100 << QStringLiteral("宋体") << QStringLiteral("0x000000")
+           << 14 << proto::falseText << proto::falseText << proto::falseText << 1;
     return fields.text();
 }
 
@@ -388,7 +397,7 @@ QString luckPlayPayload(const QString &style, const QString &awardName, const QS
                         int titleType, int runningNumber, const QStringList &names,
                         const QList<int> &ids) {
     QString title = awardName;
-    if (titleType != 0) title += QStringLiteral("  奖品∶") + prizeName;
+    if (titleType != 0) title += QCoreApplication::translate("design", "  奖品∶") + prizeName;
     QString nameList;
     for (const QString &item : names)
         nameList += safeName(item) + proto::kItemSep;

@@ -96,6 +96,9 @@ bool isPrizePicture(const ObjRow &row);
 QString prizePictureHeadOf(const ObjRow &row);
 
 // The designer's payloads at the moment of adding an object.
+// What a new text and a new scrolling text say until the operator edits them.
+QString newTextContent();
+QString newScrollTextContent();
 QString addTextPayload(const QString &name, int depth, int x, int y);
 QString addScrollTextPayload(const QString &name, int depth, int x, int y);
 QString addImagePayload(const QString &name, int depth, int x, int y, const QString &absolutePath);

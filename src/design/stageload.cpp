@@ -1,5 +1,6 @@
 #include "design/stageload.h"
 
+#include <QCoreApplication>
 #include <QSqlError>
 #include <QSqlQuery>
 
@@ -109,8 +110,8 @@ QString longestUserName(QSqlDatabase store) {
 QString loadBlockValue(QSqlDatabase templateDb, const LoadBlockValues &values) {
     const PlayRow row = readPlay(templateDb, rows::blockValue);
     if (!row.found)
-        ui().message(QStringLiteral("找不到抽奖滚动文字样式数据!"), MsgStyle::Critical,
-                     titles::error);
+        ui().message(QCoreApplication::translate("design", "找不到抽奖滚动文字样式数据!"),
+                     MsgStyle::Critical, titles::error);
     return loadBlockPayload(values, row);
 }
 

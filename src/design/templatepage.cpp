@@ -1,5 +1,6 @@
 #include "design/templatepage.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QSqlDatabase>
@@ -45,16 +46,18 @@ QString templatePath(const QString &appPath, const QString &name) {
 }
 
 SizeCheck checkStageSize(const QString &width, const QString &height) {
-    if (!isNumber(width)) return {QStringLiteral("分辨率宽度需要输入数字"), true};
-    if (!isNumber(height)) return {QStringLiteral("分辨率高度需要输入数字"), false};
+    if (!isNumber(width))
+        return {QCoreApplication::translate("design", "分辨率宽度需要输入数字"), true};
+    if (!isNumber(height))
+        return {QCoreApplication::translate("design", "分辨率高度需要输入数字"), false};
     if (width.trimmed().toLongLong() < 257)
-        return {QStringLiteral("分辨率宽度最小不低于257px"), true};
+        return {QCoreApplication::translate("design", "分辨率宽度最小不低于257px"), true};
     if (height.trimmed().toLongLong() < 177)
-        return {QStringLiteral("分辨率高度不能低于177px"), false};
+        return {QCoreApplication::translate("design", "分辨率高度不能低于177px"), false};
     if (width.trimmed().toLongLong() > kMaxStageSide)
-        return {QStringLiteral("分辨率宽度最大不能超过32767px"), true};
+        return {QCoreApplication::translate("design", "分辨率宽度最大不能超过32767px"), true};
     if (height.trimmed().toLongLong() > kMaxStageSide)
-        return {QStringLiteral("分辨率高度最大不能超过32767px"), false};
+        return {QCoreApplication::translate("design", "分辨率高度最大不能超过32767px"), false};
     return {};
 }
 
@@ -83,10 +86,11 @@ bool copyToWorkingFile(const QString &appPath, const QString &templateName) {
 
 RestoreResult restoreFactoryTemplate(const QString &appPath, const QString &templateFile) {
     const QString backup = appPath + QStringLiteral("skin/bak/") + getFileName(templateFile);
-    if (!fileExists(backup)) return {false, QStringLiteral("找不到原始数据文件无法恢复...")};
+    if (!fileExists(backup))
+        return {false, QCoreApplication::translate("design", "找不到原始数据文件无法恢复...")};
     const bool ok = replaceFile(backup, templateFile) &&
                     replaceFile(backup, appPath + QStringLiteral("skin/sdb.tmp"));
-    return {ok, QStringLiteral("正在打开备份文件...")};
+    return {ok, QCoreApplication::translate("design", "正在打开备份文件...")};
 }
 
 }  // namespace design

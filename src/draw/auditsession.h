@@ -3,6 +3,7 @@
 #include <QSqlDatabase>
 #include <QString>
 
+#include "core/language.h"
 #include "draw/audit.h"
 #include "draw/drawsecret.h"
 
@@ -56,6 +57,7 @@ inline const QString close = QStringLiteral("close");
 // Appends an event to the program folder's log. False when it could not be written.
 bool logDrawEvent(const AuditEvent &event);
 // The message of a draw event that could not be logged and therefore did not happen.
-inline const QString kAuditWriteFailed = QStringLiteral("无法写入抽奖记录");
+inline const TranslatedText kAuditWriteFailed{"draw",
+                                              QT_TRANSLATE_NOOP("draw", "无法写入抽奖记录")};
 
 }  // namespace draw

@@ -105,7 +105,7 @@ bool DrawEngine::loadAward(int id, bool resetButtons) {
                        "WHERE ID=? LIMIT 1"));
     query.addBindValue(id);
     if (!query.exec() || !query.next()) {
-        warn(QStringLiteral("找不到指定的奖项!"));
+        warn(tr("找不到指定的奖项!"));
         return false;
     }
     LoadedAward award;
@@ -123,9 +123,8 @@ bool DrawEngine::loadAward(int id, bool resetButtons) {
          design::awardPanelPayload({award.name, plan.slotCount, plan.batches, plan.remaining,
                                     award.prizeName, award.picturePath}));
     const QString names = winnersText(winners);
-    send(proto::updateLuckLst,
-         names.isEmpty() ? QStringLiteral("当前奖项暂无获奖名单...")
-                         : QStringLiteral("恭喜∶") + names + QStringLiteral("获得") + award.name);
+    send(proto::updateLuckLst, names.isEmpty() ? tr("当前奖项暂无获奖名单...")
+                                               : tr("恭喜∶%1获得%2").arg(names, award.name));
     const bool awardChanges = id != m_session.award.id;
     // Moving to another award, like a give-up or a make-up (which reload with resetButtons),
     // ends the chance to take the last batch back: it belongs to the award it was drawn on.
@@ -185,7 +184,7 @@ void DrawEngine::firstOpenAward(bool resetButtons) {
         }
     }
     if (!any) {
-        warn(QStringLiteral("当前未设置任何奖项,请先添加奖项!"));
+        warn(tr("当前未设置任何奖项,请先添加奖项!"));
         return;
     }
     Q_EMIT allAwardsFull();
@@ -220,7 +219,7 @@ DrawEngine::StartOutcome DrawEngine::pressStart() {
     if (!drawWinners()) {
         send(proto::changBtn, proto::buttons::defulte);
         m_session.drawState = Idle;
-        ui().message(kAuditWriteFailed + QStringLiteral(",本次抽奖未进行!"), MsgStyle::Critical,
+        ui().message(tr("%1,本次抽奖未进行!").arg(QString(kAuditWriteFailed)), MsgStyle::Critical,
                      titles::error);
         return StartOutcome::NotLogged;
     }
@@ -230,7 +229,7 @@ DrawEngine::StartOutcome DrawEngine::pressStart() {
         Q_EMIT drawEmpty();
         send(proto::changBtn, proto::buttons::defulte);
         m_session.drawState = Idle;
-        warn(QStringLiteral("已无符合条件的抽奖名单可抽取!"));
+        warn(tr("已无符合条件的抽奖名单可抽取!"));
         return StartOutcome::Empty;
     }
     if (m_blockStyle) send(proto::vbLoadBlock, m_blockStyle(m_session.batchCount));
@@ -452,8 +451,7 @@ bool DrawEngine::recordWinners() {
 
 bool DrawEngine::cancelLastBatch() {
     if (!m_session.canCancel) return false;
-    if (!ui().question(QStringLiteral("确定要撤消此次产生的中奖结果么?"), titles::notice))
-        return false;
+    if (!ui().question(tr("确定要撤消此次产生的中奖结果么?"), titles::notice)) return false;
 
     const QString marker = store::awardMarker(m_session.award.id);
     QSqlDatabase db = store::mainConn();
@@ -479,7 +477,7 @@ bool DrawEngine::cancelLastBatch() {
     if (!logged || !db.commit()) db.rollback();
     keepRosterAfterOwnWrite(before);
     if (!logged) {
-        ui().message(kAuditWriteFailed + QStringLiteral(",本次撤消未进行!"), MsgStyle::Critical,
+        ui().message(tr("%1,本次撤消未进行!").arg(QString(kAuditWriteFailed)), MsgStyle::Critical,
                      titles::error);
         return false;
     }
@@ -493,8 +491,7 @@ bool DrawEngine::cancelLastBatch() {
 }
 
 bool DrawEngine::restartDraw(const WinnerExporter &exportWinners) {
-    if (!ui().question(QStringLiteral("您确定要删除所有中奖信息,重新开始抽奖么?"),
-                       QStringLiteral("重要提示")))
+    if (!ui().question(tr("您确定要删除所有中奖信息,重新开始抽奖么?"), tr("重要提示")))
         return false;
     const QString snapshot = historySnapshotPath(appState().appPath, QDateTime::currentDateTime());
     if (!exportWinners || !exportWinners(snapshot)) return false;

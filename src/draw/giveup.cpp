@@ -1,5 +1,6 @@
 #include "draw/giveup.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -79,7 +80,7 @@ GiveUpPage giveUpPage(QSqlDatabase db, const QString &keyword, int pageNo) {
 }
 
 QString pageInfo(const GiveUpPage &page) {
-    return QStringLiteral("总计∶%1 人, 当前第%2页/共%3页")
+    return QCoreApplication::translate("draw", "总计∶%1 人, 当前第%2页/共%3页")
         .arg(page.total)
         .arg(page.pageNo)
         .arg(page.pages);
@@ -88,11 +89,11 @@ QString pageInfo(const GiveUpPage &page) {
 StatusLook giveUpStatus(int status) {
     switch (status) {
         case 1:
-            return {QStringLiteral("已弃奖"), QColor(255, 0, 0)};
+            return {QCoreApplication::translate("draw", "已弃奖"), QColor(255, 0, 0)};
         case 2:
-            return {QStringLiteral("已领奖"), QColor(0, 0, 255)};
+            return {QCoreApplication::translate("draw", "已领奖"), QColor(0, 0, 255)};
         case 3:
-            return {QStringLiteral("已中奖"), QColor(18, 118, 0)};
+            return {QCoreApplication::translate("draw", "已中奖"), QColor(18, 118, 0)};
         default:
             return {};
     }

@@ -1,5 +1,6 @@
 #include "draw/makeup.h"
 
+#include <QCoreApplication>
 #include <QSqlError>
 #include <QSqlQuery>
 
@@ -76,9 +77,11 @@ int slotsOf(QSqlDatabase db, int awardId) {
 
 MakeupFault checkAddedSlots(const QString &typed, int slotsNow) {
     const std::optional<qint64> value = wholeNumber(typed);
-    if (!value || *value < 1) return {QStringLiteral("至少追加一个名额!"), MakeupField::AddedSlots};
+    if (!value || *value < 1)
+        return {QCoreApplication::translate("draw", "至少追加一个名额!"), MakeupField::AddedSlots};
     if (*value + qMax(slotsNow, 0) > kMaxSlots)
-        return {QStringLiteral("追加后奖品名额最多为32767个"), MakeupField::AddedSlots};
+        return {QCoreApplication::translate("draw", "追加后奖品名额最多为32767个"),
+                MakeupField::AddedSlots};
     return {};
 }
 
@@ -97,22 +100,24 @@ bool addSlots(QSqlDatabase db, int awardId, int count, QString *error) {
                               .add(QStringLiteral("award"), awardId)
                               .add(QStringLiteral("added"), count),
                           error);
-        if (error) *error = QStringLiteral("找不到指定的奖项!");
+        if (error) *error = QCoreApplication::translate("draw", "找不到指定的奖项!");
         return false;
     });
 }
 
 MakeupFault checkNewAward(const NewAward &award) {
     if (award.name.trimmed().isEmpty())
-        return {QStringLiteral("请输入奖项名称!"), MakeupField::AwardName};
-    MakeupFault fault = countFault(award.slotCount, QStringLiteral("至少存在1个名额"),
-                                   QStringLiteral("奖品名额最多为32767个"), MakeupField::SlotCount);
+        return {QCoreApplication::translate("draw", "请输入奖项名称!"), MakeupField::AwardName};
+    MakeupFault fault = countFault(
+        award.slotCount, QCoreApplication::translate("draw", "至少存在1个名额"),
+        QCoreApplication::translate("draw", "奖品名额最多为32767个"), MakeupField::SlotCount);
     if (fault.failed()) return fault;
-    fault = countFault(award.batchCount, QStringLiteral("至少存在1个抽奖批次"),
-                       QStringLiteral("抽奖批次最多为32767次"), MakeupField::BatchCount);
+    fault = countFault(award.batchCount, QCoreApplication::translate("draw", "至少存在1个抽奖批次"),
+                       QCoreApplication::translate("draw", "抽奖批次最多为32767次"),
+                       MakeupField::BatchCount);
     if (fault.failed()) return fault;
     if (award.prizeName.trimmed().isEmpty())
-        return {QStringLiteral("奖品名称不能为空"), MakeupField::PrizeName};
+        return {QCoreApplication::translate("draw", "奖品名称不能为空"), MakeupField::PrizeName};
     return {};
 }
 

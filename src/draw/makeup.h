@@ -4,6 +4,8 @@
 #include <QSqlDatabase>
 #include <QString>
 
+#include "core/language.h"
+
 // The make-up of the draw screen: more slots for an award, or a whole new award, in the middle
 // of an evening. No widgets: MakeUpDrawDialog holds the controls and calls this. The batch plan
 // follows by itself, since it is worked out from JXNum at every load.
@@ -49,7 +51,8 @@ struct NewAward {
 
 // The first failing rule in the order of the tab's fields.
 MakeupFault checkNewAward(const NewAward &award);
-inline const QString kAwardsFullMessage = QStringLiteral("奖项编号已到上限32767,不能再增加奖项!");
+inline const TranslatedText kAwardsFullMessage{
+    "draw", QT_TRANSLATE_NOOP("draw", "奖项编号已到上限32767,不能再增加奖项!")};
 // Inserts the award last in the draw order, without a picture and with no distinction range.
 // Returns its ID, or 0 with the reason in error (also when no 16-bit ID or position is left).
 int insertAward(QSqlDatabase db, const NewAward &award, QString *error);

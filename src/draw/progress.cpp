@@ -1,5 +1,6 @@
 #include "draw/progress.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QSqlQuery>
 
@@ -76,13 +77,15 @@ bool clearAllWins(QSqlDatabase db) {
 bool oneKeyReset(QSqlDatabase db, const QString &progressText,
                  const WinnerExporter &exportWinners) {
     if (progressText == QStringLiteral("0%")) return clearAllWins(db);
-    if (!ui().question(QStringLiteral("重要提示∶\n确认要清空所有中奖记录,复原至初始状态么?"),
+    if (!ui().question(QCoreApplication::translate(
+                           "draw", "重要提示∶\n确认要清空所有中奖记录,复原至初始状态么?"),
                        titles::warning))
         return false;
     const QString snapshot = historySnapshotPath(appState().appPath, QDateTime::currentDateTime());
     if (!exportWinners || !exportWinners(snapshot)) return false;
     if (!clearAllWins(db)) return false;
-    ui().message(QStringLiteral("已恢复至初始抽奖状态!"), MsgStyle::Information, titles::notice);
+    ui().message(QCoreApplication::translate("draw", "已恢复至初始抽奖状态!"),
+                 MsgStyle::Information, titles::notice);
     return true;
 }
 

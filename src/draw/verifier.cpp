@@ -1,5 +1,6 @@
 #include "draw/verifier.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -110,7 +111,8 @@ size_t Replay::verdictOf(const AuditEvent &event) {
     SessionState &state = m_sessions[session];
     if (number <= state.lastPress || number - state.lastPress > kMaxGap) return m_lastVerdict;
     for (quint64 missing = state.lastPress + 1; missing <= number; ++missing)
-        problem(newVerdict(session, missing, 0), QStringLiteral("此次抽奖的记录缺失"));
+        problem(newVerdict(session, missing, 0),
+                QCoreApplication::translate("verifier", "此次抽奖的记录缺失"));
     state.lastPress = number;
     return m_verdicts[idOf(session, number)];
 }
@@ -121,7 +123,8 @@ void Replay::line(int number, const QString &text) {
     m_previousLine = bytes;
     AuditLine parsed;
     if (!parseAuditLine(text, &parsed)) {
-        problem(m_lastVerdict, QStringLiteral("第%1行无法读取").arg(number));
+        problem(m_lastVerdict,
+                QCoreApplication::translate("verifier", "第%1行无法读取").arg(number));
         m_previousSeq = -1;
         return;
     }
@@ -133,7 +136,8 @@ void Replay::line(int number, const QString &text) {
     const bool chained = parsed.prev == previousHash;
     m_seenHashes.insert(sha256Hex(bytes));
     if (inOrder && chained) return;
-    const QString broken = QStringLiteral("记录链在第%1行断开").arg(number);
+    const QString broken =
+        QCoreApplication::translate("verifier", "记录链在第%1行断开").arg(number);
     // In order but not chained: the line before was edited. Chained to a line met earlier: that
     // line was moved, and its own place says so. Otherwise this line was moved or what came
     // before it was removed.
@@ -157,7 +161,8 @@ size_t Replay::handle(const AuditEvent &event, int lineNumber) {
     else if (kind == auditevent::close)
         close(event);
     else if (kind != auditevent::addSlots && kind != auditevent::newAward)
-        problem(m_lastVerdict, QStringLiteral("第%1行的事件无法识别").arg(lineNumber));
+        problem(m_lastVerdict,
+                QCoreApplication::translate("verifier", "第%1行的事件无法识别").arg(lineNumber));
     return m_lastVerdict;
 }
 
@@ -170,12 +175,14 @@ void Replay::open(const AuditEvent &event) {
     Roster roster;
     if (!parseRosterFile(bytes, &roster) ||
         !parseStandings(event.value(QStringLiteral("standing")), &m_standings)) {
-        problem(kNone, QStringLiteral("会话 %1 的名单快照缺失或无法读取").arg(session));
+        problem(kNone, QCoreApplication::translate("verifier", "会话 %1 的名单快照缺失或无法读取")
+                           .arg(session));
         return;
     }
     if (sha256Hex(bytes) != hash ||
         qint64(roster.ids.size()) != event.value(QStringLiteral("rows")).toLongLong())
-        problem(kNone, QStringLiteral("会话 %1 的名单快照已被改动").arg(session));
+        problem(kNone,
+                QCoreApplication::translate("verifier", "会话 %1 的名单快照已被改动").arg(session));
     m_roster = std::move(roster);
     state.usable = true;
 }
@@ -188,31 +195,33 @@ size_t Replay::press(const AuditEvent &event) {
     const bool plausible = logged.number - state.lastPress <= kMaxGap;
     for (quint64 missing = state.lastPress + 1; readable && plausible && missing < logged.number;
          ++missing)
-        problem(newVerdict(session, missing, 0), QStringLiteral("此次抽奖的记录缺失"));
+        problem(newVerdict(session, missing, 0),
+                QCoreApplication::translate("verifier", "此次抽奖的记录缺失"));
     const size_t verdict = newVerdict(session, logged.number, logged.awardId);
     m_lastVerdict = verdict;
     if (!readable) {
-        problem(verdict, QStringLiteral("抽奖记录无法读取"));
+        problem(verdict, QCoreApplication::translate("verifier", "抽奖记录无法读取"));
         return verdict;
     }
-    if (logged.number <= state.lastPress) problem(verdict, QStringLiteral("抽奖序号重复或倒退"));
+    if (logged.number <= state.lastPress)
+        problem(verdict, QCoreApplication::translate("verifier", "抽奖序号重复或倒退"));
     state.lastPress = std::max(state.lastPress, logged.number);
     state.seeds.push_back({verdict, logged.seed});
     m_pressOf[verdict] = logged;
     if (!state.usable) {
-        problem(verdict, QStringLiteral("找不到此次抽奖所依据的名单"));
+        problem(verdict, QCoreApplication::translate("verifier", "找不到此次抽奖所依据的名单"));
         return verdict;
     }
     const Candidates pool =
         selectCandidates(m_roster, excludedBy(m_standings, logged.rule), logged.rule);
     if (pool.count() != logged.candidateCount)
-        problem(verdict, QStringLiteral("候选人数不符: 记录%1人, 重建%2人")
+        problem(verdict, QCoreApplication::translate("verifier", "候选人数不符: 记录%1人, 重建%2人")
                              .arg(logged.candidateCount)
                              .arg(pool.count()));
     else if (candidateDigest(pool) != logged.digest)
-        problem(verdict, QStringLiteral("候选名单摘要不符"));
+        problem(verdict, QCoreApplication::translate("verifier", "候选名单摘要不符"));
     if (pickWinners(pool.primary, pool.fallback, logged.seed, logged.batchCount) != logged.winners)
-        problem(verdict, QStringLiteral("中奖名单与种子推算的结果不符"));
+        problem(verdict, QCoreApplication::translate("verifier", "中奖名单与种子推算的结果不符"));
     return verdict;
 }
 
@@ -225,11 +234,11 @@ size_t Replay::record(const AuditEvent &event) {
     batch.storedAt = event.value(QStringLiteral("stored"));
     if (!parseIdList(event.value(QStringLiteral("winners")), &batch.winners) ||
         press == m_pressOf.end() || verdict != m_lastVerdict || m_batchOf.count(verdict) != 0) {
-        problem(verdict, QStringLiteral("入库记录找不到对应的抽奖"));
+        problem(verdict, QCoreApplication::translate("verifier", "入库记录找不到对应的抽奖"));
         return verdict;
     }
     if (batch.winners != press->second.winners || batch.awardId != press->second.awardId)
-        problem(verdict, QStringLiteral("入库名单与抽出的名单不符"));
+        problem(verdict, QCoreApplication::translate("verifier", "入库名单与抽出的名单不符"));
     report.presses[verdict].recorded = true;
     for (qint64 id : batch.winners) {
         Standing &standing = m_standings[id];
@@ -251,7 +260,7 @@ size_t Replay::cancel(const AuditEvent &event) {
     std::vector<qint64> ids;
     const auto batch = m_batchOf.find(verdict);
     if (!parseIdList(event.value(QStringLiteral("winners")), &ids) || batch == m_batchOf.end()) {
-        problem(verdict, QStringLiteral("撤消记录找不到对应的入库"));
+        problem(verdict, QCoreApplication::translate("verifier", "撤消记录找不到对应的入库"));
         return verdict;
     }
     report.presses[verdict].cancelled = true;
@@ -270,7 +279,7 @@ size_t Replay::cancel(const AuditEvent &event) {
 void Replay::giveUp(const AuditEvent &event) {
     std::vector<qint64> ids;
     if (!parseIdList(event.value(QStringLiteral("ids")), &ids)) {
-        problem(m_lastVerdict, QStringLiteral("弃奖记录无法读取"));
+        problem(m_lastVerdict, QCoreApplication::translate("verifier", "弃奖记录无法读取"));
         return;
     }
     for (qint64 id : ids) {
@@ -292,15 +301,17 @@ void Replay::close(const AuditEvent &event) {
     const quint64 presses = event.value(QStringLiteral("presses")).toULongLong();
     for (quint64 missing = state.lastPress + 1;
          missing <= presses && presses - state.lastPress <= kMaxGap; ++missing)
-        problem(newVerdict(session, missing, 0), QStringLiteral("此次抽奖的记录缺失"));
+        problem(newVerdict(session, missing, 0),
+                QCoreApplication::translate("verifier", "此次抽奖的记录缺失"));
     const QByteArray secret = QByteArray::fromHex(event.value(QStringLiteral("secret")).toLatin1());
     const bool committed = sha256Hex(secret) == state.commit;
     for (const auto &[verdict, seed] : state.seeds) {
         report.presses[verdict].revealed = true;
         if (!committed)
-            problem(verdict, QStringLiteral("公开的密钥与开场时的承诺不符"));
+            problem(verdict,
+                    QCoreApplication::translate("verifier", "公开的密钥与开场时的承诺不符"));
         else if (DrawSecret::pressSeed(secret, report.presses[verdict].number) != seed)
-            problem(verdict, QStringLiteral("种子不是由会话密钥推出的"));
+            problem(verdict, QCoreApplication::translate("verifier", "种子不是由会话密钥推出的"));
     }
 }
 
@@ -328,7 +339,9 @@ void Replay::checkStore(QSqlDatabase store) {
         for (qint64 id : batch.live) {
             const auto found = stored.find(id);
             if (found == stored.end() || !found->second.standing.holds(batch.awardId))
-                problem(batch.verdict, QStringLiteral("库中已没有中奖者 %1 的这次中奖").arg(id));
+                problem(batch.verdict,
+                        QCoreApplication::translate("verifier", "库中已没有中奖者 %1 的这次中奖")
+                            .arg(id));
         }
     }
     // All winners of one batch carry its time: anybody else with that time and award was
@@ -342,7 +355,8 @@ void Replay::checkStore(QSqlDatabase store) {
             if (logged.count(it->second) || !stored[it->second].standing.holds(key.first)) continue;
             for (size_t i : members)
                 problem(m_batches[i].verdict,
-                        QStringLiteral("库中这一批多出了未记录的中奖者 %1").arg(it->second));
+                        QCoreApplication::translate("verifier", "库中这一批多出了未记录的中奖者 %1")
+                            .arg(it->second));
         }
     }
 }
@@ -380,7 +394,8 @@ VerifyReport verifyProgramFolder(const QString &appPath, QSqlDatabase store) {
     QFile log(auditLogPath(appPath));
     VerifyReport report;
     if (!log.open(QIODevice::ReadOnly)) {
-        report.problems << QStringLiteral("找不到抽奖记录 ") + auditLogPath(appPath);
+        report.problems << QCoreApplication::translate("verifier", "找不到抽奖记录 ") +
+                               auditLogPath(appPath);
         return report;
     }
     const auto readRosterFile = [&appPath](const QString &hash) {
@@ -391,15 +406,17 @@ VerifyReport verifyProgramFolder(const QString &appPath, QSqlDatabase store) {
 }
 
 QString verdictText(const PressVerdict &verdict) {
-    QString text = QStringLiteral("会话 %1 第%2次 奖项%3: ")
+    QString text = QCoreApplication::translate("verifier", "会话 %1 第%2次 奖项%3: ")
                        .arg(verdict.session.toUpper())
                        .arg(verdict.number)
                        .arg(verdict.awardId);
-    text += verdict.holds() ? QStringLiteral("相符") : QStringLiteral("不符");
+    text += verdict.holds() ? QCoreApplication::translate("verifier", "相符")
+                            : QCoreApplication::translate("verifier", "不符");
     QStringList notes;
     if (verdict.recorded)
-        notes << (verdict.cancelled ? QStringLiteral("已撤消") : QStringLiteral("已入库"));
-    if (!verdict.revealed) notes << QStringLiteral("密钥未公开");
+        notes << (verdict.cancelled ? QCoreApplication::translate("verifier", "已撤消")
+                                    : QCoreApplication::translate("verifier", "已入库"));
+    if (!verdict.revealed) notes << QCoreApplication::translate("verifier", "密钥未公开");
     if (!notes.isEmpty())
         text += QStringLiteral(" (") + notes.join(QStringLiteral(", ")) + QLatin1Char(')');
     for (const QString &problem : verdict.problems)
@@ -409,16 +426,19 @@ QString verdictText(const PressVerdict &verdict) {
 
 QString summaryText(const VerifyReport &report) {
     const int total = int(report.presses.size());
-    QString text = QStringLiteral("共%1行记录, %2次抽奖: %3次相符, %4次不符")
-                       .arg(report.lines)
-                       .arg(total)
-                       .arg(total - report.failedCount())
-                       .arg(report.failedCount());
+    QString text =
+        QCoreApplication::translate("verifier", "共%1行记录, %2次抽奖: %3次相符, %4次不符")
+            .arg(report.lines)
+            .arg(total)
+            .arg(total - report.failedCount())
+            .arg(report.failedCount());
     if (report.unrevealedCount() > 0)
-        text += QStringLiteral(", 其中%1次的会话密钥尚未公开(只按记录的种子核对)")
+        text += QCoreApplication::translate("verifier",
+                                            ", 其中%1次的会话密钥尚未公开(只按记录的种子核对)")
                     .arg(report.unrevealedCount());
     text += QLatin1Char('\n');
-    text += report.holds() ? QStringLiteral("结论: 全部相符") : QStringLiteral("结论: 有不符之处");
+    text += report.holds() ? QCoreApplication::translate("verifier", "结论: 全部相符")
+                           : QCoreApplication::translate("verifier", "结论: 有不符之处");
     return text;
 }
 

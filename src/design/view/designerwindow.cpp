@@ -34,13 +34,14 @@ namespace {
 
 QString geometryText(const QString &head, const QStringList &f) {
     return head + QStringLiteral(" X=") + f.value(1) + QStringLiteral(" Y=") + f.value(2) +
-           QStringLiteral("  宽度:") + f.value(3) + QStringLiteral(" 高度:") + f.value(4);
+           QCoreApplication::translate("DesignerWindow", "  宽度:") + f.value(3) +
+           QCoreApplication::translate("DesignerWindow", " 高度:") + f.value(4);
 }
 
 }  // namespace
 
 DesignerWindow::DesignerWindow(QWidget *parent) : QDialog(parent) {
-    setWindowTitle(QStringLiteral("模板编辑"));
+    setWindowTitle(tr("模板编辑"));
     setObjectName(QStringLiteral("DesignerWindow"));
     setMinimumSize(866, 544);
     resize(1280, 760);
@@ -65,11 +66,11 @@ DesignerWindow::DesignerWindow(QWidget *parent) : QDialog(parent) {
     m_tabs->setStyleSheet(QStringLiteral("QTabBar::tab { padding: 6px 0px; }"));
     m_drawAreaPanel = new DrawAreaPanel(*m_document, *m_stage, this);
     m_playbackPanel = new PlaybackPanel(*m_document, *m_stage, this);
-    m_tabs->addTab(buildObjectsTab(), QStringLiteral("  抽奖界面设计  "));
-    m_tabs->addTab(buildStyleTab(QStringLiteral("抽奖时滚动文字样式设计"), m_drawAreaPanel),
-                   QStringLiteral("  抽奖滚动文字样式设计  "));
-    m_tabs->addTab(buildStyleTab(QStringLiteral("播放中奖时文字样式设计"), m_playbackPanel),
-                   QStringLiteral("  播放中奖文字样式设计  "));
+    m_tabs->addTab(buildObjectsTab(), tr("  抽奖界面设计  "));
+    m_tabs->addTab(buildStyleTab(tr("抽奖时滚动文字样式设计"), m_drawAreaPanel),
+                   tr("  抽奖滚动文字样式设计  "));
+    m_tabs->addTab(buildStyleTab(tr("播放中奖时文字样式设计"), m_playbackPanel),
+                   tr("  播放中奖文字样式设计  "));
 
     auto *middle = new QHBoxLayout;
     middle->addWidget(buildPage(), 1);
@@ -77,7 +78,7 @@ DesignerWindow::DesignerWindow(QWidget *parent) : QDialog(parent) {
     layout->addLayout(middle, 1);
 
     auto *status = new QStatusBar(this);
-    status->addWidget(new QLabel(QStringLiteral("Quellio抽奖软件界面设计器 Ver 2016"), status));
+    status->addWidget(new QLabel(tr("Quellio抽奖软件界面设计器 Ver 2016"), status));
     m_geometryLabel = new QLabel(status);
     m_geometryLabel->setObjectName(QStringLiteral("geometryLabel"));
     status->addWidget(m_geometryLabel, 1);
@@ -107,22 +108,21 @@ void DesignerWindow::buildToolBar(QLayout *layout) {
     auto *bar = new QToolBar(this);
     bar->setObjectName(QStringLiteral("toolBar"));
     bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    QAction *exit = bar->addAction(QStringLiteral("退出设计"), this, &QWidget::close);
+    QAction *exit = bar->addAction(tr("退出设计"), this, &QWidget::close);
     exit->setObjectName(QStringLiteral("exitAction"));
-    exit->setToolTip(QStringLiteral("返回到主界面"));
+    exit->setToolTip(tr("返回到主界面"));
     bar->addSeparator();
-    m_saveAction = bar->addAction(QStringLiteral("保存修改"), this, &DesignerWindow::save);
+    m_saveAction = bar->addAction(tr("保存修改"), this, &DesignerWindow::save);
     m_saveAction->setObjectName(QStringLiteral("saveAction"));
-    QAction *restore =
-        bar->addAction(QStringLiteral("一键还原"), this, &DesignerWindow::restoreTemplate);
+    QAction *restore = bar->addAction(tr("一键还原"), this, &DesignerWindow::restoreTemplate);
     restore->setObjectName(QStringLiteral("restoreAction"));
-    restore->setToolTip(QStringLiteral("将界面恢复到默认状态"));
+    restore->setToolTip(tr("将界面恢复到默认状态"));
     bar->addSeparator();
     QUndoStack *history = m_document->undoStack();
-    QAction *undo = history->createUndoAction(this, QStringLiteral("撤销"));
+    QAction *undo = history->createUndoAction(this, tr("撤销"));
     undo->setObjectName(QStringLiteral("undoAction"));
     undo->setShortcut(QKeySequence::Undo);
-    QAction *redo = history->createRedoAction(this, QStringLiteral("重做"));
+    QAction *redo = history->createRedoAction(this, tr("重做"));
     redo->setObjectName(QStringLiteral("redoAction"));
     redo->setShortcuts(
         {QKeySequence(QStringLiteral("Ctrl+Y")), QKeySequence(QStringLiteral("Ctrl+Shift+Z"))});
@@ -133,7 +133,7 @@ void DesignerWindow::buildToolBar(QLayout *layout) {
     m_zoomCombo->setObjectName(QStringLiteral("zoomCombo"));
     m_zoomCombo->addItems({QStringLiteral("100%"), QStringLiteral("75%"), QStringLiteral("50%"),
                            QStringLiteral("25%")});
-    m_zoomCombo->setToolTip(QStringLiteral("缩放编辑窗口"));
+    m_zoomCombo->setToolTip(tr("缩放编辑窗口"));
     bar->addWidget(m_zoomCombo);
     connect(m_zoomCombo, &QComboBox::currentTextChanged, this, &DesignerWindow::applyZoom);
     layout->addWidget(bar);
@@ -168,7 +168,7 @@ QWidget *DesignerWindow::buildPage() {
 QWidget *DesignerWindow::buildStyleTab(const QString &title, QWidget *panel) {
     auto *tab = new QWidget(this);
     auto *layout = new QVBoxLayout(tab);
-    auto *caption = new QLabel(QStringLiteral("参数设置"), tab);
+    auto *caption = new QLabel(tr("参数设置"), tab);
     caption->setStyleSheet(QStringLiteral("font-weight: bold;"));
     layout->addWidget(caption);
     layout->addWidget(new QLabel(title, tab));
@@ -216,19 +216,18 @@ void DesignerWindow::onSelection(const QString &args) {
     }
     const QStringList fields = args.split(proto::kSep);
     if (fields.size() < 6) {
-        ui().message(QStringLiteral("参数传递错误,数组数量少于5"), MsgStyle::Critical,
-                     titles::error);
+        ui().message(tr("参数传递错误,数组数量少于5"), MsgStyle::Critical, titles::error);
         return;
     }
     m_selectedName = fields.first().trimmed();
     m_upBlocked = m_downBlocked = false;
     updateObjectButtons();
-    m_geometryLabel->setText(geometryText(QStringLiteral("当前坐标:"), fields));
+    m_geometryLabel->setText(geometryText(tr("当前坐标:"), fields));
 }
 
 void DesignerWindow::onObjectChanged(const QString &args) {
     const QStringList fields = args.split(proto::kSep);
-    m_geometryLabel->setText(geometryText(QStringLiteral("移动坐标:"), fields));
+    m_geometryLabel->setText(geometryText(tr("移动坐标:"), fields));
     m_document->storeGeometry(fields.value(0), fields.value(1), fields.value(2), fields.value(3),
                               fields.value(4));
 }
@@ -348,7 +347,7 @@ void DesignerWindow::save() {
 }
 
 void DesignerWindow::restoreTemplate() {
-    if (!ui().question(QStringLiteral("您确定要将界面还原至初始状态么?"), titles::notice)) return;
+    if (!ui().question(tr("您确定要将界面还原至初始状态么?"), titles::notice)) return;
     clearSelection();
     m_document->dropWorkingCopy();
     TemplateRestoreDialog dialog(this);
@@ -363,8 +362,7 @@ bool DesignerWindow::finishEditing() {
     if (m_finished) return false;
     m_finished = true;
     clearSelection();
-    if (m_document->isModified() &&
-        ui().question(QStringLiteral("是否保存修改内容?"), titles::notice))
+    if (m_document->isModified() && ui().question(tr("是否保存修改内容?"), titles::notice))
         save();
     else
         m_document->discard();

@@ -29,13 +29,13 @@ struct SystemSwitch {
 // The check boxes, in the order the tab shows them.
 QList<SystemSwitch> systemSwitches() {
     using namespace design::sysobj;
-    return {{img_jpimgs, QStringLiteral("奖品图片")},
-            {txt_jpname, QStringLiteral("奖品名称 (变量 $Name1)")},
-            {txt_jxname, QStringLiteral("奖项名称 (变量 $Name2)")},
-            {txt_jpinfo, QStringLiteral("奖品数量信息(变量 $1 $2)")},
-            {scr_luckls, QStringLiteral("中奖信息")},
-            {txt_zbt, QStringLiteral("主标题")},
-            {txt_fbt, QStringLiteral("副标题")}};
+    return {{img_jpimgs, QCoreApplication::translate("DesignerWindow", "奖品图片")},
+            {txt_jpname, QCoreApplication::translate("DesignerWindow", "奖品名称 (变量 $Name1)")},
+            {txt_jxname, QCoreApplication::translate("DesignerWindow", "奖项名称 (变量 $Name2)")},
+            {txt_jpinfo, QCoreApplication::translate("DesignerWindow", "奖品数量信息(变量 $1 $2)")},
+            {scr_luckls, QCoreApplication::translate("DesignerWindow", "中奖信息")},
+            {txt_zbt, QCoreApplication::translate("DesignerWindow", "主标题")},
+            {txt_fbt, QCoreApplication::translate("DesignerWindow", "副标题")}};
 }
 
 QPushButton *toolButton(QWidget *parent, const QString &text, const QString &name) {
@@ -48,12 +48,12 @@ QPushButton *toolButton(QWidget *parent, const QString &text, const QString &nam
 
 QWidget *DesignerWindow::buildObjectsTab() {
     auto *tab = new QWidget(this);
-    auto *caption = new QLabel(QStringLiteral("插件管理"), tab);
+    auto *caption = new QLabel(tr("插件管理"), tab);
     caption->setStyleSheet(QStringLiteral("font-weight: bold;"));
 
-    auto *switches = new QGroupBox(QStringLiteral("系统元件"), tab);
+    auto *switches = new QGroupBox(tr("系统元件"), tab);
     auto *switchLayout = new QVBoxLayout(switches);
-    auto *main = new QCheckBox(QStringLiteral("抽奖名单滚动区域 (必选)"), switches);
+    auto *main = new QCheckBox(tr("抽奖名单滚动区域 (必选)"), switches);
     main->setObjectName(QStringLiteral("check_ssm_vornex"));
     main->setChecked(true);
     main->setEnabled(false);
@@ -66,7 +66,7 @@ QWidget *DesignerWindow::buildObjectsTab() {
         m_systemChecks.insert(item.name, check);
         switchLayout->addWidget(check);
     }
-    auto *help = new QPushButton(QStringLiteral("什么是变量呢?"), switches);
+    auto *help = new QPushButton(tr("什么是变量呢?"), switches);
     help->setObjectName(QStringLiteral("variablesHelpButton"));
     help->setFlat(true);
     help->setCursor(Qt::PointingHandCursor);
@@ -76,15 +76,12 @@ QWidget *DesignerWindow::buildObjectsTab() {
     });
     switchLayout->addWidget(help, 0, Qt::AlignLeft);
 
-    auto *adding = new QGroupBox(QStringLiteral("添加元件"), tab);
+    auto *adding = new QGroupBox(tr("添加元件"), tab);
     auto *addLayout = new QGridLayout(adding);
-    auto *addText = toolButton(adding, QStringLiteral("添加文字"), QStringLiteral("addTextButton"));
-    auto *addScroll =
-        toolButton(adding, QStringLiteral("滚动文字"), QStringLiteral("addScrollTextButton"));
-    auto *addImage =
-        toolButton(adding, QStringLiteral("添加图片"), QStringLiteral("addImageButton"));
-    auto *addAnim =
-        toolButton(adding, QStringLiteral("添加动画"), QStringLiteral("addAnimationButton"));
+    auto *addText = toolButton(adding, tr("添加文字"), QStringLiteral("addTextButton"));
+    auto *addScroll = toolButton(adding, tr("滚动文字"), QStringLiteral("addScrollTextButton"));
+    auto *addImage = toolButton(adding, tr("添加图片"), QStringLiteral("addImageButton"));
+    auto *addAnim = toolButton(adding, tr("添加动画"), QStringLiteral("addAnimationButton"));
     addLayout->addWidget(addText, 0, 0);
     addLayout->addWidget(addScroll, 0, 1);
     addLayout->addWidget(addImage, 1, 0);
@@ -94,12 +91,12 @@ QWidget *DesignerWindow::buildObjectsTab() {
     connect(addImage, &QPushButton::clicked, this, [this] { addFileObject(true); });
     connect(addAnim, &QPushButton::clicked, this, [this] { addFileObject(false); });
 
-    auto *selected = new QGroupBox(QStringLiteral("当前元件"), tab);
+    auto *selected = new QGroupBox(tr("当前元件"), tab);
     auto *selectedLayout = new QGridLayout(selected);
-    m_upButton = toolButton(selected, QStringLiteral("上一层"), QStringLiteral("upButton"));
-    m_downButton = toolButton(selected, QStringLiteral("下一层"), QStringLiteral("downButton"));
-    m_editButton = toolButton(selected, QStringLiteral("编 辑  "), QStringLiteral("editButton"));
-    m_deleteButton = toolButton(selected, QStringLiteral("删 除"), QStringLiteral("deleteButton"));
+    m_upButton = toolButton(selected, tr("上一层"), QStringLiteral("upButton"));
+    m_downButton = toolButton(selected, tr("下一层"), QStringLiteral("downButton"));
+    m_editButton = toolButton(selected, tr("编 辑  "), QStringLiteral("editButton"));
+    m_deleteButton = toolButton(selected, tr("删 除"), QStringLiteral("deleteButton"));
     selectedLayout->addWidget(m_upButton, 0, 0);
     selectedLayout->addWidget(m_downButton, 0, 1);
     selectedLayout->addWidget(m_editButton, 1, 0);
@@ -109,8 +106,8 @@ QWidget *DesignerWindow::buildObjectsTab() {
     connect(m_editButton, &QPushButton::clicked, this, [this] { editObject(m_selectedName); });
     connect(m_deleteButton, &QPushButton::clicked, this, &DesignerWindow::deleteSelected);
 
-    auto *hint = new QLabel(QStringLiteral("方向键微调位置(Shift 10像素), Delete 删除, "
-                                           "Ctrl+Z 撤销, Ctrl+Y 重做"),
+    auto *hint = new QLabel(tr("方向键微调位置(Shift 10像素), Delete 删除, "
+                               "Ctrl+Z 撤销, Ctrl+Y 重做"),
                             tab);
     hint->setWordWrap(true);
     hint->setStyleSheet(QStringLiteral("color: #666;"));
@@ -153,14 +150,14 @@ void DesignerWindow::addFileObject(bool image) {
     // Animations play as GIF, WebP or APNG on the stage.
     const QString file =
         image
-            ? ui().openFile(QStringLiteral("添加图片"), folder,
-                            dialogFilter(QStringLiteral(
+            ? ui().openFile(tr("添加图片"), folder,
+                            dialogFilter(tr(
                                 "图片文件(*.png,*.jpg,*.gif,*.bmp,*.jpeg)|*.png;*.jpg;*.gif;*.bmp;"
                                 "*.jpeg|PNG Files(*.png)|*.png|JPG Files(*.jpg)|*.jpg|GIF "
                                 "Files(*.gif)|*.gif|BMP Files(*.bmp)|*.bmp")))
-            : ui().openFile(QStringLiteral("添加动画"), folder,
-                            dialogFilter(QStringLiteral(
-                                "动画文件(*.gif,*.webp,*.png)|*.gif;*.webp;*.png;*.apng")));
+            : ui().openFile(
+                  tr("添加动画"), folder,
+                  dialogFilter(tr("动画文件(*.gif,*.webp,*.png)|*.gif;*.webp;*.png;*.apng")));
     if (file.trimmed().isEmpty()) return;
     if (image)
         m_document->addImage(file);
@@ -218,15 +215,12 @@ void DesignerWindow::moveLayer(bool up) {
 
 void DesignerWindow::showObjectMenu(const QPoint &globalPos) {
     if (m_selectedName.isEmpty()) return;
-    QMenu menu(QStringLiteral("元件管理"), this);
+    QMenu menu(tr("元件管理"), this);
     const bool drawArea = m_selectedName == design::sysobj::ssm_vornex;
-    menu.addAction(QStringLiteral("编辑"), this, [this] { editObject(m_selectedName); })
-        ->setEnabled(!drawArea);
-    menu.addAction(QStringLiteral("删除"), this, &DesignerWindow::deleteSelected);
+    menu.addAction(tr("编辑"), this, [this] { editObject(m_selectedName); })->setEnabled(!drawArea);
+    menu.addAction(tr("删除"), this, &DesignerWindow::deleteSelected);
     menu.addSeparator();
-    menu.addAction(QStringLiteral("上移一层"), this, [this] { moveLayer(true); })
-        ->setEnabled(!m_upBlocked);
-    menu.addAction(QStringLiteral("下移一层"), this, [this] { moveLayer(false); })
-        ->setEnabled(!m_downBlocked);
+    menu.addAction(tr("上移一层"), this, [this] { moveLayer(true); })->setEnabled(!m_upBlocked);
+    menu.addAction(tr("下移一层"), this, [this] { moveLayer(false); })->setEnabled(!m_downBlocked);
     menu.exec(globalPos);
 }

@@ -26,7 +26,7 @@ QColor pickColor(const QColor &initial) {
         for (int i = 2; i < 16; ++i)
             QColorDialog::setCustomColor(i, buttonFace);
     }
-    return ui().chooseColor(initial, QStringLiteral("颜色"));
+    return ui().chooseColor(initial, QCoreApplication::translate("FontStyleBox", "颜色"));
 }
 
 void paintSwatch(QPushButton *button, const QColor &color) {
@@ -99,7 +99,7 @@ FontStyleBox::FontStyleBox(const QStringList &sizes, bool withAlignment, QWidget
     m_alphaSlider->setRange(10, 100);
     m_alphaSlider->setSingleStep(5);
     m_alphaSlider->setPageStep(10);
-    m_shadowCheck = new QCheckBox(QStringLiteral("启用阴影效果"), this);
+    m_shadowCheck = new QCheckBox(tr("启用阴影效果"), this);
     m_shadowCheck->setObjectName(QStringLiteral("shadowCheck"));
 
     auto *flags = new QHBoxLayout;
@@ -112,9 +112,9 @@ FontStyleBox::FontStyleBox(const QStringList &sizes, bool withAlignment, QWidget
     if (withAlignment) {
         auto *group = new QButtonGroup(this);
         group->setExclusive(true);
-        m_alignRight = toggle(QStringLiteral("右"), QStringLiteral("alignRightButton"));
-        m_alignCenter = toggle(QStringLiteral("中"), QStringLiteral("alignCenterButton"));
-        m_alignLeft = toggle(QStringLiteral("左"), QStringLiteral("alignLeftButton"));
+        m_alignRight = toggle(tr("右"), QStringLiteral("alignRightButton"));
+        m_alignCenter = toggle(tr("中"), QStringLiteral("alignCenterButton"));
+        m_alignLeft = toggle(tr("左"), QStringLiteral("alignLeftButton"));
         for (QToolButton *button : {m_alignRight, m_alignCenter, m_alignLeft}) {
             group->addButton(button);
             flags->addWidget(button);
@@ -125,13 +125,13 @@ FontStyleBox::FontStyleBox(const QStringList &sizes, bool withAlignment, QWidget
 
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->addWidget(new QLabel(QStringLiteral("字体："), this), 0, 0);
+    grid->addWidget(new QLabel(tr("字体："), this), 0, 0);
     grid->addWidget(m_fontCombo, 0, 1, 1, 3);
-    grid->addWidget(new QLabel(QStringLiteral("大小："), this), 1, 0);
+    grid->addWidget(new QLabel(tr("大小："), this), 1, 0);
     grid->addWidget(m_sizeCombo, 1, 1);
-    grid->addWidget(new QLabel(QStringLiteral("颜色："), this), 1, 2);
+    grid->addWidget(new QLabel(tr("颜色："), this), 1, 2);
     grid->addWidget(m_colorButton, 1, 3);
-    grid->addWidget(new QLabel(QStringLiteral("透明："), this), 2, 0);
+    grid->addWidget(new QLabel(tr("透明："), this), 2, 0);
     grid->addWidget(m_alphaSlider, 2, 1, 1, 3);
     grid->addLayout(flags, 3, 0, 1, 4);
     grid->addWidget(m_shadowCheck, 4, 0, 1, 4);

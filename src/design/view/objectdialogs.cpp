@@ -22,9 +22,9 @@ namespace {
 
 // OK and cancel below a frame.
 void finishLayout(QDialog *dialog, QGroupBox *frame, const std::function<void()> &save) {
-    auto *ok = new QPushButton(QStringLiteral("确定"), dialog);
+    auto *ok = new QPushButton(QCoreApplication::translate("design", "确定"), dialog);
     ok->setObjectName(QStringLiteral("okButton"));
-    auto *cancel = new QPushButton(QStringLiteral("取消"), dialog);
+    auto *cancel = new QPushButton(QCoreApplication::translate("design", "取消"), dialog);
     cancel->setObjectName(QStringLiteral("cancelButton"));
     QObject::connect(ok, &QPushButton::clicked, dialog, save);
     QObject::connect(cancel, &QPushButton::clicked, dialog, &QDialog::reject);
@@ -43,10 +43,10 @@ void finishLayout(QDialog *dialog, QGroupBox *frame, const std::function<void()>
 ImageObjectDialog::ImageObjectDialog(design::DesignerDocument &document, const QString &name,
                                      QWidget *parent)
     : QDialog(parent), m_document(document), m_name(name.trimmed()) {
-    setWindowTitle(QStringLiteral("图片编辑"));
+    setWindowTitle(tr("图片编辑"));
     design::ObjRow row;
     if (!document.readObject(m_name, &row)) {
-        ui().message(QStringLiteral("数据库中找不到图片数据!"), MsgStyle::Critical, titles::error);
+        ui().message(tr("数据库中找不到图片数据!"), MsgStyle::Critical, titles::error);
         return;
     }
     m_alphaSlider = new QSlider(Qt::Horizontal, this);
@@ -55,14 +55,14 @@ ImageObjectDialog::ImageObjectDialog(design::DesignerDocument &document, const Q
     m_alphaSlider->setSingleStep(5);
     m_alphaSlider->setPageStep(10);
     m_alphaSlider->setValue(row.ObjAlpha);
-    m_reflectionCheck = new QCheckBox(QStringLiteral("启用图片倒影"), this);
+    m_reflectionCheck = new QCheckBox(tr("启用图片倒影"), this);
     m_reflectionCheck->setObjectName(QStringLiteral("reflectionCheck"));
     m_reflectionAtOpening = row.isImgFilter != proto::falseText;
     m_reflectionCheck->setChecked(m_reflectionAtOpening);
     auto *form = new QFormLayout;
-    form->addRow(QStringLiteral("图片透明："), m_alphaSlider);
+    form->addRow(tr("图片透明："), m_alphaSlider);
     form->addRow(m_reflectionCheck);
-    auto *frame = new QGroupBox(QStringLiteral("图片设置"), this);
+    auto *frame = new QGroupBox(tr("图片设置"), this);
     frame->setLayout(form);
     finishLayout(this, frame, [this] { save(); });
     m_loaded = true;
@@ -78,15 +78,15 @@ void ImageObjectDialog::save() {
 AnimationObjectDialog::AnimationObjectDialog(design::DesignerDocument &document,
                                              const QString &name, QWidget *parent)
     : QDialog(parent), m_document(document), m_name(name.trimmed()) {
-    setWindowTitle(QStringLiteral("SWF文件属性"));
+    setWindowTitle(tr("SWF文件属性"));
     design::ObjRow row;
     if (!document.readObject(m_name, &row)) {
-        ui().message(QStringLiteral("数据库中找不到SWF元件!"), MsgStyle::Critical, titles::error);
+        ui().message(tr("数据库中找不到SWF元件!"), MsgStyle::Critical, titles::error);
         return;
     }
     m_widthEdit = digitsEdit(this, QStringLiteral("widthEdit"), row.ObjW);
     m_heightEdit = digitsEdit(this, QStringLiteral("heightEdit"), row.ObjH);
-    auto *naturalSize = new QPushButton(QStringLiteral("默认尺寸"), this);
+    auto *naturalSize = new QPushButton(tr("默认尺寸"), this);
     naturalSize->setObjectName(QStringLiteral("naturalSizeButton"));
     connect(naturalSize, &QPushButton::clicked, this, [this] {
         m_widthEdit->setText(QStringLiteral("0"));
@@ -96,13 +96,13 @@ AnimationObjectDialog::AnimationObjectDialog(design::DesignerDocument &document,
     auto withUnit = [this](QLineEdit *edit) {
         auto *row = new QHBoxLayout;
         row->addWidget(edit);
-        row->addWidget(new QLabel(QStringLiteral("(像素)"), this));
+        row->addWidget(new QLabel(tr("(像素)"), this));
         return row;
     };
-    form->addRow(QStringLiteral("SWF影片宽度∶"), withUnit(m_widthEdit));
-    form->addRow(QStringLiteral("SWF影片高度∶"), withUnit(m_heightEdit));
-    form->addRow(new QLabel(QStringLiteral("(默认请设置为0)"), this), naturalSize);
-    auto *frame = new QGroupBox(QStringLiteral("参数设置"), this);
+    form->addRow(tr("SWF影片宽度∶"), withUnit(m_widthEdit));
+    form->addRow(tr("SWF影片高度∶"), withUnit(m_heightEdit));
+    form->addRow(new QLabel(tr("(默认请设置为0)"), this), naturalSize);
+    auto *frame = new QGroupBox(tr("参数设置"), this);
     frame->setLayout(form);
     finishLayout(this, frame, [this] { save(); });
     m_loaded = true;
@@ -118,10 +118,10 @@ void AnimationObjectDialog::save() {
 DrawFontDialog::DrawFontDialog(design::DesignerDocument &document, const QString &row,
                                QWidget *parent)
     : QDialog(parent), m_document(document), m_row(row) {
-    setWindowTitle(QStringLiteral("字体设置"));
+    setWindowTitle(tr("字体设置"));
     const design::PlayRow play = document.readPlayRow(row);
     if (!play.found) {
-        ui().message(QStringLiteral("读取数据错误!"), MsgStyle::Critical, titles::error);
+        ui().message(tr("读取数据错误!"), MsgStyle::Critical, titles::error);
         return;
     }
     m_style = new FontStyleBox(design::drawFontSizes(), true, this);
@@ -133,7 +133,7 @@ DrawFontDialog::DrawFontDialog(design::DesignerDocument &document, const QString
                       play.fUnderline == proto::trueText);
     m_style->setAlignment(play.txtAlign);
     m_style->setShadow(play.isShadown == 1);
-    auto *frame = new QGroupBox(QStringLiteral("滚动字体样式"), this);
+    auto *frame = new QGroupBox(tr("滚动字体样式"), this);
     auto *inner = new QVBoxLayout(frame);
     inner->addWidget(m_style);
     finishLayout(this, frame, [this] { save(); });
@@ -155,19 +155,18 @@ void DrawFontDialog::save() {
 }
 
 VariablesHelpDialog::VariablesHelpDialog(QWidget *parent) : QDialog(parent) {
-    setWindowTitle(QStringLiteral("什么是变量呢?"));
-    auto *text = new QLabel(
-        QStringLiteral(
-            "<p>模板里的文字可以带上变量，抽奖时会换成当前奖项的内容：</p>"
-            "<p><b>$Name2</b>　奖项名称，例如“一等奖”<br>"
-            "<b>$Name1</b>　奖品名称，例如“笔记本电脑”<br>"
-            "<b>$1</b>　该奖项的名额<br>"
-            "<b>$2</b>　该奖项还剩下的名额</p>"
-            "<p>例如“名额 $1 名，剩余 $2 名”在抽奖时显示为“名额 10 名，剩余 4 名”。</p>"),
-        this);
+    setWindowTitle(tr("什么是变量呢?"));
+    auto *text =
+        new QLabel(tr("<p>模板里的文字可以带上变量，抽奖时会换成当前奖项的内容：</p>"
+                      "<p><b>$Name2</b>　奖项名称，例如“一等奖”<br>"
+                      "<b>$Name1</b>　奖品名称，例如“笔记本电脑”<br>"
+                      "<b>$1</b>　该奖项的名额<br>"
+                      "<b>$2</b>　该奖项还剩下的名额</p>"
+                      "<p>例如“名额 $1 名，剩余 $2 名”在抽奖时显示为“名额 10 名，剩余 4 名”。</p>"),
+                   this);
     text->setWordWrap(true);
     text->setMinimumWidth(380);
-    auto *ok = new QPushButton(QStringLiteral("好的,我知道了"), this);
+    auto *ok = new QPushButton(tr("好的,我知道了"), this);
     ok->setObjectName(QStringLiteral("okButton"));
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     auto *layout = new QVBoxLayout(this);

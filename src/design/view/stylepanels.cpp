@@ -34,8 +34,8 @@ QComboBox *listCombo(QWidget *parent, const QString &name, const QStringList &it
 
 bool rowMissing(const design::PlayRow &row) {
     if (row.found) return false;
-    ui().message(QStringLiteral("界面数据文件数据异常,请更换模板!"), MsgStyle::Critical,
-                 titles::error);
+    ui().message(QCoreApplication::translate("design", "界面数据文件数据异常,请更换模板!"),
+                 MsgStyle::Critical, titles::error);
     return true;
 }
 
@@ -58,36 +58,35 @@ void onSliderSettled(QSlider *slider, QObject *context, Write write) {
 
 DrawAreaPanel::DrawAreaPanel(design::DesignerDocument &document, Stage &stage, QWidget *parent)
     : QWidget(parent), m_document(document), m_stage(stage) {
-    m_bgTypeCombo = listCombo(this, QStringLiteral("bgTypeCombo"),
-                              {QStringLiteral("方形背景"), QStringLiteral("圆角背景")});
+    m_bgTypeCombo =
+        listCombo(this, QStringLiteral("bgTypeCombo"), {tr("方形背景"), tr("圆角背景")});
     m_bgColorButton =
         colorButton(this, QStringLiteral("bgColorButton"), QStringLiteral("0xFFFFFF"));
     m_bgAlphaSlider = designSlider(this, QStringLiteral("bgAlphaSlider"), 0, 100, 5, 10, 0);
     m_dotXEdit = digitsEdit(this, QStringLiteral("dotXEdit"), 0);
     m_dotYEdit = digitsEdit(this, QStringLiteral("dotYEdit"), 0);
     m_paddingEdit = digitsEdit(this, QStringLiteral("paddingEdit"), 0);
-    m_paddingEdit->setToolTip(QStringLiteral("设置背景圆角弧度大小"));
-    auto *font = fontButton(this, QStringLiteral("设置..."), QStringLiteral("fontButton"));
+    m_paddingEdit->setToolTip(tr("设置背景圆角弧度大小"));
+    auto *font = fontButton(this, tr("设置..."), QStringLiteral("fontButton"));
     m_viewNumEdit = digitsEdit(this, QStringLiteral("viewNumEdit"), 6);
-    m_demoTextEdit = new QLineEdit(QStringLiteral("演示数据"), this);
+    m_demoTextEdit = new QLineEdit(tr("演示数据"), this);
     m_demoTextEdit->setObjectName(QStringLiteral("demoTextEdit"));
-    m_luckTypeCombo = listCombo(
-        this, QStringLiteral("luckTypeCombo"),
-        {QStringLiteral("纯文字抽奖"), QStringLiteral("纯图片抽奖"), QStringLiteral("图片加文字")});
+    m_luckTypeCombo = listCombo(this, QStringLiteral("luckTypeCombo"),
+                                {tr("纯文字抽奖"), tr("纯图片抽奖"), tr("图片加文字")});
     m_luckTypeCombo->setCurrentIndex(std::clamp<int>(appState().luckType, 0, 2));
 
     auto *form = new QFormLayout;
-    form->addRow(QStringLiteral("背景类型："), m_bgTypeCombo);
-    form->addRow(QStringLiteral("背景颜色："), m_bgColorButton);
-    form->addRow(QStringLiteral("背景透明："), m_bgAlphaSlider);
-    form->addRow(QStringLiteral("横向间距："), m_dotXEdit);
-    form->addRow(QStringLiteral("纵向间距："), m_dotYEdit);
-    form->addRow(QStringLiteral("文字边距："), m_paddingEdit);
-    form->addRow(QStringLiteral("设置字体："), font);
-    form->addRow(QStringLiteral("预览数量："), m_viewNumEdit);
-    form->addRow(QStringLiteral("预览文字："), m_demoTextEdit);
-    form->addRow(QStringLiteral("预览模式："), m_luckTypeCombo);
-    auto *frame = new QGroupBox(QStringLiteral("背景单元格设置"), this);
+    form->addRow(tr("背景类型："), m_bgTypeCombo);
+    form->addRow(tr("背景颜色："), m_bgColorButton);
+    form->addRow(tr("背景透明："), m_bgAlphaSlider);
+    form->addRow(tr("横向间距："), m_dotXEdit);
+    form->addRow(tr("纵向间距："), m_dotYEdit);
+    form->addRow(tr("文字边距："), m_paddingEdit);
+    form->addRow(tr("设置字体："), font);
+    form->addRow(tr("预览数量："), m_viewNumEdit);
+    form->addRow(tr("预览文字："), m_demoTextEdit);
+    form->addRow(tr("预览模式："), m_luckTypeCombo);
+    auto *frame = new QGroupBox(tr("背景单元格设置"), this);
     frame->setLayout(form);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(frame);
@@ -180,26 +179,24 @@ PlaybackPanel::PlaybackPanel(design::DesignerDocument &document, Stage &stage, Q
     using design::rows::playName;
     using design::rows::playTitle;
     m_boxWSlider = designSlider(this, QStringLiteral("boxWSlider"), 50, 100, 5, 10, 50);
-    m_boxWSlider->setToolTip(QStringLiteral("百分比"));
+    m_boxWSlider->setToolTip(tr("百分比"));
     m_boxHSlider = designSlider(this, QStringLiteral("boxHSlider"), 30, 100, 1, 5, 30);
-    m_boxHSlider->setToolTip(QStringLiteral("百分比"));
+    m_boxHSlider->setToolTip(tr("百分比"));
     m_speedSlider = designSlider(this, QStringLiteral("speedSlider"), 0, 20, 1, 5, 1);
     m_colNumSlider = designSlider(this, QStringLiteral("colNumSlider"), 1, 10, 1, 5, 1);
-    m_scrollCheck = new QCheckBox(QStringLiteral("滚动播放列表"), this);
+    m_scrollCheck = new QCheckBox(tr("滚动播放列表"), this);
     m_scrollCheck->setObjectName(QStringLiteral("scrollCheck"));
-    m_titleTypeCombo = listCombo(this, QStringLiteral("titleTypeCombo"),
-                                 {QStringLiteral("奖项名称"), QStringLiteral("奖项+奖品名称")});
+    m_titleTypeCombo =
+        listCombo(this, QStringLiteral("titleTypeCombo"), {tr("奖项名称"), tr("奖项+奖品名称")});
     m_titleTypeCombo->setCurrentIndex(std::clamp<int>(appState().playTitleType, 0, 1));
     m_titlePaddingEdit = digitsEdit(this, QStringLiteral("titlePaddingEdit"), 0);
     m_titleBgAlphaSlider =
         designSlider(this, QStringLiteral("titleBgAlphaSlider"), 0, 100, 1, 5, 0);
     m_titleBgColorButton =
         colorButton(this, QStringLiteral("titleBgColorButton"), QStringLiteral("0xFFFFFF"));
-    auto *titleFont =
-        fontButton(this, QStringLiteral("设置字体.."), QStringLiteral("titleFontButton"));
-    m_nameTypeCombo = listCombo(
-        this, QStringLiteral("nameTypeCombo"),
-        {QStringLiteral("抽奖名单"), QStringLiteral("图片"), QStringLiteral("抽奖名单+图片")});
+    auto *titleFont = fontButton(this, tr("设置字体.."), QStringLiteral("titleFontButton"));
+    m_nameTypeCombo = listCombo(this, QStringLiteral("nameTypeCombo"),
+                                {tr("抽奖名单"), tr("图片"), tr("抽奖名单+图片")});
     m_nameTypeCombo->setCurrentIndex(std::clamp<int>(appState().playType, 0, 2));
     m_nameDotXEdit = digitsEdit(this, QStringLiteral("nameDotXEdit"), 0);
     m_nameDotYEdit = digitsEdit(this, QStringLiteral("nameDotYEdit"), 0);
@@ -207,33 +204,32 @@ PlaybackPanel::PlaybackPanel(design::DesignerDocument &document, Stage &stage, Q
     m_nameBgAlphaSlider = designSlider(this, QStringLiteral("nameBgAlphaSlider"), 0, 100, 1, 5, 0);
     m_nameBgColorButton =
         colorButton(this, QStringLiteral("nameBgColorButton"), QStringLiteral("0xFFFFFF"));
-    auto *nameFont =
-        fontButton(this, QStringLiteral("设置字体.."), QStringLiteral("nameFontButton"));
+    auto *nameFont = fontButton(this, tr("设置字体.."), QStringLiteral("nameFontButton"));
 
     auto *common = new QFormLayout;
-    common->addRow(QStringLiteral("整体宽度："), m_boxWSlider);
-    common->addRow(QStringLiteral("整体高度："), m_boxHSlider);
-    common->addRow(QStringLiteral("滚动速度："), m_speedSlider);
-    common->addRow(QStringLiteral("横向数量："), m_colNumSlider);
+    common->addRow(tr("整体宽度："), m_boxWSlider);
+    common->addRow(tr("整体高度："), m_boxHSlider);
+    common->addRow(tr("滚动速度："), m_speedSlider);
+    common->addRow(tr("横向数量："), m_colNumSlider);
     common->addRow(m_scrollCheck);
     auto *title = new QFormLayout;
-    title->addRow(QStringLiteral("标题内容："), m_titleTypeCombo);
-    title->addRow(QStringLiteral("文字边距："), m_titlePaddingEdit);
-    title->addRow(QStringLiteral("背景透明："), m_titleBgAlphaSlider);
-    title->addRow(QStringLiteral("背景颜色："), m_titleBgColorButton);
-    title->addRow(QStringLiteral("标题字体："), titleFont);
+    title->addRow(tr("标题内容："), m_titleTypeCombo);
+    title->addRow(tr("文字边距："), m_titlePaddingEdit);
+    title->addRow(tr("背景透明："), m_titleBgAlphaSlider);
+    title->addRow(tr("背景颜色："), m_titleBgColorButton);
+    title->addRow(tr("标题字体："), titleFont);
     auto *names = new QFormLayout;
-    names->addRow(QStringLiteral("名单内容："), m_nameTypeCombo);
-    names->addRow(QStringLiteral("横向间距："), m_nameDotXEdit);
-    names->addRow(QStringLiteral("纵向间距："), m_nameDotYEdit);
-    names->addRow(QStringLiteral("文字边距："), m_namePaddingEdit);
-    names->addRow(QStringLiteral("背景透明："), m_nameBgAlphaSlider);
-    names->addRow(QStringLiteral("背景颜色："), m_nameBgColorButton);
-    names->addRow(QStringLiteral("名单字体："), nameFont);
+    names->addRow(tr("名单内容："), m_nameTypeCombo);
+    names->addRow(tr("横向间距："), m_nameDotXEdit);
+    names->addRow(tr("纵向间距："), m_nameDotYEdit);
+    names->addRow(tr("文字边距："), m_namePaddingEdit);
+    names->addRow(tr("背景透明："), m_nameBgAlphaSlider);
+    names->addRow(tr("背景颜色："), m_nameBgColorButton);
+    names->addRow(tr("名单字体："), nameFont);
     auto *layout = new QVBoxLayout(this);
     for (const auto &[caption, form] :
-         {std::pair{QString(), common}, std::pair{QStringLiteral("标题样式设置"), title},
-          std::pair{QStringLiteral("名单样式设置"), names}}) {
+         {std::pair{QString(), common}, std::pair{tr("标题样式设置"), title},
+          std::pair{tr("名单样式设置"), names}}) {
         auto *frame = new QGroupBox(caption, this);
         frame->setLayout(form);
         layout->addWidget(frame);

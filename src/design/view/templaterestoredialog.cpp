@@ -11,8 +11,8 @@
 #include "design/templatepage.h"
 
 TemplateRestoreDialog::TemplateRestoreDialog(QWidget *parent) : QDialog(parent) {
-    setWindowTitle(QStringLiteral("还原模板"));
-    m_statusLabel = new QLabel(QStringLiteral("正在清空临时数据..."), this);
+    setWindowTitle(tr("还原模板"));
+    m_statusLabel = new QLabel(tr("正在清空临时数据..."), this);
     m_statusLabel->setObjectName(QStringLiteral("statusLabel"));
     m_statusLabel->setMinimumWidth(300);
     m_statusLabel->setAlignment(Qt::AlignCenter);
@@ -35,7 +35,7 @@ void TemplateRestoreDialog::advance() {
             if (!QFile::exists(state.skinTmpConnStr)) m_step = Step::Restore;
             break;
         case Step::Restore: {
-            m_statusLabel->setText(QStringLiteral("正在还原备份文件..."));
+            m_statusLabel->setText(tr("正在还原备份文件..."));
             const design::RestoreResult result =
                 design::restoreFactoryTemplate(state.appPath, state.skinFile);
             m_statusLabel->setText(result.notice);

@@ -46,9 +46,9 @@ TextDialogBase::TextDialogBase(design::DesignerDocument &document, const QString
     m_contentEdit->setAcceptRichText(false);
     m_contentEdit->setMinimumSize(420, 110);
     m_style = new FontStyleBox(sizes, false, this);
-    m_okButton = new QPushButton(QStringLiteral("确定"), this);
+    m_okButton = new QPushButton(tr("确定"), this);
     m_okButton->setObjectName(QStringLiteral("okButton"));
-    auto *cancel = new QPushButton(QStringLiteral("取消"), this);
+    auto *cancel = new QPushButton(tr("取消"), this);
     cancel->setObjectName(QStringLiteral("cancelButton"));
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(m_style, &FontStyleBox::styleChanged, this, &TextDialogBase::showStyle);
@@ -72,7 +72,7 @@ void TextDialogBase::addFrame(const QString &caption, QFormLayout *form) {
 
 bool TextDialogBase::loadRow() {
     if (!m_document.readObject(m_name, &m_row)) {
-        ui().message(QStringLiteral("读取数据错误!"), MsgStyle::Critical, titles::error);
+        ui().message(tr("读取数据错误!"), MsgStyle::Critical, titles::error);
         return false;
     }
     m_style->setFamily(m_row.fFont);
@@ -139,11 +139,10 @@ void TextDialogBase::saveColumns(const QVariantMap &columns) {
 
 TextObjectDialog::TextObjectDialog(design::DesignerDocument &document, const QString &name,
                                    QWidget *parent)
-    : TextDialogBase(document, name, design::textObjectSizes(), QStringLiteral("文字编辑"),
-                     parent) {
+    : TextDialogBase(document, name, design::textObjectSizes(), tr("文字编辑"), parent) {
     if (!loadRow()) return;
-    m_borderTypeCombo = listCombo(this, QStringLiteral("borderTypeCombo"),
-                                  {QStringLiteral("方形边角"), QStringLiteral("圆形边角")});
+    m_borderTypeCombo =
+        listCombo(this, QStringLiteral("borderTypeCombo"), {tr("方形边角"), tr("圆形边角")});
     m_borderTypeCombo->setCurrentIndex(m_row.borderType == QLatin1String("round") ? 1 : 0);
     m_borderEdit = digitsEdit(this, QStringLiteral("borderEdit"), m_row.borderNum);
     m_bgColorButton = colorButton(this, QStringLiteral("bgColorButton"), m_row.bgColor);
@@ -152,11 +151,11 @@ TextObjectDialog::TextObjectDialog(design::DesignerDocument &document, const QSt
     m_bgAlphaSlider =
         designSlider(this, QStringLiteral("bgAlphaSlider"), 0, 100, 5, 10, m_row.bgAlpha);
     auto *form = new QFormLayout;
-    form->addRow(QStringLiteral("边框类型："), m_borderTypeCombo);
-    form->addRow(QStringLiteral("边框大小："), m_borderEdit);
-    form->addRow(QStringLiteral("边款颜色："), m_bgColorButton);
-    form->addRow(QStringLiteral("边框透明："), m_bgAlphaSlider);
-    addFrame(QStringLiteral("边框设置"), form);
+    form->addRow(tr("边框类型："), m_borderTypeCombo);
+    form->addRow(tr("边框大小："), m_borderEdit);
+    form->addRow(tr("边款颜色："), m_bgColorButton);
+    form->addRow(tr("边框透明："), m_bgAlphaSlider);
+    addFrame(tr("边框设置"), form);
     connect(m_okButton, &QPushButton::clicked, this, &TextObjectDialog::save);
     centerForm(this);
 }
@@ -174,21 +173,20 @@ void TextObjectDialog::save() {
 
 ScrollTextDialog::ScrollTextDialog(design::DesignerDocument &document, const QString &name,
                                    QWidget *parent)
-    : TextDialogBase(document, name, design::scrollTextSizes(), QStringLiteral("滚动文字属性"),
-                     parent) {
+    : TextDialogBase(document, name, design::scrollTextSizes(), tr("滚动文字属性"), parent) {
     if (!loadRow()) return;
     if (m_name == design::sysobj::scr_luckls) {
-        m_contentEdit->setPlainText(QStringLiteral("中奖信息变量,无法更改!"));
+        m_contentEdit->setPlainText(tr("中奖信息变量,无法更改!"));
         m_contentEdit->setEnabled(false);
     }
     m_widthEdit = digitsEdit(this, QStringLiteral("widthEdit"), m_row.ObjW);
-    m_widthEdit->setToolTip(QStringLiteral("文字滚动区域宽(像素)"));
+    m_widthEdit->setToolTip(tr("文字滚动区域宽(像素)"));
     m_heightEdit = digitsEdit(this, QStringLiteral("heightEdit"), m_row.ObjH);
-    m_heightEdit->setToolTip(QStringLiteral("文字滚动区域高(像素)"));
-    m_bgTypeCombo = listCombo(this, QStringLiteral("bgTypeCombo"),
-                              {QStringLiteral("方形背景"), QStringLiteral("圆角背景")});
+    m_heightEdit->setToolTip(tr("文字滚动区域高(像素)"));
+    m_bgTypeCombo =
+        listCombo(this, QStringLiteral("bgTypeCombo"), {tr("方形背景"), tr("圆角背景")});
     m_radiusEdit = digitsEdit(this, QStringLiteral("radiusEdit"), m_row.borderNum);
-    m_radiusEdit->setToolTip(QStringLiteral("设置背景圆角弧度大小"));
+    m_radiusEdit->setToolTip(tr("设置背景圆角弧度大小"));
     connect(m_bgTypeCombo, &QComboBox::currentIndexChanged, m_radiusEdit,
             [this](int index) { m_radiusEdit->setEnabled(index == 1); });
     m_bgTypeCombo->setCurrentIndex(m_row.borderType == QLatin1String("round") ? 1 : 0);
@@ -199,9 +197,8 @@ ScrollTextDialog::ScrollTextDialog(design::DesignerDocument &document, const QSt
     m_bgAlphaSlider =
         designSlider(this, QStringLiteral("bgAlphaSlider"), 0, 100, 5, 10, m_row.bgAlpha);
     m_speedSlider = designSlider(this, QStringLiteral("speedSlider"), 0, 10, 1, 5, m_row.SrcV);
-    m_directionCombo = listCombo(
-        this, QStringLiteral("directionCombo"),
-        {QStringLiteral("从右向左"), QStringLiteral("从左向右"), QStringLiteral("从下往上")});
+    m_directionCombo = listCombo(this, QStringLiteral("directionCombo"),
+                                 {tr("从右向左"), tr("从左向右"), tr("从下往上")});
     m_directionCombo->setCurrentIndex(std::clamp(m_row.ObjDirection, 0, 2));
 
     auto *size = new QHBoxLayout;
@@ -212,13 +209,13 @@ ScrollTextDialog::ScrollTextDialog(design::DesignerDocument &document, const QSt
     type->addWidget(m_bgTypeCombo);
     type->addWidget(m_radiusEdit);
     auto *form = new QFormLayout;
-    form->addRow(QStringLiteral("背景长宽∶"), size);
-    form->addRow(QStringLiteral("背景类型："), type);
-    form->addRow(QStringLiteral("背景颜色："), m_bgColorButton);
-    form->addRow(QStringLiteral("背景透明："), m_bgAlphaSlider);
-    form->addRow(QStringLiteral("滚动速度："), m_speedSlider);
-    form->addRow(QStringLiteral("滚动方向："), m_directionCombo);
-    addFrame(QStringLiteral("滚屏设置"), form);
+    form->addRow(tr("背景长宽∶"), size);
+    form->addRow(tr("背景类型："), type);
+    form->addRow(tr("背景颜色："), m_bgColorButton);
+    form->addRow(tr("背景透明："), m_bgAlphaSlider);
+    form->addRow(tr("滚动速度："), m_speedSlider);
+    form->addRow(tr("滚动方向："), m_directionCombo);
+    addFrame(tr("滚屏设置"), form);
     connect(m_okButton, &QPushButton::clicked, this, &ScrollTextDialog::save);
     centerForm(this);
 }

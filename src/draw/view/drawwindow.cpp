@@ -58,16 +58,18 @@ QString missingSetup(bool hasAward) {
     QStringList missing;
     QStringList steps;
     if (!hasRoster) {
-        missing << QStringLiteral("抽奖名单");
-        steps << QStringLiteral("· 在“名单设置”中添加名单，或从Excel、txt文件导入名单");
+        missing << QCoreApplication::translate("DrawWindow", "抽奖名单");
+        steps << QCoreApplication::translate(
+            "DrawWindow", "· 在“名单设置”中添加名单，或从Excel、txt文件导入名单");
     }
     if (!hasAward) {
-        missing << QStringLiteral("奖项");
-        steps << QStringLiteral("· 在“奖项设置”中添加奖项");
+        missing << QCoreApplication::translate("DrawWindow", "奖项");
+        steps << QCoreApplication::translate("DrawWindow", "· 在“奖项设置”中添加奖项");
     }
-    return QStringLiteral(
+    return QCoreApplication::translate(
+               "DrawWindow",
                "还没有%1，无法开始抽奖。\n请按Esc退出抽奖界面，在控制台点击“抽奖设置”：\n")
-               .arg(missing.join(QStringLiteral("和"))) +
+               .arg(missing.join(QCoreApplication::translate("DrawWindow", "和"))) +
            steps.join(QLatin1Char('\n'));
 }
 
@@ -98,7 +100,7 @@ DrawWindow::DrawWindow(QWidget *parent) : QWidget(parent, Qt::Window) {
     createHelpers();
     // The secret's fingerprint is public before the first press: in the title and on the stage.
     m_engine->openAuditSession();
-    setWindowTitle(windowTitle() + QStringLiteral("  指纹 ") + m_engine->secret().fingerprint());
+    setWindowTitle(windowTitle() + tr("  指纹 %1").arg(m_engine->secret().fingerprint()));
     m_stage->loadMovie(state.path(state.movieStage));
     setFullScreenMode(true);
 }
@@ -281,7 +283,7 @@ void DrawWindow::changeEvent(QEvent *event) {
 }
 
 void DrawWindow::closeEvent(QCloseEvent *event) {
-    if (!ui().question(QStringLiteral("确认要退出当前抽奖界面么?"), titles::notice)) {
+    if (!ui().question(tr("确认要退出当前抽奖界面么?"), titles::notice)) {
         event->ignore();
         return;
     }
@@ -400,8 +402,7 @@ void DrawWindow::onStageButton(const QString &button) {
     } else if (button == proto::btn::btnSoundOff) {
         m_music->setMuted(false);
     } else {
-        ui().message(button + QStringLiteral("返回系统消息"), MsgStyle::Information,
-                     titles::notice);
+        ui().message(button + tr("返回系统消息"), MsgStyle::Information, titles::notice);
     }
 }
 
@@ -427,9 +428,7 @@ void DrawWindow::startDraw() {
     if (m_engine->pressStart() != draw::DrawEngine::StartOutcome::Drawn) return;
     if (appState().isTimeProtect == 1) {
         m_stopGuardElapsed = 0;
-        m_stopGuardLabel->setText(QStringLiteral("您按键太快了(") +
-                                  QString::number(appState().timeProtectNum) +
-                                  QStringLiteral("秒!!"));
+        m_stopGuardLabel->setText(stopGuardText(appState().timeProtectNum));
         m_stopGuardTimer.start();
     }
     m_music->playStartSound();
@@ -468,8 +467,8 @@ void DrawWindow::onRecordFailed(const QString &error) {
     // The landing showed names that are not stored: say so, and let the operator draw again.
     send(proto::changBtn, proto::buttons::defulte);
     m_engine->resetToIdle();
-    ui().message(QStringLiteral("中奖结果保存失败,本次抽奖无效,请重新抽取!\n") + error,
-                 MsgStyle::Critical, titles::error);
+    ui().message(tr("中奖结果保存失败,本次抽奖无效,请重新抽取!\n") + error, MsgStyle::Critical,
+                 titles::error);
 }
 
 // --- The dialogs ----------------------------------------------------------------------------

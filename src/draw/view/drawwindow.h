@@ -52,6 +52,7 @@ private Q_SLOTS:
     void onStopGuardTick();
 
 private:
+    static QString stopGuardText(int secondsLeft);
     void buildControls();
     void createHelpers();
     void openTemplate();

@@ -71,13 +71,15 @@ void DrawWindow::pushScrollSample() {
     m_engine->pushScrollSample();
 }
 
+QString DrawWindow::stopGuardText(int secondsLeft) {
+    return tr("您按键太快了(%1秒!!").arg(secondsLeft);
+}
+
 void DrawWindow::onStopGuardTick() {
     const int seconds = appState().timeProtectNum;
     if (m_stopGuardElapsed < seconds) {
         ++m_stopGuardElapsed;
-        m_stopGuardLabel->setText(QStringLiteral("您按键太快了(") +
-                                  QString::number(seconds - m_stopGuardElapsed) +
-                                  QStringLiteral("秒!!"));
+        m_stopGuardLabel->setText(stopGuardText(seconds - m_stopGuardElapsed));
         return;
     }
     m_stopGuardPanel->hide();

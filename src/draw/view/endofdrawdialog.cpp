@@ -50,35 +50,35 @@ void ChoiceTile::paintEvent(QPaintEvent *) {
 
 EndOfDrawDialog::EndOfDrawDialog(draw::DrawEngine &engine, QWidget *parent)
     : QDialog(parent), m_engine(engine) {
-    setWindowTitle(QStringLiteral("系统提示"));
-    auto *headline = new QLabel(QStringLiteral("所有的奖项均已经抽取完毕!"), this);
+    setWindowTitle(tr("系统提示"));
+    auto *headline = new QLabel(tr("所有的奖项均已经抽取完毕!"), this);
     headline->setObjectName(QStringLiteral("headline"));
     headline->setAlignment(Qt::AlignCenter);
     headline->setStyleSheet(QStringLiteral("font-size: 18px; font-weight: bold;"));
-    auto *hint = new QLabel(QStringLiteral("请选择接下来要做的事"), this);
+    auto *hint = new QLabel(tr("请选择接下来要做的事"), this);
     hint->setProperty("role", "hint");
     hint->setAlignment(Qt::AlignCenter);
 
     const char *iconNames[] = {"", "reset", "export", "print", "parade"};
-    const char *captions[] = {"", "重新抽奖", "导出名单", "打印名单", "中奖回放"};
+    const char *captions[] = {"", QT_TR_NOOP("重新抽奖"), QT_TR_NOOP("导出名单"),
+                              QT_TR_NOOP("打印名单"), QT_TR_NOOP("中奖回放")};
     const char *objectNames[] = {"", "restartChoice", "exportChoice", "printChoice",
                                  "paradeChoice"};
     auto *choices = new QHBoxLayout;
     choices->setSpacing(10);
     for (int i = Restart; i <= Parade; ++i) {
-        m_choices[i] =
-            new ChoiceTile(QLatin1String(iconNames[i]), QString::fromUtf8(captions[i]), this);
+        m_choices[i] = new ChoiceTile(QLatin1String(iconNames[i]), tr(captions[i]), this);
         m_choices[i]->setObjectName(QLatin1String(objectNames[i]));
         m_choices[i]->setFixedSize(90, 96);
         choices->addWidget(m_choices[i]);
         connect(m_choices[i], &QAbstractButton::clicked, this, [this, i] { choose(i); });
     }
-    m_choices[Restart]->setToolTip(QStringLiteral("删除所有中奖信息,重新开始抽奖"));
-    m_choices[Export]->setToolTip(QStringLiteral("把中奖名单导出为CSV文件"));
-    m_choices[Print]->setToolTip(QStringLiteral("打印所有中奖名单"));
-    m_choices[Parade]->setToolTip(QStringLiteral("在舞台上滚动播放所有中奖名单"));
+    m_choices[Restart]->setToolTip(tr("删除所有中奖信息,重新开始抽奖"));
+    m_choices[Export]->setToolTip(tr("把中奖名单导出为CSV文件"));
+    m_choices[Print]->setToolTip(tr("打印所有中奖名单"));
+    m_choices[Parade]->setToolTip(tr("在舞台上滚动播放所有中奖名单"));
 
-    m_cancelButton = new QPushButton(QStringLiteral("取消"), this);
+    m_cancelButton = new QPushButton(tr("取消"), this);
     m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
     m_cancelButton->setAutoDefault(false);
     auto *bottom = new QHBoxLayout;

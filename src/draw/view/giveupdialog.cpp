@@ -30,16 +30,16 @@ qint64 idOf(const QTreeWidgetItem *item) {
 }  // namespace
 
 GiveUpDialog::GiveUpDialog(QWidget *parent) : QDialog(parent) {
-    setWindowTitle(QStringLiteral("弃奖"));
+    setWindowTitle(tr("弃奖"));
     buildList();
     m_pageLabel = new QLabel(this);
     m_pageLabel->setObjectName(QStringLiteral("pageLabel"));
     m_pageLabel->setProperty("role", "hint");
-    m_previousPageButton = new QPushButton(QStringLiteral("上一页"), this);
+    m_previousPageButton = new QPushButton(tr("上一页"), this);
     m_previousPageButton->setObjectName(QStringLiteral("previousPageButton"));
-    m_nextPageButton = new QPushButton(QStringLiteral("下一页"), this);
+    m_nextPageButton = new QPushButton(tr("下一页"), this);
     m_nextPageButton->setObjectName(QStringLiteral("nextPageButton"));
-    m_giveUpButton = new QPushButton(QStringLiteral("弃奖"), this);
+    m_giveUpButton = new QPushButton(tr("弃奖"), this);
     m_giveUpButton->setObjectName(QStringLiteral("giveUpButton"));
     m_giveUpButton->setProperty("role", "primary");
     for (QPushButton *button : {m_previousPageButton, m_nextPageButton, m_giveUpButton})
@@ -83,16 +83,16 @@ QWidget *GiveUpDialog::buildSearchBar() {
     searchIcon->setPixmap(icons::pixmap(QStringLiteral("search"), style::kSoft, 18));
     m_searchEdit = new QLineEdit(bar);
     m_searchEdit->setObjectName(QStringLiteral("searchEdit"));
-    m_searchEdit->setPlaceholderText(QStringLiteral("请输入查询关键字"));
+    m_searchEdit->setPlaceholderText(tr("请输入查询关键字"));
     m_clearSearchButton = new QToolButton(bar);
     m_clearSearchButton->setObjectName(QStringLiteral("clearSearchButton"));
     m_clearSearchButton->setText(QStringLiteral("×"));
-    m_clearSearchButton->setToolTip(QStringLiteral("清除查询关键字"));
+    m_clearSearchButton->setToolTip(tr("清除查询关键字"));
     m_clearSearchButton->setCursor(Qt::PointingHandCursor);
     m_clearSearchButton->setStyleSheet(QStringLiteral(
         "QToolButton { border: none; font-size: 18px; color: rgb(169,97,100); padding: 0 6px; }"
         "QToolButton:hover { color: rgb(200,40,58); }"));
-    m_searchButton = new QPushButton(QStringLiteral("查找名单"), bar);
+    m_searchButton = new QPushButton(tr("查找名单"), bar);
     m_searchButton->setObjectName(QStringLiteral("searchButton"));
     m_searchButton->setAutoDefault(false);
     auto *layout = new QHBoxLayout(bar);
@@ -109,8 +109,7 @@ void GiveUpDialog::buildList() {
     m_winnerList = new QTreeWidget(this);
     m_winnerList->setObjectName(QStringLiteral("winnerList"));
     m_winnerList->setColumnCount(ColumnCount);
-    m_winnerList->setHeaderLabels({QStringLiteral("序号"), QStringLiteral("中奖名单"),
-                                   QStringLiteral("所中奖项"), QStringLiteral("状态")});
+    m_winnerList->setHeaderLabels({tr("序号"), tr("中奖名单"), tr("所中奖项"), tr("状态")});
     style::styleList(m_winnerList);
     m_winnerList->setColumnWidth(ColNumber, 78);
     m_winnerList->setColumnWidth(ColName, 170);
@@ -162,11 +161,10 @@ void GiveUpDialog::giveUpTicked() {
         if (item->checkState(ColNumber) == Qt::Checked) ids << idOf(item);
     }
     if (ids.isEmpty()) {
-        ui().message(QStringLiteral("请勾选需要做弃奖的的名单!"), MsgStyle::Exclamation,
-                     titles::notice);
+        ui().message(tr("请勾选需要做弃奖的的名单!"), MsgStyle::Exclamation, titles::notice);
         return;
     }
-    if (!ui().question(QStringLiteral("确认要将选择的中奖名单做弃奖么?"), titles::warning)) return;
+    if (!ui().question(tr("确认要将选择的中奖名单做弃奖么?"), titles::warning)) return;
     QString error;
     if (!draw::giveUp(store::mainConn(), ids, &error)) {
         ui().message(error, MsgStyle::Critical, titles::error);

@@ -39,15 +39,15 @@ QLabel *hintLabel(const QString &text, QWidget *parent) {
 }  // namespace
 
 MakeUpDrawDialog::MakeUpDrawDialog(int currentAward, QWidget *parent) : QDialog(parent) {
-    setWindowTitle(QStringLiteral("补奖"));
+    setWindowTitle(tr("补奖"));
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName(QStringLiteral("tabs"));
-    m_tabs->addTab(buildQuickTab(), QStringLiteral("快速补奖"));
-    m_tabs->addTab(buildAwardTab(), QStringLiteral("奖项设置"));
-    m_okButton = new QPushButton(QStringLiteral("确定"), this);
+    m_tabs->addTab(buildQuickTab(), tr("快速补奖"));
+    m_tabs->addTab(buildAwardTab(), tr("奖项设置"));
+    m_okButton = new QPushButton(tr("确定"), this);
     m_okButton->setObjectName(QStringLiteral("okButton"));
     m_okButton->setDefault(true);
-    m_cancelButton = new QPushButton(QStringLiteral("取消"), this);
+    m_cancelButton = new QPushButton(tr("取消"), this);
     m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -77,13 +77,13 @@ QWidget *MakeUpDrawDialog::buildQuickTab() {
     m_addedSlotsEdit->setObjectName(QStringLiteral("addedSlotsEdit"));
     auto *slotsRow = new QHBoxLayout;
     slotsRow->addWidget(m_addedSlotsEdit);
-    slotsRow->addWidget(new QLabel(QStringLiteral("(名额)"), page));
+    slotsRow->addWidget(new QLabel(tr("(名额)"), page));
     slotsRow->addStretch();
     auto *form = new QFormLayout;
     form->setHorizontalSpacing(10);
     form->setVerticalSpacing(14);
-    form->addRow(QStringLiteral("奖项："), m_awardCombo);
-    form->addRow(QStringLiteral("追加："), slotsRow);
+    form->addRow(tr("奖项："), m_awardCombo);
+    form->addRow(tr("追加："), slotsRow);
     auto *layout = new QVBoxLayout(page);
     layout->setContentsMargins(22, 22, 22, 16);
     m_awardInfoLabel = new QLabel(page);
@@ -91,7 +91,7 @@ QWidget *MakeUpDrawDialog::buildQuickTab() {
     layout->addLayout(form);
     layout->addSpacing(4);
     layout->addWidget(m_awardInfoLabel);
-    layout->addWidget(hintLabel(QStringLiteral("追加奖项名额必须为正整数!!"), page));
+    layout->addWidget(hintLabel(tr("追加奖项名额必须为正整数!!"), page));
     layout->addStretch();
     connect(m_awardCombo, &QComboBox::currentIndexChanged, this, &MakeUpDrawDialog::showAwardInfo);
     return page;
@@ -109,20 +109,20 @@ QWidget *MakeUpDrawDialog::buildAwardTab() {
     m_prizeNameEdit = new QLineEdit(page);
     m_prizeNameEdit->setObjectName(QStringLiteral("prizeNameEdit"));
     m_prizeNameEdit->setMaxLength(50);
-    m_excludeWinnersCheck = new QCheckBox(QStringLiteral("排除已中奖的人"), page);
+    m_excludeWinnersCheck = new QCheckBox(tr("排除已中奖的人"), page);
     m_excludeWinnersCheck->setObjectName(QStringLiteral("excludeWinnersCheck"));
     m_excludeWinnersCheck->setChecked(true);
     auto *reLuck = new QHBoxLayout;
     reLuck->addWidget(m_excludeWinnersCheck);
-    reLuck->addWidget(hintLabel(QStringLiteral("(禁止重复中奖)"), page));
+    reLuck->addWidget(hintLabel(tr("(禁止重复中奖)"), page));
     reLuck->addStretch();
     auto *form = new QFormLayout;
     form->setHorizontalSpacing(10);
     form->setVerticalSpacing(10);
-    form->addRow(QStringLiteral("奖项名称："), m_awardNameEdit);
-    form->addRow(QStringLiteral("奖品名额："), m_slotCountEdit);
-    form->addRow(QStringLiteral("分几次抽："), m_batchCountEdit);
-    form->addRow(QStringLiteral("奖品名称："), m_prizeNameEdit);
+    form->addRow(tr("奖项名称："), m_awardNameEdit);
+    form->addRow(tr("奖品名额："), m_slotCountEdit);
+    form->addRow(tr("分几次抽："), m_batchCountEdit);
+    form->addRow(tr("奖品名称："), m_prizeNameEdit);
     form->addRow(QString(), reLuck);
     auto *layout = new QVBoxLayout(page);
     layout->setContentsMargins(22, 16, 22, 12);
@@ -138,7 +138,7 @@ void MakeUpDrawDialog::fillAwardList(int selectId) {
         // The operator reads the award and its prize; the number stays with the item.
         m_awardCombo->addItem(choice.text.section(QLatin1Char('|'), 1), choice.id);
     if (choices.isEmpty()) {
-        m_awardCombo->addItem(QStringLiteral("无任何奖项"), 0);
+        m_awardCombo->addItem(tr("无任何奖项"), 0);
         return;
     }
     const int index = m_awardCombo->findData(selectId);
@@ -154,7 +154,7 @@ void MakeUpDrawDialog::showAwardInfo() {
         return;
     }
     const int have = draw::countAwardWinners(store::mainConn(), id);
-    m_awardInfoLabel->setText(QStringLiteral("该奖项现有名额 %1 个，已中奖 %2 人，剩余 %3 个")
+    m_awardInfoLabel->setText(tr("该奖项现有名额 %1 个，已中奖 %2 人，剩余 %3 个")
                                   .arg(slotCount)
                                   .arg(have)
                                   .arg(qMax(slotCount - have, 0)));
@@ -204,7 +204,7 @@ void MakeUpDrawDialog::saveNewAward() {
     QString error;
     const int id = draw::insertAward(store::mainConn(), award, &error);
     if (id == 0) {
-        if (error == draw::kAwardsFullMessage)
+        if (error == QString(draw::kAwardsFullMessage))
             ui().message(error, MsgStyle::Information, titles::notice);
         else
             ui().message(error, MsgStyle::Critical, titles::error);

@@ -1,0 +1,142 @@
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QQuickItem>
+#include <QRegularExpression>
+#include <QTabWidget>
+#include <QTreeWidget>
+
+#include "core/language.h"
+#include "design/templatepage.h"
+#include "design/view/designerwindow.h"
+#include "draw/view/endofdrawdialog.h"
+#include "draw/view/giveupdialog.h"
+#include "draw/view/makeupdrawdialog.h"
+#include "livescreen.h"
+#include "stage/protocol.h"
+#include "support/recordingstage.h"
+
+namespace {
+
+bool hasChinese(const QString &text) {
+    static const QRegularExpression chinese(
+        QStringLiteral("[\\x{3000}-\\x{9fff}\\x{ff00}-\\x{ffef}]"));
+    return text.contains(chinese);
+}
+
+// Every text a visible widget of the window shows: captions, labels, tips, tabs, list entries.
+QStringList shownTexts(QWidget &window) {
+    QStringList texts{window.windowTitle()};
+    for (QWidget *widget : window.findChildren<QWidget *>()) {
+        if (!widget->isVisibleTo(&window)) continue;
+        texts << widget->toolTip();
+        if (auto *label = qobject_cast<QLabel *>(widget)) texts << label->text();
+        if (auto *button = qobject_cast<QAbstractButton *>(widget)) texts << button->text();
+        if (auto *box = qobject_cast<QGroupBox *>(widget)) texts << box->title();
+        if (auto *edit = qobject_cast<QLineEdit *>(widget))
+            texts << edit->text() << edit->placeholderText();
+        if (auto *tabs = qobject_cast<QTabWidget *>(widget))
+            for (int i = 0; i < tabs->count(); ++i)
+                texts << tabs->tabText(i);
+        if (auto *combo = qobject_cast<QComboBox *>(widget))
+            for (int i = 0; i < combo->count(); ++i)
+                texts << combo->itemText(i);
+        if (auto *tree = qobject_cast<QTreeWidget *>(widget))
+            for (int c = 0; c < tree->columnCount(); ++c)
+                texts << tree->headerItem()->text(c);
+    }
+    return texts;
+}
+
+// The caption and the tip of every button the stage's bar shows.
+QStringList barTexts(QQuickItem *item) {
+    QStringList texts;
+    if (!item->isVisible()) return texts;
+    if (item->property("caption").isValid())
+        texts << item->property("caption").toString() << item->property("tip").toString();
+    for (QQuickItem *child : item->childItems())
+        texts << barTexts(child);
+    return texts;
+}
+
+void verifyEnglish(const QStringList &texts) {
+    for (const QString &text : texts)
+        QVERIFY2(!hasChinese(text), qPrintable(text));
+}
+
+}  // namespace
+
+class TestDrawEnglish : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(language::install(language::Language::English)); }
+    void drawStageSpeaksEnglish();
+    void windowShowsNoChinese_data();
+    void windowShowsNoChinese();
+};
+
+// The draw window's own widgets and the movie's fixed words: the bar, the key hint, the guard.
+void TestDrawEnglish::drawStageSpeaksEnglish() {
+    LiveScreen s;
+    QVERIFY(s.started);
+    appState().title1 = QStringLiteral("Gala");
+    s.folder.addUsers({QStringLiteral("Ann"), QStringLiteral("Bob"), QStringLiteral("Cy")});
+    s.folder.addAward(QStringLiteral("First"), 1, 1);
+    QVERIFY2(s.open(), qPrintable(s.stageErrors()));
+
+    const QStringList bar = barTexts(s.stage()->root());
+    QVERIFY(bar.contains(QStringLiteral("Start")));
+    verifyEnglish(bar);
+    const QString hint = s.stage()->root()->property("keyHint").toString();
+    QVERIFY(hint.startsWith(QStringLiteral("Press ")));
+    verifyEnglish({hint});
+
+    s.key(Qt::Key_Space);
+    QVERIFY(s.waitState(draw::Running, 3000));
+    s.key(Qt::Key_Space);
+    QVERIFY(s.stopGuardPanel()->isVisible());
+    verifyEnglish(shownTexts(*s.form));
+    const std::unique_ptr<QWidget> end(new EndOfDrawDialog(s.engine()));
+    verifyEnglish(shownTexts(*end));
+}
+
+void TestDrawEnglish::windowShowsNoChinese_data() {
+    QTest::addColumn<QByteArray>("window");
+    QTest::newRow("designer") << QByteArray("designer");
+    QTest::newRow("give up") << QByteArray("give up");
+    QTest::newRow("make up") << QByteArray("make up");
+}
+
+void TestDrawEnglish::windowShowsNoChinese() {
+    QFETCH(QByteArray, window);
+    TempProgramFolder folder;
+    QVERIFY(folder.start());
+    installScriptedUi();
+    QList<QPointer<RecordingStage>> &stages = installRecordingStages();
+    folder.addAward(QStringLiteral("First"), 3, 1);
+    std::unique_ptr<QWidget> shown;
+    if (window == "designer") {
+        const QString name = QStringLiteral("通用模板（16:9)");
+        design::copyToWorkingFile(folder.path(), name);
+        appState().skinFile = design::templatePath(folder.path(), name);
+        shown = std::make_unique<DesignerWindow>();
+        stages.last()->reply(proto::cmd::loadok);
+    } else if (window == "give up") {
+        shown = std::make_unique<GiveUpDialog>();
+    } else {
+        shown = std::make_unique<MakeUpDrawDialog>();
+    }
+    shown->show();
+    QVERIFY(QTest::qWaitForWindowExposed(shown.get()));
+    verifyEnglish(shownTexts(*shown));
+    shown.reset();
+    setStageFactory({});
+}
+
+int main(int argc, char *argv[]) {
+    return runOnProjector<TestDrawEnglish>(argc, argv);
+}
+#include "tst_drawenglish.moc"
