@@ -1,8 +1,8 @@
 #include "stage/photoprovider.h"
 
 #include <QAtomicInt>
-#include <QCoreApplication>
 #include <QCache>
+#include <QCoreApplication>
 #include <QImageReader>
 #include <QMutex>
 #include <QThreadPool>

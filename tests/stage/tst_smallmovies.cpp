@@ -58,9 +58,9 @@ void TestSmallMovies::previewTakesTheShortForms() {
     names.sort();
     QCOMPARE(names,
              (QStringList{"img_jpimgs", "scr_luckls", "ssm_vornex", "txt_jxname", "txt_zbt"}));
-    // Without an award the variables stay as typed, so the operator sees where they go.
+    // The award variables show sample values, never the bare placeholder.
     QCOMPARE(rig.call("objectText", QStringLiteral("txt_jxname")).toString(),
-             QStringLiteral("$Name2"));
+             QStringLiteral("一等奖"));
     QCOMPARE(rig.call("objectText", QStringLiteral("txt_zbt")).toString(),
              QStringLiteral("2026年度盛典"));
     // A second ClsPage empties the page.

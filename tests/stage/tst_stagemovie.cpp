@@ -67,11 +67,10 @@ void TestStageMovie::titlesStayCentred_data() {
     QTest::addColumn<bool>("centred");
     const QString longTitle = QStringLiteral("二〇二六年度集团新春联欢晚会暨年终表彰盛典");
     QTest::newRow("long title") << 660 << longTitle << "center" << true;
-    QTest::newRow("short title across the middle") << 900 << QStringLiteral("年会") << "center"
-                                                    << true;
+    QTest::newRow("short title across the middle")
+        << 900 << QStringLiteral("年会") << "center" << true;
     QTest::newRow("left-aligned") << 660 << longTitle << "left" << false;
-    QTest::newRow("placed beside the middle") << 100 << QStringLiteral("年会") << "center"
-                                              << false;
+    QTest::newRow("placed beside the middle") << 100 << QStringLiteral("年会") << "center" << false;
 }
 
 void TestStageMovie::titlesStayCentred() {
