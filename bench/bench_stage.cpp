@@ -4,10 +4,11 @@
 // and names from a roster of 1,000 photos; the same from 20,000 photo paths, to show that the
 // decoded-photo cache keeps memory bounded.
 //
-//   bench_stage [seconds per roll] [widget]
+//   bench_stage [seconds per roll] [widget|view] [photo folder] [names|1000|20000]
 //
 // With "widget" the stage is hosted in a QQuickWidget instead of the QQuickView that the draw
-// screen uses, to compare the two hosts.
+// screen uses, to compare the two hosts. A photo folder given is kept, so a second run skips
+// writing the portraits and a profiler sees only the rolls. The last argument runs one roll.
 
 #include <QApplication>
 #include <QDir>
@@ -198,16 +199,23 @@ int main(int argc, char **argv) {
                 qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND")
                     ? "default"
                     : qPrintable(qEnvironmentVariable("QT_QUICK_BACKEND")));
-    runRoll("names only", 0, QString(), 5000, seconds);
+    const QByteArray only = argc > 4 ? QByteArray(argv[4]) : QByteArray();
+    const auto wanted = [&](const char *roll) { return only.isEmpty() || only == roll; };
+    if (wanted("names")) runRoll("names only", 0, QString(), 5000, seconds);
+    if (only == "names") return 0;
 
-    QTemporaryDir dir;
+    QTemporaryDir temporary;
+    const QString folder = argc > 3 ? QString::fromLocal8Bit(argv[3]) : temporary.path();
+    QDir().mkpath(folder);
     QElapsedTimer making;
     making.start();
-    const QString thousand = makePhotos(dir.path(), 1000, 1000);
+    const QString thousand = makePhotos(folder, 1000, 1000);
     std::printf("(1,000 portraits of 1200x1600 written in %.1f s)\n", making.elapsed() / 1000.0);
-    runRoll("photo and name, roster of 1,000 photos", 2, thousand, 1000, seconds);
+    if (wanted("1000"))
+        runRoll("photo and name, roster of 1,000 photos", 2, thousand, 1000, seconds);
     PhotoProvider::clearCache();
-    const QString twenty = makePhotos(dir.path(), 1000, 20000);
-    runRoll("photo and name, roster of 20,000 photos", 2, twenty, 20000, seconds);
+    const QString twenty = makePhotos(folder, 1000, 20000);
+    if (wanted("20000"))
+        runRoll("photo and name, roster of 20,000 photos", 2, twenty, 20000, seconds);
     return 0;
 }

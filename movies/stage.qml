@@ -293,7 +293,7 @@ Item {
         }
         visible: root.scene === "draw"
 
-        Page { id: page; festive: true; hideUnfilled: true }
+        Page { id: page; festive: true; hideUnfilled: true; centredTitles: true }
         Rectangle {     // the page dims behind the parade
             anchors.fill: page
             z: 999

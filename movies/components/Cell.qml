@@ -19,7 +19,9 @@ Item {
     property bool winner: false
     property bool rolling: false
     property int flips: 0
-    readonly property string photoShown: photo.status === Image.Ready ? photo.path : ""
+    // A photo still to be decoded comes as a single transparent pixel while names roll.
+    readonly property bool photoDecoded: photo.status === Image.Ready && photo.implicitWidth > 1
+    readonly property string photoShown: photoDecoded ? photo.path : ""
     signal settled()
 
     property string prevName
@@ -101,6 +103,8 @@ Item {
             radius: card.radius + (index + 1) * cell.pad * 0.8
             color: "#FFD54A"
             opacity: cell.winner ? 0.20 - index * 0.05 : 0
+            // Out of the scene while faded: the software renderer weighs every item on show.
+            visible: opacity > 0
             Behavior on opacity { NumberAnimation { duration: 400 } }
         }
     }
@@ -147,7 +151,7 @@ Item {
                 }
                 Text {
                     anchors.centerIn: parent
-                    visible: photo.status !== Image.Ready
+                    visible: !cell.photoDecoded
                     text: cell.name.length ? cell.name.charAt(0) : ""
                     color: "#FFE08A"
                     font.family: cell.look.family || "黑体"

@@ -140,6 +140,14 @@ Item {
     // Milliseconds between two names while rolling: luckDelay 0 is fastest.
     readonly property int rollInterval: (mode > 0 ? 70 : 40) + Math.max(0, luckDelay) * 11
 
+    // While names roll, photos come only from the decoded cache (see PhotoProvider).
+    function decodePhotosOnRequest(on) {
+        if (typeof photoCache === "undefined" || !photoCache) return // qmllint disable unqualified
+        photoCache.setDecodeOnRequest(on) // qmllint disable unqualified
+    }
+    onPhaseChanged: decodePhotosOnRequest(phase !== "rolling")
+    Component.onDestruction: decodePhotosOnRequest(true)
+
     function startRolling() {
         cellsShown = true
         phase = "rolling"

@@ -15,6 +15,9 @@ Item {
     property int luckDelay: 10
     property bool preview: false
     property bool festive: false
+    // The stage and the console's preview keep the titles centred; the designer shows every
+    // object exactly where it is placed.
+    property bool centredTitles: false
     property color bgColor: "#9E1B22"
     property string bgSource
     property var objects: ({})
@@ -77,7 +80,12 @@ Item {
 
     Component {
         id: textKind
-        TextObject { vars: page.vars; hideUnfilled: page.hideUnfilled }
+        TextObject {
+            vars: page.vars
+            hideUnfilled: page.hideUnfilled
+            centreLine: page.centredTitles && (objName === "txt_zbt" || objName === "txt_fbt")
+                        ? page.width / 2 : -1
+        }
     }
     Component {
         id: scrollKind

@@ -15,11 +15,18 @@ Item {
     property real lineGap: 0
     property int align: Text.AlignLeft
     property bool shadow: false
+    property real placedX: 0
+    // The page's middle for a title whose text comes from the console: any length of title
+    // stays centred when it is centre-aligned and placed across the middle. -1: as placed.
+    property real centreLine: -1
+    readonly property bool centred: centreLine >= 0 && align === Text.AlignHCenter
+                                    && placedX < centreLine && placedX + width > centreLine
+    x: centred ? Math.round(centreLine - width / 2) : placedX
 
     function apply(f) {
         objName = P.field(f, 1)
         z = P.num(P.field(f, 2))
-        x = P.num(P.field(f, 3))
+        placedX = P.num(P.field(f, 3))
         y = P.num(P.field(f, 4))
         opacity = P.alpha(P.field(f, 5, "100"))
         panelColor = P.colour(P.field(f, 6, "0xFFFFFF"), P.field(f, 7, "0"))

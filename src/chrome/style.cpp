@@ -16,8 +16,10 @@ QLabel[role="link"] { color: rgb(200,40,58); text-decoration: underline; }
 QLabel[role="link"]:hover { color: rgb(128,23,25); }
 QLineEdit, QComboBox, QSpinBox, QPlainTextEdit, QTextEdit {
   background: white; border: 1px solid rgb(220,170,174); border-radius: 4px; padding: 4px 6px;
-  selection-background-color: rgb(200,40,58); }
+  selection-background-color: rgb(200,40,58); selection-color: white; }
 QLineEdit:focus, QComboBox:focus, QSpinBox:focus { border-color: rgb(200,40,58); }
+QComboBox QAbstractItemView { background: white; selection-background-color: rgb(251,214,218);
+  selection-color: rgb(128,23,25); outline: none; }
 QLineEdit:disabled { background: rgb(248,232,233); color: rgb(190,150,152); }
 QPushButton {
   background: white; border: 1px solid rgb(210,150,155); border-radius: 5px;
@@ -31,6 +33,7 @@ QPushButton:default, QPushButton[role="primary"] {
 QPushButton:default:hover, QPushButton[role="primary"]:hover { background: rgb(222,64,78); }
 QPushButton:disabled { color: rgb(190,150,152); border-color: rgb(230,200,202); }
 QPushButton:checked { background: rgb(200,40,58); color: white; border-color: rgb(150,20,30); }
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QCheckBox, QRadioButton { spacing: 6px; }
 QTabWidget::pane { border: 1px solid rgb(230,190,194); border-radius: 6px; top: -1px;
   background: rgb(255,248,248); }

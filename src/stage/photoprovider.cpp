@@ -2,6 +2,7 @@
 
 #include <QAtomicInt>
 #include <QCache>
+#include <QCoreApplication>
 #include <QImageReader>
 #include <QMutex>
 #include <QThreadPool>
@@ -16,9 +17,10 @@ QMutex &cacheLock() {
     return lock;
 }
 
+// Never destroyed: a warm-up thread may still be storing a photo while the program exits.
 QCache<QString, QImage> &cache() {
-    static QCache<QString, QImage> instance(kCacheLimitKb);
-    return instance;
+    static auto *instance = new QCache<QString, QImage>(kCacheLimitKb);
+    return *instance;
 }
 
 int costKb(const QImage &image) {
@@ -30,19 +32,39 @@ QString cacheKey(const QString &path, const QSize &size) {
            QString::number(size.height());
 }
 
-// One thread for warming, so the other core stays with the render loop.
+QAtomicInt &warmGeneration() {
+    static QAtomicInt generation;
+    return generation;
+}
+
+// One thread for warming, so the other core stays with the render loop. A warm-up still under
+// way when the application ends is called off before the image plugins are unloaded.
 QThreadPool &warmPool() {
     static QThreadPool *pool = [] {
         auto *p = new QThreadPool;
         p->setMaxThreadCount(1);
+        qAddPostRoutine([] {
+            warmGeneration().fetchAndAddOrdered(1);
+            warmPool().waitForDone();
+        });
         return p;
     }();
     return *pool;
 }
 
-QAtomicInt &warmGeneration() {
-    static QAtomicInt generation;
-    return generation;
+QAtomicInt &decodeOnRequestFlag() {
+    static QAtomicInt on(1);
+    return on;
+}
+
+// Stands for a photo that is not decoded yet while names roll: the cell shows its placeholder.
+const QImage &notYetDecoded() {
+    static const QImage blank = [] {
+        QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        return image;
+    }();
+    return blank;
 }
 
 bool cached(const QString &key) {
@@ -91,6 +113,10 @@ QImage PhotoProvider::requestImage(const QString &id, QSize *size, const QSize &
             return *hit;
         }
     }
+    if (!decodesOnRequest()) {
+        if (size) *size = notYetDecoded().size();
+        return notYetDecoded();
+    }
     const QImage image = decode(path, requestedSize);
     if (size) *size = image.size();
     if (!image.isNull()) store(key, image);
@@ -118,6 +144,14 @@ void PhotoProvider::warm(const QStringList &paths, const QSize &box) {
 
 void PhotoProvider::waitForWarmUp() {
     warmPool().waitForDone();
+}
+
+void PhotoProvider::setDecodeOnRequest(bool on) {
+    decodeOnRequestFlag().storeRelease(on ? 1 : 0);
+}
+
+bool PhotoProvider::decodesOnRequest() {
+    return decodeOnRequestFlag().loadAcquire() != 0;
 }
 
 int PhotoProvider::cacheLimitKb() {

@@ -22,6 +22,11 @@ public:
     static void warm(const QStringList &paths, const QSize &box);
     // Blocks until the warm-up under way, if any, has ended (for tests and benchmarks).
     static void waitForWarmUp();
+    // While names roll, a photo is shown only when it is decoded already: a cell changes its
+    // name several times a second, so a photo decoded on request would come too late to be
+    // seen, and a large roster would keep the loader busy on the cores the stage draws with.
+    static void setDecodeOnRequest(bool on);
+    static bool decodesOnRequest();
     // The cache's limit and what it holds now, in kilobytes.
     static int cacheLimitKb();
     static int cachedKb();
@@ -36,4 +41,5 @@ public:
     Q_INVOKABLE void warm(const QStringList &paths, int width, int height) {
         PhotoProvider::warm(paths, QSize(width, height));
     }
+    Q_INVOKABLE void setDecodeOnRequest(bool on) { PhotoProvider::setDecodeOnRequest(on); }
 };

@@ -1,5 +1,6 @@
 #include <QtTest>
 
+#include "stage/photoprovider.h"
 #include "stagerig.h"
 
 // The draw movie's buttons, keys, calls from the program, picture mode and the winner parade.
@@ -217,7 +218,10 @@ void TestStageControls::pictureModeShowsEachParticipantsPhoto() {
     QVERIFY(rig.startUp(photos));
     const QStringList winners = sampleNames().mid(10, 10);
     QVERIFY(rig.beginDraw(2, winners, sampleNames()));
+    // Rolling cells take only photos decoded already; the landing decodes what it needs.
+    QVERIFY(!PhotoProvider::decodesOnRequest());
     rig.send(proto::changBtn, proto::buttons::stop);
+    QVERIFY(PhotoProvider::decodesOnRequest());
     QVERIFY(rig.waitFor(proto::cmd::stoplucksub, 8000));
     QCOMPARE(rig.callList("cellNames"), winners);
     // Every landed cell shows the photo of its own participant.

@@ -1,6 +1,7 @@
 #include <QImageWriter>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <QtTest>
 
@@ -34,6 +35,7 @@ private Q_SLOTS:
     void photosDecodeAtTheSizeShown();
     void photoCacheStaysWithinItsLimit();
     void warmUpDecodesAhead();
+    void rollingTakesOnlyDecodedPhotos();
     void missingOrBrokenMovieFailsCleanly();
     void commandsArriveAsFsCommand();
     void movieMovedIntoAWindowStillTalks();
@@ -135,6 +137,30 @@ void TestStageHost::warmUpDecodesAhead() {
     QVERIFY(qAbs(hit.pixelColor(60, 80).hue() - 15) <= 4);
     QCOMPARE(PhotoProvider::cachedKb(), 12 * 75);
     PhotoProvider::clearCache();
+}
+
+void TestStageHost::rollingTakesOnlyDecodedPhotos() {
+    QTemporaryDir dir;
+    QImage image(300, 300, QImage::Format_RGB32);
+    image.fill(Qt::darkRed);
+    const QString decoded = dir.path() + QStringLiteral("/decoded.jpg");
+    const QString fresh = dir.path() + QStringLiteral("/fresh.jpg");
+    QVERIFY(image.save(decoded) && image.save(fresh));
+    PhotoProvider::clearCache();
+    PhotoProvider provider;
+    const QSize box(100, 100);
+    const auto request = [&](const QString &path) {
+        return provider.requestImage(QString::fromUtf8(QUrl::toPercentEncoding(path)), nullptr,
+                                     box);
+    };
+    QCOMPARE(request(decoded).size(), box);
+    PhotoProvider::setDecodeOnRequest(false);
+    const QSize rolledDecoded = request(decoded).size();
+    const QSize rolledFresh = request(fresh).size();
+    PhotoProvider::setDecodeOnRequest(true);
+    QCOMPARE(rolledDecoded, box);
+    QCOMPARE(rolledFresh, QSize(1, 1));
+    QCOMPARE(request(fresh).size(), box);
 }
 
 void TestStageHost::missingOrBrokenMovieFailsCleanly() {

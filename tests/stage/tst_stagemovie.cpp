@@ -9,6 +9,8 @@ class TestStageMovie : public QObject {
 private Q_SLOTS:
     void startUpDialogue();
     void templateTextsFillTheAwardVariables();
+    void titlesStayCentred_data();
+    void titlesStayCentred();
     void wholeDrawLandsOnTheWinners_data();
     void wholeDrawLandsOnTheWinners();
     void clearHidesTheCells();
@@ -56,6 +58,38 @@ void TestStageMovie::templateTextsFillTheAwardVariables() {
     rig.send(proto::updateLuckLst, QStringLiteral("恭喜∶李‖四   获得特等奖"));
     QCOMPARE(rig.call("objectText", QStringLiteral("scr_luckls")).toString(),
              QStringLiteral("恭喜∶李‖四   获得特等奖"));
+}
+
+void TestStageMovie::titlesStayCentred_data() {
+    QTest::addColumn<int>("placedX");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("align");
+    QTest::addColumn<bool>("centred");
+    const QString longTitle = QStringLiteral("二〇二六年度集团新春联欢晚会暨年终表彰盛典");
+    QTest::newRow("long title") << 660 << longTitle << "center" << true;
+    QTest::newRow("short title across the middle")
+        << 900 << QStringLiteral("年会") << "center" << true;
+    QTest::newRow("left-aligned") << 660 << longTitle << "left" << false;
+    QTest::newRow("placed beside the middle") << 100 << QStringLiteral("年会") << "center" << false;
+}
+
+void TestStageMovie::titlesStayCentred() {
+    QFETCH(int, placedX);
+    QFETCH(QString, title);
+    QFETCH(QString, align);
+    QFETCH(bool, centred);
+    StageRig rig(QStringLiteral("stage.qml"));
+    QVERIFY(rig.startUp());
+    rig.send(proto::vbAddTxt, QStringLiteral("false|txt_zbt|1|%1|40|100|0x000000|0|0|box|%2|黑体|"
+                                             "0xFFE08A|80|true|false|false|0|%3|1")
+                                  .arg(placedX)
+                                  .arg(title, align));
+    const QVariantMap info = rig.call("objectInfo", QStringLiteral("txt_zbt")).toMap();
+    const double x = info.value("x").toDouble();
+    if (centred)
+        QVERIFY(qAbs(x + info.value("width").toDouble() / 2 - 960) <= 1);
+    else
+        QCOMPARE(x, double(placedX));
 }
 
 void TestStageMovie::wholeDrawLandsOnTheWinners_data() {
