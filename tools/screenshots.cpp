@@ -21,6 +21,7 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include "awards/view/awardmanagerdialog.h"
 #include "awards/view/drawwizarddialog.h"
 #include "chrome/style.h"
 #include "chrome/widgethelpers.h"
@@ -38,9 +39,17 @@
 #include "design/view/designerwindow.h"
 #include "design/view/objectdialogs.h"
 #include "design/view/textdialogs.h"
+#include "draw/view/giveupdialog.h"
+#include "draw/view/makeupdrawdialog.h"
 #include "results/printout.h"
+#include "results/view/winnerlistdialog.h"
 #include "results/winnerrows.h"
+#include "roster/view/addparticipantdialog.h"
+#include "roster/view/cameracapturedialog.h"
+#include "roster/view/numbergeneratordialog.h"
+#include "roster/view/rostermanagerdialog.h"
 #include "sound/view/hotkeysettingsdialog.h"
+#include "sound/view/musicsettingsdialog.h"
 #include "stage/view/qmlstage.h"
 
 namespace {
@@ -129,6 +138,32 @@ void shootPrintout(const QString &out) {
     QTextStream(stdout) << out << "/print-page1.png\n";
 }
 
+// The roster's own screens on the demo roster; the camera dialog as it is without a camera.
+void shootRoster(const QString &out) {
+    RosterManagerDialog roster;
+    save(&roster, out + QStringLiteral("/roster-manager.png"));
+    AddParticipantDialog add;
+    save(&add, out + QStringLiteral("/roster-add-user.png"));
+    CameraCaptureDialog camera;
+    save(&camera, out + QStringLiteral("/roster-camera-missing.png"));
+    NumberGeneratorDialog numbers;
+    save(&numbers, out + QStringLiteral("/numbers-setup.png"));
+}
+
+// The dialogs around the draw, on the demo evening's awards and winners.
+void shootDrawDialogs(const QString &out) {
+    AwardManagerDialog awards;
+    save(&awards, out + QStringLiteral("/award-manager.png"));
+    WinnerListDialog winners;
+    save(&winners, out + QStringLiteral("/winner-list.png"));
+    GiveUpDialog giveUp;
+    save(&giveUp, out + QStringLiteral("/give-up.png"));
+    MakeUpDrawDialog makeUp(1);
+    save(&makeUp, out + QStringLiteral("/add-award-draw.png"));
+    MusicSettingsDialog music;
+    save(&music, out + QStringLiteral("/music.png"));
+}
+
 void sendMouse(QWindow *window, QEvent::Type type, const QPointF &at) {
     QMouseEvent event(type, at, at, Qt::LeftButton,
                       type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
@@ -192,6 +227,8 @@ int main(int argc, char *argv[]) {
     shootDialogs(out);
     shootHotkeySettings(out);
     shootPrintout(out);
+    shootRoster(out);
+    shootDrawDialogs(out);
     shootDesigner(out);
     shutDown();
     return 0;

@@ -15,6 +15,20 @@
 
 Q_DECLARE_METATYPE(AwardField)
 
+namespace {
+
+// An award with a prize name and no picture, range or other option.
+AwardInput awardInput(const QString &name, const QString &slotCount, const QString &batches) {
+    AwardInput input;
+    input.JXName = name;
+    input.JXNum = slotCount;
+    input.JXGroup = batches;
+    input.JPName = QStringLiteral("P");
+    return input;
+}
+
+}  // namespace
+
 class TestAwardBook : public QObject {
     Q_OBJECT
 
@@ -87,137 +101,58 @@ QList<int> TestAwardBook::order() const {
 }
 
 void TestAwardBook::validation_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("slotCount");
-    QTest::addColumn<QString>("batches");
-    QTest::addColumn<QString>("prize");
-    QTest::addColumn<QString>("photo");
+    QTest::addColumn<QStringList>("fields");  // name, slots, batches, prize, picture
     QTest::addColumn<int>("rangeType");
     QTest::addColumn<QString>("first");
     QTest::addColumn<QString>("second");
     QTest::addColumn<QString>("message");
     QTest::addColumn<AwardField>("field");
+    const auto row = [](const char *tag, const QStringList &fields, int rangeType,
+                        const char *first, const char *second, const char *message,
+                        AwardField field) {
+        QTest::newRow(tag) << fields << rangeType << QString::fromUtf8(first)
+                           << QString::fromUtf8(second) << QString::fromUtf8(message) << field;
+    };
     // Each row breaks the rule it names and every later one: the first fault wins.
-    QTest::newRow("blank name") << "  "
-                                << "0"
-                                << "0"
-                                << ""
-                                << "no" << 4 << "5"
-                                << "5"
-                                << "请输入奖项名称!" << AwardField::JxName;
-    QTest::newRow("no slots") << "一等奖"
-                              << "0"
-                              << ""
-                              << ""
-                              << "no" << 4 << "5"
-                              << "5"
-                              << "至少存在1个名额" << AwardField::JxNum;
-    QTest::newRow("empty slots") << "一等奖"
-                                 << ""
-                                 << "1"
-                                 << "P"
-                                 << "no" << 0 << "0"
-                                 << "0"
-                                 << "至少存在1个名额" << AwardField::JxNum;
-    QTest::newRow("32768 slots") << "一等奖"
-                                 << "32768"
-                                 << "0"
-                                 << ""
-                                 << "no" << 4 << "5"
-                                 << "5"
-                                 << "奖品名额最多为32767个" << AwardField::JxNum;
-    QTest::newRow("999999 slots") << "一等奖"
-                                  << "999999"
-                                  << "1"
-                                  << "P"
-                                  << "no" << 0 << "0"
-                                  << "0"
-                                  << "奖品名额最多为32767个" << AwardField::JxNum;
-    QTest::newRow("no batches") << "一等奖"
-                                << "32767"
-                                << "0"
-                                << ""
-                                << "no" << 4 << "5"
-                                << "5"
-                                << "至少存在1个抽奖批次" << AwardField::JxGroup;
-    QTest::newRow("32768 batches") << "一等奖"
-                                   << "3"
-                                   << "32768"
-                                   << ""
-                                   << "no" << 4 << "5"
-                                   << "5"
-                                   << "抽奖批次最多为32767次" << AwardField::JxGroup;
-    QTest::newRow("neither prize nor picture")
-        << "一等奖"
-        << "3"
-        << "32767"
-        << " "
-        << " no " << 4 << "5"
-        << "5"
-        << "奖品名称和奖品图片不能同时为空" << AwardField::JpName;
-    QTest::newRow("range equal") << "一等奖"
-                                 << "3"
-                                 << "1"
-                                 << "P"
-                                 << "no" << 4 << "5"
-                                 << "5"
-                                 << "区分编号范围值错误" << AwardField::RangeNum2;
-    QTest::newRow("range reversed") << "一等奖"
-                                    << "3"
-                                    << "1"
-                                    << ""
-                                    << "/p/a.png" << 4 << "9"
-                                    << "5"
-                                    << "区分编号范围值错误" << AwardField::RangeNum2;
-    QTest::newRow("range empty boxes") << "一等奖"
-                                       << "3"
-                                       << "1"
-                                       << "P"
-                                       << "no" << 4 << ""
-                                       << ""
-                                       << "区分编号范围值错误" << AwardField::RangeNum2;
-    QTest::newRow("range ok") << "一等奖"
-                              << "3"
-                              << "1"
-                              << "P"
-                              << "no" << 4 << "5"
-                              << "6"
-                              << "" << AwardField::None;
-    QTest::newRow("type 1 ignores the second box") << "一等奖"
-                                                   << "3"
-                                                   << "1"
-                                                   << "P"
-                                                   << "no" << 1 << "9"
-                                                   << "0"
-                                                   << "" << AwardField::None;
-    QTest::newRow("picture without prize name") << "一等奖"
-                                                << "1"
-                                                << "5"
-                                                << ""
-                                                << "camre" << 0 << "0"
-                                                << "0"
-                                                << "" << AwardField::None;
-    QTest::newRow("batches above slots") << "一等奖"
-                                         << "2"
-                                         << "9"
-                                         << "P"
-                                         << "no" << 0 << "0"
-                                         << "0"
-                                         << "" << AwardField::None;
+    row("blank name", {"  ", "0", "0", "", "no"}, 4, "5", "5", "请输入奖项名称!",
+        AwardField::JxName);
+    row("no slots", {"一等奖", "0", "", "", "no"}, 4, "5", "5", "至少存在1个名额",
+        AwardField::JxNum);
+    row("empty slots", {"一等奖", "", "1", "P", "no"}, 0, "0", "0", "至少存在1个名额",
+        AwardField::JxNum);
+    row("32768 slots", {"一等奖", "32768", "0", "", "no"}, 4, "5", "5", "奖品名额最多为32767个",
+        AwardField::JxNum);
+    row("999999 slots", {"一等奖", "999999", "1", "P", "no"}, 0, "0", "0", "奖品名额最多为32767个",
+        AwardField::JxNum);
+    row("no batches", {"一等奖", "32767", "0", "", "no"}, 4, "5", "5", "至少存在1个抽奖批次",
+        AwardField::JxGroup);
+    row("32768 batches", {"一等奖", "3", "32768", "", "no"}, 4, "5", "5", "抽奖批次最多为32767次",
+        AwardField::JxGroup);
+    row("neither prize nor picture", {"一等奖", "3", "32767", " ", " no "}, 4, "5", "5",
+        "奖品名称和奖品图片不能同时为空", AwardField::JpName);
+    row("range equal", {"一等奖", "3", "1", "P", "no"}, 4, "5", "5", "区分编号范围值错误",
+        AwardField::RangeNum2);
+    row("range reversed", {"一等奖", "3", "1", "", "/p/a.png"}, 4, "9", "5", "区分编号范围值错误",
+        AwardField::RangeNum2);
+    row("range empty boxes", {"一等奖", "3", "1", "P", "no"}, 4, "", "", "区分编号范围值错误",
+        AwardField::RangeNum2);
+    row("range ok", {"一等奖", "3", "1", "P", "no"}, 4, "5", "6", "", AwardField::None);
+    row("type 1 ignores the second box", {"一等奖", "3", "1", "P", "no"}, 1, "9", "0", "",
+        AwardField::None);
+    row("picture without prize name", {"一等奖", "1", "5", "", "camre"}, 0, "0", "0", "",
+        AwardField::None);
+    row("batches above slots", {"一等奖", "2", "9", "P", "no"}, 0, "0", "0", "", AwardField::None);
 }
 
 void TestAwardBook::validation() {
-    QFETCH(QString, name);
-    QFETCH(QString, slotCount);
-    QFETCH(QString, batches);
-    QFETCH(QString, prize);
-    QFETCH(QString, photo);
+    QFETCH(QStringList, fields);
     QFETCH(int, rangeType);
     QFETCH(QString, first);
     QFETCH(QString, second);
     QFETCH(QString, message);
     QFETCH(AwardField, field);
-    const AwardInput input{name, slotCount, batches, prize, photo, true, rangeType, first, second};
+    const AwardInput input{fields[0], fields[1], fields[2], fields[3], fields[4],
+                           true,      rangeType, first,     second};
     const AwardFault fault = AwardBook::validate(input);
     QCOMPARE(fault.message, message);
     QCOMPARE(fault.field, field);
@@ -235,15 +170,7 @@ void TestAwardBook::editClearsOnlyThatAward() {
     AwardBook book(m_folder->db());
     QVERIFY(book.hasWinners(5));
     QVERIFY(!book.hasWinners(1));
-    AwardInput input{QStringLiteral("五等奖"),
-                     QStringLiteral("3"),
-                     QStringLiteral("1"),
-                     QStringLiteral("P"),
-                     QStringLiteral("no"),
-                     true,
-                     0,
-                     QString(),
-                     QString()};
+    AwardInput input = awardInput("五等奖", "3", "1");
     QString error;
     QVERIFY2(book.save(5, input, &error), qPrintable(error));
 
@@ -312,15 +239,7 @@ void TestAwardBook::selectedAwardReset() {
     if (deleting) {
         QVERIFY(book.remove({2}, nullptr));
     } else {
-        AwardInput input{QStringLiteral("名"),
-                         QStringLiteral("1"),
-                         QStringLiteral("1"),
-                         QStringLiteral("P"),
-                         QStringLiteral("no"),
-                         true,
-                         0,
-                         QString(),
-                         QString()};
+        AwardInput input = awardInput("名", "1", "1");
         QVERIFY(book.save(2, input, nullptr));
     }
     QCOMPARE(int(appState().selJxid), expected);
@@ -338,8 +257,8 @@ void TestAwardBook::deleteTwoAndRenumber() {
     QDir().mkpath(m_folder->path(QStringLiteral("Photos")));
     // Award 4 shows a participant's photo; award 5 a file outside the program folder.
     QTemporaryDir outside(m_folder->path(QStringLiteral("../outside-XXXXXX")));
-    const QString outsidePicture = QStringLiteral("../") + QFileInfo(outside.path()).fileName() +
-                                   QStringLiteral("/prize.png");
+    const QString outsidePicture =
+        QStringLiteral("../") + QFileInfo(outside.path()).fileName() + QStringLiteral("/prize.png");
     for (const QString &name : {QStringLiteral("Photos/JP2.png"), QStringLiteral("Photos/JP3.png"),
                                 QStringLiteral("Photos/U9.png"), outsidePicture}) {
         QFile file(m_folder->path(name));
@@ -391,15 +310,7 @@ void TestAwardBook::allOrNothing() {
     if (deleting) {
         QVERIFY(!book.remove({2, 3}, &error));
     } else {
-        const AwardInput input{QStringLiteral("奖"),
-                               QStringLiteral("1"),
-                               QStringLiteral("1"),
-                               QStringLiteral("P"),
-                               QStringLiteral("no"),
-                               true,
-                               0,
-                               QString(),
-                               QString()};
+        const AwardInput input = awardInput("奖", "1", "1");
         QVERIFY(!book.save(2, input, &error));
     }
     QVERIFY2(error.contains(QStringLiteral("refused")), qPrintable(error));
@@ -434,15 +345,9 @@ void TestAwardBook::move() {
 
 void TestAwardBook::addTakesNextIdAndOrder() {
     AwardBook book(m_folder->db());
-    const AwardInput input{QStringLiteral("一等奖"),
-                           QStringLiteral("3"),
-                           QStringLiteral("1"),
-                           QStringLiteral("P"),
-                           QStringLiteral("no"),
-                           true,
-                           2,
-                           QStringLiteral("7"),
-                           QString()};
+    AwardInput input = awardInput("一等奖", "3", "1");
+    input.RangeType = 2;
+    input.RangeNum1 = QStringLiteral("7");
     QCOMPARE(book.add(input, nullptr), 1);
     QCOMPARE(book.add(input, nullptr), 2);
     QCOMPARE(book.add(input, nullptr), 3);
@@ -466,15 +371,7 @@ void TestAwardBook::sixteenBitIds() {
                 QStringLiteral("INSERT INTO JPList (ID, JXName, JXNum, JXGroup, OrderNum) "
                                "VALUES (32766, 'A', 1, 1, 1)"));
     QVERIFY(!book.isFull());
-    const AwardInput input{QStringLiteral("末奖"),
-                           QStringLiteral("32767"),
-                           QStringLiteral("32767"),
-                           QStringLiteral("P"),
-                           QStringLiteral("no"),
-                           true,
-                           0,
-                           QString(),
-                           QString()};
+    const AwardInput input = awardInput("末奖", "32767", "32767");
     QCOMPARE(book.add(input, nullptr), 32767);
     QCOMPARE(book.find(32767)->JXNum, 32767);
     QVERIFY(book.isFull());
@@ -530,15 +427,8 @@ void TestAwardBook::pictures() {
     else if (state.startsWith(QLatin1String("Photos/")))
         state = m_folder->path(state);
 
-    const AwardInput input{QStringLiteral("奖"),
-                           QStringLiteral("1"),
-                           QStringLiteral("1"),
-                           QStringLiteral("P"),
-                           state,
-                           true,
-                           0,
-                           QString(),
-                           QString()};
+    AwardInput input = awardInput("奖", "1", "1");
+    input.txtPhoto = state;
     QVERIFY(AwardBook(m_folder->db()).save(1, input, nullptr));
     QCOMPARE(AwardBook(m_folder->db()).find(1)->JPPhoto, stored);
     for (const QString &file : present)

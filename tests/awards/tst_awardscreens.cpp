@@ -4,7 +4,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QtTest>
@@ -14,7 +13,6 @@
 #include "awards/view/awardeditor.h"
 #include "awards/view/awardmanagerdialog.h"
 #include "awards/view/camerahook.h"
-#include "chrome/style.h"
 #include "core/appstate.h"
 #include "core/events.h"
 #include "core/store.h"
@@ -24,54 +22,6 @@
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
-
-// Stands in for the picture-viewer movie in the screenshot: shows the picture it is sent.
-class PictureStage : public Stage {
-public:
-    explicit PictureStage(QWidget *parent) : Stage(parent), m_label(new QLabel(parent)) {
-        m_label->setAlignment(Qt::AlignCenter);
-        m_label->setStyleSheet(QStringLiteral("background: transparent;"));
-    }
-    bool loadMovie(const QString &) override {
-        QTimer::singleShot(0, this,
-                           [this] { Q_EMIT commandReceived(proto::cmd::loadok, QString()); });
-        return true;
-    }
-    void setVariable(const QString &name, const QString &value) override {
-        if (name != proto::vbAddImg) return;
-        const QPixmap picture(value);
-        m_label->setPixmap(picture.isNull()
-                               ? QPixmap()
-                               : picture.scaled(m_label->size() - QSize(12, 12),
-                                                Qt::KeepAspectRatio, Qt::SmoothTransformation));
-    }
-    QWidget *widget() override { return m_label; }
-
-private:
-    QLabel *m_label;
-};
-
-// A prize picture for the screenshot: a wrapped gift on a warm background.
-void paintPrize(const QString &file) {
-    QImage image(400, 300, QImage::Format_RGB32);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient background(0, 0, 0, 300);
-    background.setColorAt(0, QColor(255, 244, 226));
-    background.setColorAt(1, QColor(252, 214, 200));
-    painter.fillRect(image.rect(), background);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(200, 40, 58));
-    painter.drawRoundedRect(QRectF(120, 120, 160, 130), 10, 10);
-    painter.setBrush(QColor(222, 64, 78));
-    painter.drawRoundedRect(QRectF(108, 92, 184, 40), 8, 8);
-    painter.setBrush(QColor(255, 212, 96));
-    painter.drawRect(QRectF(190, 92, 20, 158));
-    painter.drawEllipse(QRectF(160, 60, 40, 34));
-    painter.drawEllipse(QRectF(200, 60, 40, 34));
-    painter.end();
-    image.save(file);
-}
 
 namespace {
 
@@ -139,7 +89,6 @@ private Q_SLOTS:
     void cameraPhoto();
     void addDialog();
     void addDialogValidates();
-    void screenshot();
 
 private:
     void addAwards();
@@ -439,37 +388,6 @@ void TestAwardScreens::addDialogValidates() {
     QCOMPARE(m_ui->last().text, AwardBook::kFullMessage);
     QCOMPARE(AwardBook().list().size(), 1);
     QVERIFY(dialog.result() != QDialog::Accepted);
-}
-
-// Renders the award manager for docs/screenshots when QUELLIO_SCREENSHOTS names a folder.
-void TestAwardScreens::screenshot() {
-    const QString out = qEnvironmentVariable("QUELLIO_SCREENSHOTS");
-    if (out.isEmpty()) QSKIP("QUELLIO_SCREENSHOTS not set");
-    style::apply();
-    setStageFactory([](QWidget *parent) { return std::make_unique<PictureStage>(parent); });
-    addAwards();
-    QDir().mkpath(m_folder->path(QStringLiteral("Photos")));
-    paintPrize(m_folder->path(QStringLiteral("Photos/JP2.png")));
-    paintPrize(m_folder->path(QStringLiteral("Photos/JP1.jpg")));
-    store::exec(m_folder->db(), QStringLiteral("UPDATE JPList SET JPPhoto=? WHERE ID=?"),
-                {QStringLiteral("Photos/JP2.png"), 2});
-    store::exec(m_folder->db(), QStringLiteral("UPDATE JPList SET JPPhoto=? WHERE ID=?"),
-                {QStringLiteral("Photos/JP1.jpg"), 1});
-    m_folder->addAward(QStringLiteral("三等奖"), 30, 3, 1, 2, 8, 0, QStringLiteral("蓝牙耳机"));
-    m_folder->addAward(QStringLiteral("幸运奖"), 100, 5, 0, 3, 50, 0, QStringLiteral("购物卡"));
-    m_folder->addAward(QStringLiteral("阳光普照奖"), 200, 4, 1, 0, 0, 0,
-                       QStringLiteral("定制礼盒"));
-    AwardManagerDialog dialog;
-    selectAward(dialog, 2);
-    tick(dialog, 5);
-    dialog.show();
-    QTest::qWait(50);
-    QDir().mkpath(out);
-    QVERIFY(dialog.grab().save(out + QStringLiteral("/award-manager.png")));
-    AddAwardDialog add;
-    add.show();
-    QTest::qWait(50);
-    QVERIFY(add.grab().save(out + QStringLiteral("/award-add.png")));
 }
 
 QTEST_MAIN(TestAwardScreens)

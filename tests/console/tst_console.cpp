@@ -349,24 +349,18 @@ void TestConsole::passwordGuardsSettingsAndPasswordDialog() {
 void TestConsole::everyEntryOpensItsScreen_data() {
     QTest::addColumn<QString>("entry");
     QTest::addColumn<QString>("screen");
-    QTest::newRow("winner list") << "winnerListButton"
-                                 << "WinnerListDialog";
-    QTest::newRow("hotkeys") << "hotkeysButton"
-                             << "HotkeySettingsDialog";
-    QTest::newRow("music") << "musicButton"
-                           << "MusicSettingsDialog";
-    QTest::newRow("guide") << "wizardButton"
-                           << "DrawWizardDialog";
-    QTest::newRow("password") << "passwordButton"
-                              << "ChangePasswordDialog";
-    QTest::newRow("roster manager") << "manageRosterLink"
-                                    << "RosterManagerDialog";
-    QTest::newRow("photo import") << "photoImportLink"
-                                  << "PhotoImportDialog";
-    QTest::newRow("number generator") << "numberGeneratorLink"
-                                      << "NumberGeneratorDialog";
-    QTest::newRow("award manager") << "manageAwardsLink"
-                                   << "AwardManagerDialog";
+    const auto row = [](const char *tag, const char *entry, const char *screen) {
+        QTest::newRow(tag) << QString::fromLatin1(entry) << QString::fromLatin1(screen);
+    };
+    row("winner list", "winnerListButton", "WinnerListDialog");
+    row("hotkeys", "hotkeysButton", "HotkeySettingsDialog");
+    row("music", "musicButton", "MusicSettingsDialog");
+    row("guide", "wizardButton", "DrawWizardDialog");
+    row("password", "passwordButton", "ChangePasswordDialog");
+    row("roster manager", "manageRosterLink", "RosterManagerDialog");
+    row("photo import", "photoImportLink", "PhotoImportDialog");
+    row("number generator", "numberGeneratorLink", "NumberGeneratorDialog");
+    row("award manager", "manageAwardsLink", "AwardManagerDialog");
 }
 
 // Each entry of the console opens its modal screen; none says it is still to come.

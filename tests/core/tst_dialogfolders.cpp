@@ -24,10 +24,10 @@ void TestDialogFolders::openStart_data() {
     const QString last = m_last.path();
     QTest::newRow("first import") << QString() << QString() << QStringLiteral("/home/docs");
     QTest::newRow("next import") << QString() << last << last;
-    QTest::newRow("last folder gone") << QString() << QStringLiteral("/no/such/folder")
-                                      << QStringLiteral("/home/docs");
-    QTest::newRow("the caller's own") << QStringLiteral("/app/Music") << last
-                                      << QStringLiteral("/app/Music");
+    QTest::newRow("last folder gone")
+        << QString() << QStringLiteral("/no/such/folder") << QStringLiteral("/home/docs");
+    QTest::newRow("the caller's own")
+        << QStringLiteral("/app/Music") << last << QStringLiteral("/app/Music");
 }
 
 void TestDialogFolders::openStart() {

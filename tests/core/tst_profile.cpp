@@ -45,47 +45,27 @@ void TestProfile::reading_data() {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("expected");
 
+    const auto row = [](const char *tag, const QByteArray &content, const char *section,
+                        const char *key, const QString &expected) {
+        QTest::newRow(tag) << content << QString::fromUtf8(section) << QString::fromUtf8(key)
+                           << expected;
+    };
     const QByteArray basic = "[main]\nBT1=年会\nluckDelay=\n[music]\nBT1=other\n";
-    QTest::newRow("plain") << basic << "main"
-                           << "BT1" << QStringLiteral("年会");
-    QTest::newRow("empty value") << basic << "main"
-                                 << "luckDelay"
-                                 << "";
-    QTest::newRow("missing key") << basic << "main"
-                                 << "nothing"
-                                 << "";
-    QTest::newRow("missing section") << basic << "other"
-                                     << "BT1"
-                                     << "";
-    QTest::newRow("other section") << basic << "music"
-                                   << "BT1"
-                                   << "other";
-    QTest::newRow("any case") << basic << "MAIN"
-                              << "bt1" << QStringLiteral("年会");
-    QTest::newRow("first equals splits") << QByteArray("[main]\nBT1=a=b;c\n") << "main"
-                                         << "BT1"
-                                         << "a=b;c";
-    QTest::newRow("blanks dropped") << QByteArray("[main]\n  BT1 =   x y  \n") << "main"
-                                    << "BT1"
-                                    << "x y";
-    QTest::newRow("double quotes dropped") << QByteArray("[main]\nBT1=\"  quoted \"\n") << "main"
-                                           << "BT1"
-                                           << "  quoted ";
-    QTest::newRow("single quotes dropped") << QByteArray("[main]\nBT1='x'\n") << "main"
-                                           << "BT1"
-                                           << "x";
-    QTest::newRow("unmatched quotes stay") << QByteArray("[main]\nBT1=\"x'\n") << "main"
-                                           << "BT1"
-                                           << "\"x'";
-    QTest::newRow("CR LF lines") << QByteArray("[main]\r\nBT1=v\r\nBT2=w\r\n") << "main"
-                                 << "BT2"
-                                 << "w";
-    QTest::newRow("byte-order mark") << QByteArray("\xEF\xBB\xBF[main]\nBT1=v\n") << "main"
-                                     << "BT1"
-                                     << "v";
-    QTest::newRow("comment is no key") << QByteArray("[main]\n;BT1=no\n") << "main"
-                                       << "BT1"
-                                       << "";
+    row("plain", basic, "main", "BT1", QStringLiteral("年会"));
+    row("empty value", basic, "main", "luckDelay", "");
+    row("missing key", basic, "main", "nothing", "");
+    row("missing section", basic, "other", "BT1", "");
+    row("other section", basic, "music", "BT1", "other");
+    row("any case", basic, "MAIN", "bt1", QStringLiteral("年会"));
+    row("first equals splits", QByteArray("[main]\nBT1=a=b;c\n"), "main", "BT1", "a=b;c");
+    row("blanks dropped", QByteArray("[main]\n  BT1 =   x y  \n"), "main", "BT1", "x y");
+    row("double quotes dropped", QByteArray("[main]\nBT1=\"  quoted \"\n"), "main", "BT1",
+        "  quoted ");
+    row("single quotes dropped", QByteArray("[main]\nBT1='x'\n"), "main", "BT1", "x");
+    row("unmatched quotes stay", QByteArray("[main]\nBT1=\"x'\n"), "main", "BT1", "\"x'");
+    row("CR LF lines", QByteArray("[main]\r\nBT1=v\r\nBT2=w\r\n"), "main", "BT2", "w");
+    row("byte-order mark", QByteArray("\xEF\xBB\xBF[main]\nBT1=v\n"), "main", "BT1", "v");
+    row("comment is no key", QByteArray("[main]\n;BT1=no\n"), "main", "BT1", "");
 }
 
 void TestProfile::reading() {

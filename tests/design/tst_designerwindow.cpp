@@ -61,11 +61,7 @@ struct LiveDesigner {
 
     bool open() {
         window = openDesigner(live.folder);
-        QElapsedTimer clock;
-        clock.start();
-        while (info(design::sysobj::ssm_vornex).isEmpty() && clock.elapsed() < 15000)
-            QTest::qWait(20);
-        return !info(design::sysobj::ssm_vornex).isEmpty();
+        return QTest::qWaitFor([&] { return !info(design::sysobj::ssm_vornex).isEmpty(); }, 15000);
     }
     QmlStage &stage() { return static_cast<QmlStage &>(window->stage()); }
     QVariantMap info(const QString &name) {

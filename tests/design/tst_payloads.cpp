@@ -15,7 +15,7 @@ class TestPayloads : public QObject {
 private Q_SLOTS:
     void objectPayloads_data();
     void objectPayloads();
-    void prizePictureIsKeptBackOnTheDrawScreen();
+    void prizePictureAndUnknownTypes();
     void separatorsNeverReachTheStageRaw();
     void pageValues();
     void previewFit_data();
@@ -31,7 +31,6 @@ private Q_SLOTS:
     void drawAreaPreview();
     void playback();
     void luckPlayValues();
-    void participantPhotos();
 };
 
 namespace {
@@ -181,10 +180,6 @@ void TestPayloads::objectPayloads_data() {
         "true");
     QTest::newRow("txt console: 17 fields")
         << "txt" << Reader::Console << load << true << proto::vbAddTxt << txt;
-    QTest::newRow("txt designer: 20 fields")
-        << "txt" << Reader::Designer << load << true << proto::vbAddTxt << txt + "|1.5|center|1";
-    QTest::newRow("txt draw: 20 fields")
-        << "txt" << Reader::Draw << load << true << proto::vbAddTxt << txt + "|1.5|center|1";
     QTest::newRow("main title in the console")
         << "zbt" << Reader::Console << load << true << proto::vbAddTxt
         << "false|txt_zbt|3|12.5|40|90|0x112233|30|2|box|2026年度盛典|黑体|0xFF0000|24|true|"
@@ -253,14 +248,10 @@ void TestPayloads::objectPayloads() {
     QCOMPARE(command.usedBlockPicture, command.value.contains(QLatin1String("block.png")));
 }
 
-void TestPayloads::prizePictureIsKeptBackOnTheDrawScreen() {
+void TestPayloads::prizePictureAndUnknownTypes() {
     ObjRow prize = imageRow();
     prize.ObjName = QStringLiteral("img_jpimgs");
     prize.ImgPath.clear();
-    QVERIFY(objectCommand(prize, context(Reader::Draw)).isEmpty());
-    // The head keeps the row's own size: the award's picture, not the block, fills it.
-    QCOMPARE(prizePictureHeadOf(prize),
-             QStringLiteral("false|img_jpimgs|5|10|20|200|150|80|true|"));
     // The designer shows it like any picture; a row without a file shows the block.
     QCOMPARE(objectCommand(prize, context(Reader::Designer)).value,
              QStringLiteral("false|img_jpimgs|5|10|20|128|128|80|true|/opt/q/skin/Src/block.png"));
@@ -312,8 +303,6 @@ void TestPayloads::pageValues() {
     QVERIFY(sendsBackgroundImage(bg, context(Reader::Console)));
     QVERIFY(!sendsBackgroundImage(bg, context(Reader::Console, false)));
 
-    QCOMPARE(keysPayload({32, 32, 8, 46, 69, 80, 76, 77, 70}),
-             QStringLiteral("32|32|8|46|69|80|76|77|70"));
     QCOMPARE(selectObjectPayload(QStringLiteral("txt_zbt")), QStringLiteral("txt_zbt|true"));
     QCOMPARE(swapDepthPayload(QStringLiteral("a"), QStringLiteral("b")), QStringLiteral("a|b"));
     QCOMPARE(startScrollPayload(true, 5, Reader::Designer), QStringLiteral("yes|5"));
@@ -501,13 +490,6 @@ void TestPayloads::luckPlayValues() {
              QStringLiteral("S|一等奖|1|张三$李‖四$|4$9$"));
     QCOMPARE(luckPlayPayload(style, QStringLiteral("一等奖"), QStringLiteral("电视"), 1, 2, {}, {}),
              QStringLiteral("S|一等奖  奖品∶电视|2||"));
-}
-
-void TestPayloads::participantPhotos() {
-    QCOMPARE(loadAllUserPicsPayload(kApp, {{QStringLiteral("Photos/U1.jpg"), 1},
-                                           {QStringLiteral("Photos\\U12.png"), 12}}),
-             QStringLiteral("/opt/q/|Photos/U1.jpg$1|Photos/U12.png$12"));
-    QCOMPARE(loadAllUserPicsPayload(kApp, {}), QStringLiteral("/opt/q/"));
 }
 
 QTEST_GUILESS_MAIN(TestPayloads)

@@ -4,9 +4,7 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QPointer>
 #include <QQuickWindow>
 #include <QSignalSpy>
@@ -91,37 +89,16 @@ struct LiveScreen {
         return store::scalar(folder.db(), sql, values).toInt();
     }
     bool waitState(int wanted, int timeoutMs = kLandingMs) {
-        QElapsedTimer clock;
-        clock.start();
-        while (state() != wanted && clock.elapsed() < timeoutMs)
-            QTest::qWait(20);
-        return state() == wanted;
+        return QTest::qWaitFor([&] { return state() == wanted; }, timeoutMs);
     }
     // Space starts, and once the stop guard is over, space stops; true once landed and stored.
     bool drawWithSpace() {
         key(Qt::Key_Space);
         if (!waitState(draw::Running, 3000)) return false;
-        QElapsedTimer clock;
-        clock.start();
-        while (timer("stopGuardTimer")->isActive() && clock.elapsed() < 5000)
-            QTest::qWait(20);
+        if (!QTest::qWaitFor([&] { return !timer("stopGuardTimer")->isActive(); }, 5000))
+            return false;
         key(Qt::Key_Space);
         return waitState(draw::Result);
-    }
-    // The stage as the hall sees it, with the stop guard's panel when it is up.
-    void save(const QString &name) {
-        const QString dir = qEnvironmentVariable("QUELLIO_SCREENSHOT_DIR");
-        QTest::qWait(80);
-        QImage image = stage()->grab();
-        if (stopGuardPanel()->isVisible()) {
-            QPainter painter(&image);
-            const QPixmap panel = stopGuardPanel()->grab();
-            painter.drawPixmap(form->mapFromGlobal(stopGuardPanel()->pos()), panel);
-        }
-        QVERIFY(!image.isNull());
-        if (dir.isEmpty()) return;
-        QDir().mkpath(dir);
-        QVERIFY(image.save(dir + QLatin1Char('/') + name));
     }
 };
 

@@ -19,72 +19,8 @@ class TestDrawScreenMovie : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void wholeDrawsOnTheRealMovie();
     void paradeToItsEndTwice();
 };
-
-void TestDrawScreenMovie::wholeDrawsOnTheRealMovie() {
-    LiveScreen s;
-    QVERIFY(s.started);
-    s.folder.addUsers(roster());
-    const int first = s.folder.addAward(QStringLiteral("一等奖"), 10, 1, 1, 0, 0, 0,
-                                        QStringLiteral("笔记本电脑"));
-    const int second = s.folder.addAward(QStringLiteral("二等奖"), 5, 1);
-    QVERIFY2(s.open(), qPrintable(s.stageErrors()));
-    QCOMPARE(s.session().award.id, first);
-    QCOMPARE(s.stage()->grab().size(), QSize(1920, 1080));
-
-    // Space starts (the same key as stop); an early stop is refused by the guard.
-    s.key(Qt::Key_Space);
-    QVERIFY(s.waitState(draw::Running, 3000));
-    QTRY_VERIFY(s.timer("scrollSampleTimer")->isActive());
-    s.key(Qt::Key_Space);
-    QVERIFY(s.stopGuardPanel()->isVisible());
-    QCOMPARE(s.state(), int(draw::Running));
-    s.save(QStringLiteral("drawscreen-stopguard.png"));
-    // Esc while the names roll: no question.
-    s.key(Qt::Key_Escape);
-    QVERIFY(s.ui->records.isEmpty());
-    QTRY_VERIFY_WITH_TIMEOUT(!s.timer("stopGuardTimer")->isActive(), 5000);
-    QTest::qWait(400);
-    s.save(QStringLiteral("drawscreen-rolling.png"));
-    s.key(Qt::Key_Space);
-    QVERIFY(!s.timer("scrollSampleTimer")->isActive());
-    QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM UserList WHERE UserStatus=3")), 0);
-    QVERIFY(s.waitState(draw::Result));
-    QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM UserList WHERE UserStatus=3")), 10);
-    QCOMPARE(s.count(QStringLiteral("SELECT COUNT(DISTINCT UpdateTime) FROM UserList WHERE "
-                                    "UserStatus=3")),
-             1);
-    QTest::qWait(1200);
-    s.save(QStringLiteral("drawscreen-landed.png"));
-
-    // The cancel key (Delete) takes the batch back; the screen stays in its result state.
-    s.ui->answers.enqueue(true);
-    s.key(Qt::Key_Delete);
-    QCOMPARE(s.ui->last().text, QStringLiteral("确定要撤消此次产生的中奖结果么?"));
-    QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM UserList WHERE JxID > ''")), 0);
-    QCOMPARE(s.state(), int(draw::Result));
-
-    QVERIFY(s.drawWithSpace());
-    QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM UserList WHERE UserStatus=3")), 10);
-    // The award is full: Start moves on to the next one and draws nobody.
-    s.key(Qt::Key_Space);
-    QCOMPARE(s.session().award.id, second);
-    QCOMPARE(s.state(), int(draw::Idle));
-    QVERIFY(s.drawWithSpace());
-    QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM UserList WHERE UserStatus=3")), 12);
-    // Three places left and nobody to fill them.
-    s.ui->clear();
-    s.key(Qt::Key_Space);
-    QCOMPARE(s.ui->texts(), QStringList{QStringLiteral("已无符合条件的抽奖名单可抽取!")});
-    QCOMPARE(s.state(), int(draw::Idle));
-
-    // Esc at rest asks; No keeps the screen.
-    s.key(Qt::Key_Escape);
-    QCOMPARE(s.ui->last().text, QStringLiteral("确认要退出当前抽奖界面么?"));
-    QVERIFY(s.form->isVisible());
-}
 
 void TestDrawScreenMovie::paradeToItsEndTwice() {
     LiveScreen s;

@@ -13,7 +13,6 @@
 #include "drawdialogs.h"
 #include "livescreen.h"
 #include "stage/protocol.h"
-#include "support/overstage.h"
 
 namespace {
 
@@ -59,15 +58,6 @@ bool readCsv(const QString &path, QList<CsvRow> *rows) {
         rows->append({fields[1], fields[2], fields[3], fields[4]});
     }
     return true;
-}
-
-// For docs/screenshots when QUELLIO_SCREENSHOT_DIR names a folder.
-void saveOverStage(LiveScreen &s, QDialog &dialog, const QString &name) {
-    const QString dir = qEnvironmentVariable("QUELLIO_SCREENSHOT_DIR");
-    if (dir.isEmpty()) return;
-    QDir().mkpath(dir);
-    const QPixmap stage = QPixmap::fromImage(s.stage()->grab());
-    overStage(stage, dialog.grab(), dialog.windowTitle()).save(dir + QLatin1Char('/') + name);
 }
 
 }  // namespace
@@ -186,7 +176,6 @@ void TestWholeEvening::fromFirstBatchToTheExport() {
     const QString csv = s.folder.path(QStringLiteral("record/晚会中奖名单.csv"));
     whenDialogOpens<EndOfDrawDialog>(
         [&](EndOfDrawDialog &dialog) {
-            saveOverStage(s, dialog, QStringLiteral("ask-end.png"));
             s.ui->files.enqueue(csv);
             choice(dialog, "exportChoice")->click();
             button(dialog, "cancelButton")->click();

@@ -6,13 +6,11 @@
 #include <QTreeWidget>
 #include <QtTest>
 
-#include "chrome/style.h"
 #include "core/store.h"
 #include "results/view/printwinners.h"
 #include "results/view/winnerlistdialog.h"
 #include "results/winnerlist.h"
 #include "support/childwidget.h"
-#include "support/sampleevening.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
@@ -52,7 +50,6 @@ private Q_SLOTS:
     void statusTexts();
     void listShowsRowsAndTotals();
     void exportAndPrintButtons();
-    void screenshot();
 
 private:
     void setWins(qint64 id, const QVariant &jxId, const QVariant &status, const QString &time) {
@@ -187,20 +184,6 @@ void TestWinnerList::exportAndPrintButtons() {
     setPrinterFactory([] { return std::unique_ptr<QPagedPaintDevice>(); });
     child<QPushButton>(dialog, "printButton")->click();
     QCOMPARE(m_ui->texts(), QStringList({"找不到打印机"}));
-}
-
-// Renders the winner list for docs/screenshots when QUELLIO_SCREENSHOTS names a folder.
-void TestWinnerList::screenshot() {
-    const QString out = qEnvironmentVariable("QUELLIO_SCREENSHOTS");
-    if (out.isEmpty()) QSKIP("QUELLIO_SCREENSHOTS not set");
-    QDir().mkpath(out);
-    style::apply();
-    fillSampleEvening(*m_folder);
-    WinnerListDialog dialog;
-    winnerList(dialog)->setCurrentItem(winnerList(dialog)->topLevelItem(3));
-    dialog.show();
-    QTest::qWait(60);
-    QVERIFY(dialog.grab().save(out + QStringLiteral("/winner-list.png")));
 }
 
 QTEST_MAIN(TestWinnerList)

@@ -350,16 +350,12 @@ void TestRosterImport::excelImportMergesAndRefusesDuplicates() {
     QCOMPARE(names(folder.db()), (QStringList{"周八/客服部", "陈七/行政部"}));
     QVERIFY(job.log().contains(QStringLiteral("\n重复数据：陈七")));
 
-    // A merge text other than blanks stays at the end of the name; an empty name is logged.
+    // A merge text other than blanks stays at the end of the name.
     QVERIFY(book.readSheet(0, -1, &sheet, &error));
     ExcelImport merged(sheet.rows, {false, true, false, false, false, false, false},
                        QStringLiteral("-"), true, true);
     QCOMPARE(merged.runToEnd(), RosterImport::Outcome::Finished);
     QCOMPARE(merged.imported(), 5);  // the empty name of row 5 is "-"
-    ExcelImport blank({{QString(), "x"}}, {true, false}, QStringLiteral(" "), false, false);
-    QCOMPARE(blank.runToEnd(), RosterImport::Outcome::Finished);
-    QCOMPARE(blank.log(), QStringLiteral("\n屏蔽空白数据"));
-    QCOMPARE(blank.imported() + blank.duplicates(), 0);
     const QStringList rows = names(folder.db());
     QCOMPARE(rows.first().section(QLatin1Char('/'), 0, 0), QStringLiteral("张三-"));
     QVERIFY(
@@ -383,11 +379,6 @@ void TestRosterImport::excelReplaceKeepsPrizePhotos() {
     QVERIFY(QFile::exists(folder.path("Photos/camertemp.jpg")));
     QCOMPARE(store::scalar(folder.db(), "SELECT COUNT(*) FROM JPList WHERE ID=?", {award}).toInt(),
              1);
-
-    // A replace with an empty sheet leaves the roster alone.
-    ExcelImport empty({}, {true}, QStringLiteral(" "), false, true);
-    QCOMPARE(empty.runToEnd(), RosterImport::Outcome::Finished);
-    QCOMPARE(names(folder.db()), QStringList{"丙/"});
 }
 
 void TestRosterImport::textImportFromFile() {

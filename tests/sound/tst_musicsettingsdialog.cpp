@@ -4,7 +4,6 @@
 #include <QPushButton>
 #include <QtTest>
 
-#include "chrome/style.h"
 #include "core/appstate.h"
 #include "core/profile.h"
 #include "core/settings.h"
@@ -76,7 +75,6 @@ private Q_SLOTS:
     void saving_data();
     void saving();
     void drawScreenReadsTheSameKeys();
-    void screenshot();
 
 private:
     QString music(const QString &name) const { return m_folder->path("Music/" + name); }
@@ -265,24 +263,6 @@ void TestMusicSettingsDialog::drawScreenReadsTheSameKeys() {
     QCOMPARE(read[music::Background].path, music("party.mp3"));
     // No win sound of one's own: the program's chime.
     QCOMPARE(draw::winSoundPath(read, appState().appPath), appState().path("sys/win.wav"));
-}
-
-// Renders the dialog for docs/screenshots when QUELLIO_SCREENSHOTS names a folder.
-void TestMusicSettingsDialog::screenshot() {
-    const QString out = qEnvironmentVariable("QUELLIO_SCREENSHOTS");
-    if (out.isEmpty()) QSKIP("QUELLIO_SCREENSHOTS not set");
-    style::apply();
-    writeFile(music("年会背景音乐.mp3"), "bg");
-    store(music::Background, "年会背景音乐.mp3", true);
-    store(music::Start, "no", true);
-    store(music::Luck, "no", false);
-    MusicSettingsDialog form;
-    m_ui->files.enqueue(appState().path("sys/roll.wav"));
-    Row(form, music::Start).choose->click();
-    form.show();
-    QTest::qWait(60);
-    QDir().mkpath(out);
-    QVERIFY(form.grab().save(out + QStringLiteral("/music.png")));
 }
 
 QTEST_MAIN(TestMusicSettingsDialog)
