@@ -1,11 +1,4 @@
 #include <QAbstractButton>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QRegularExpression>
-#include <QTabBar>
-#include <QTreeWidget>
 #include <QtTest>
 
 #include "awards/view/awardmanagerdialog.h"
@@ -19,38 +12,10 @@
 #include "support/fakemediabackend.h"
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
+#include "support/showntexts.h"
 #include "support/tempprogramfolder.h"
 
 namespace {
-
-void addItemTexts(QWidget *widget, QStringList *texts) {
-    if (auto *combo = qobject_cast<QComboBox *>(widget))
-        for (int i = 0; i < combo->count(); ++i)
-            *texts << combo->itemText(i);
-    if (auto *tabs = qobject_cast<QTabBar *>(widget))
-        for (int i = 0; i < tabs->count(); ++i)
-            *texts << tabs->tabText(i);
-    if (auto *tree = qobject_cast<QTreeWidget *>(widget))
-        for (int c = 0; c < tree->columnCount(); ++c)
-            *texts << tree->headerItem()->text(c) << tree->headerItem()->toolTip(c);
-}
-
-// Every text a visible widget of the window shows: titles, captions, labels, tips, headers,
-// the items of lists to choose from.
-QStringList shownTexts(QWidget &window) {
-    QStringList texts{window.windowTitle()};
-    for (QWidget *widget : window.findChildren<QWidget *>()) {
-        if (!widget->isVisibleTo(&window)) continue;
-        texts << widget->toolTip();
-        if (auto *label = qobject_cast<QLabel *>(widget)) texts << label->text();
-        if (auto *button = qobject_cast<QAbstractButton *>(widget)) texts << button->text();
-        if (auto *box = qobject_cast<QGroupBox *>(widget)) texts << box->title();
-        if (auto *edit = qobject_cast<QLineEdit *>(widget))
-            texts << edit->text() << edit->placeholderText();
-        addItemTexts(widget, &texts);
-    }
-    return texts;
-}
 
 QWidget *consoleOnPage(const char *tab) {
     auto *console = new ConsoleWindow;
@@ -104,10 +69,7 @@ void TestEnglish::windowShowsNoChinese() {
     const std::unique_ptr<QWidget> shown(openWindow(window));
     shown->show();
     QVERIFY(QTest::qWaitForWindowExposed(shown.get()));
-    static const QRegularExpression chinese(
-        QStringLiteral("[\\x{3000}-\\x{9fff}\\x{ff00}-\\x{ffef}]"));
-    for (const QString &text : shownTexts(*shown))
-        QVERIFY2(!text.contains(chinese), qPrintable(text));
+    verifyNoChinese(shownTexts(*shown));
 }
 
 QTEST_MAIN(TestEnglish)

@@ -1,12 +1,5 @@
 #include <QAbstractButton>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QQuickItem>
-#include <QRegularExpression>
-#include <QTabWidget>
-#include <QTreeWidget>
 
 #include "core/language.h"
 #include "design/templatepage.h"
@@ -17,38 +10,9 @@
 #include "livescreen.h"
 #include "stage/protocol.h"
 #include "support/recordingstage.h"
+#include "support/showntexts.h"
 
 namespace {
-
-bool hasChinese(const QString &text) {
-    static const QRegularExpression chinese(
-        QStringLiteral("[\\x{3000}-\\x{9fff}\\x{ff00}-\\x{ffef}]"));
-    return text.contains(chinese);
-}
-
-// Every text a visible widget of the window shows: captions, labels, tips, tabs, list entries.
-QStringList shownTexts(QWidget &window) {
-    QStringList texts{window.windowTitle()};
-    for (QWidget *widget : window.findChildren<QWidget *>()) {
-        if (!widget->isVisibleTo(&window)) continue;
-        texts << widget->toolTip();
-        if (auto *label = qobject_cast<QLabel *>(widget)) texts << label->text();
-        if (auto *button = qobject_cast<QAbstractButton *>(widget)) texts << button->text();
-        if (auto *box = qobject_cast<QGroupBox *>(widget)) texts << box->title();
-        if (auto *edit = qobject_cast<QLineEdit *>(widget))
-            texts << edit->text() << edit->placeholderText();
-        if (auto *tabs = qobject_cast<QTabWidget *>(widget))
-            for (int i = 0; i < tabs->count(); ++i)
-                texts << tabs->tabText(i);
-        if (auto *combo = qobject_cast<QComboBox *>(widget))
-            for (int i = 0; i < combo->count(); ++i)
-                texts << combo->itemText(i);
-        if (auto *tree = qobject_cast<QTreeWidget *>(widget))
-            for (int c = 0; c < tree->columnCount(); ++c)
-                texts << tree->headerItem()->text(c);
-    }
-    return texts;
-}
 
 // The caption and the tip of every button the stage's bar shows.
 QStringList barTexts(QQuickItem *item) {
@@ -59,11 +23,6 @@ QStringList barTexts(QQuickItem *item) {
     for (QQuickItem *child : item->childItems())
         texts << barTexts(child);
     return texts;
-}
-
-void verifyEnglish(const QStringList &texts) {
-    for (const QString &text : texts)
-        QVERIFY2(!hasChinese(text), qPrintable(text));
 }
 
 }  // namespace
@@ -89,18 +48,18 @@ void TestDrawEnglish::drawStageSpeaksEnglish() {
 
     const QStringList bar = barTexts(s.stage()->root());
     QVERIFY(bar.contains(QStringLiteral("Start")));
-    verifyEnglish(bar);
+    verifyNoChinese(bar);
     const QString hint = s.stage()->root()->property("keyHint").toString();
     QVERIFY(hint.startsWith(QStringLiteral("Press ")));
-    verifyEnglish({hint});
+    verifyNoChinese({hint});
 
     s.key(Qt::Key_Space);
     QVERIFY(s.waitState(draw::Running, 3000));
     s.key(Qt::Key_Space);
     QVERIFY(s.stopGuardPanel()->isVisible());
-    verifyEnglish(shownTexts(*s.form));
+    verifyNoChinese(shownTexts(*s.form));
     const std::unique_ptr<QWidget> end(new EndOfDrawDialog(s.engine()));
-    verifyEnglish(shownTexts(*end));
+    verifyNoChinese(shownTexts(*end));
 }
 
 void TestDrawEnglish::windowShowsNoChinese_data() {
@@ -131,7 +90,7 @@ void TestDrawEnglish::windowShowsNoChinese() {
     }
     shown->show();
     QVERIFY(QTest::qWaitForWindowExposed(shown.get()));
-    verifyEnglish(shownTexts(*shown));
+    verifyNoChinese(shownTexts(*shown));
     shown.reset();
     setStageFactory({});
 }
