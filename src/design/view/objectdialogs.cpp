@@ -42,7 +42,7 @@ void finishLayout(QDialog *dialog, QGroupBox *frame, const std::function<void()>
 
 ImageObjectDialog::ImageObjectDialog(design::DesignerDocument &document, const QString &name,
                                      QWidget *parent)
-    : QDialog(parent), m_document(document), m_name(name.trimmed()) {
+    : DocumentDialog(document, name.trimmed(), parent) {
     setWindowTitle(tr("图片编辑"));
     design::ObjRow row;
     if (!document.readObject(m_name, &row)) {
@@ -77,7 +77,7 @@ void ImageObjectDialog::save() {
 
 AnimationObjectDialog::AnimationObjectDialog(design::DesignerDocument &document,
                                              const QString &name, QWidget *parent)
-    : QDialog(parent), m_document(document), m_name(name.trimmed()) {
+    : DocumentDialog(document, name.trimmed(), parent) {
     setWindowTitle(tr("SWF文件属性"));
     design::ObjRow row;
     if (!document.readObject(m_name, &row)) {
@@ -117,7 +117,7 @@ void AnimationObjectDialog::save() {
 
 DrawFontDialog::DrawFontDialog(design::DesignerDocument &document, const QString &row,
                                QWidget *parent)
-    : QDialog(parent), m_document(document), m_row(row) {
+    : DocumentDialog(document, row, parent) {
     setWindowTitle(tr("字体设置"));
     const design::PlayRow play = document.readPlayRow(row);
     if (!play.found) {
@@ -142,15 +142,15 @@ DrawFontDialog::DrawFontDialog(design::DesignerDocument &document, const QString
 
 void DrawFontDialog::save() {
     auto flag = [](bool on) { return on ? proto::trueText : proto::falseText; };
-    if (m_document.updatePlay(m_row, {{QStringLiteral("txtAlpha"), m_style->alpha()},
-                                      {QStringLiteral("fName"), m_style->family()},
-                                      {QStringLiteral("fColor"), m_style->colorText()},
-                                      {QStringLiteral("fSize"), m_style->pixelSize()},
-                                      {QStringLiteral("fBold"), flag(m_style->bold())},
-                                      {QStringLiteral("fItalic"), flag(m_style->italic())},
-                                      {QStringLiteral("fUnderline"), flag(m_style->underline())},
-                                      {QStringLiteral("isShadown"), m_style->shadow() ? 1 : 0},
-                                      {QStringLiteral("txtAlign"), m_style->alignment()}}))
+    if (m_document.updatePlay(m_name, {{QStringLiteral("txtAlpha"), m_style->alpha()},
+                                       {QStringLiteral("fName"), m_style->family()},
+                                       {QStringLiteral("fColor"), m_style->colorText()},
+                                       {QStringLiteral("fSize"), m_style->pixelSize()},
+                                       {QStringLiteral("fBold"), flag(m_style->bold())},
+                                       {QStringLiteral("fItalic"), flag(m_style->italic())},
+                                       {QStringLiteral("fUnderline"), flag(m_style->underline())},
+                                       {QStringLiteral("isShadown"), m_style->shadow() ? 1 : 0},
+                                       {QStringLiteral("txtAlign"), m_style->alignment()}}))
         accept();
 }
 

@@ -39,7 +39,7 @@ QString flagText(bool on) {
 
 TextDialogBase::TextDialogBase(design::DesignerDocument &document, const QString &name,
                                const QStringList &sizes, const QString &title, QWidget *parent)
-    : QDialog(parent), m_document(document), m_name(name.trimmed()) {
+    : DocumentDialog(document, name.trimmed(), parent) {
     setWindowTitle(title);
     m_contentEdit = new QTextEdit(this);
     m_contentEdit->setObjectName(QStringLiteral("contentEdit"));

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QDialog>
-
 #include "design/templatemodel.h"
+#include "design/view/documentdialog.h"
 
 class QComboBox;
 class QFormLayout;
@@ -12,18 +11,10 @@ class QSlider;
 class QTextEdit;
 class FontStyleBox;
 
-namespace design {
-class DesignerDocument;
-}
-
 // What the text and scrolling-text dialogs share: the text box, shown in the chosen style, and
 // the font part. A subclass adds its own frame and columns.
-class TextDialogBase : public QDialog {
+class TextDialogBase : public DocumentDialog {
     Q_OBJECT
-public:
-    // False when the row could not be read: the dialog has said so and should not be shown.
-    bool isLoaded() const { return m_loaded; }
-
 protected:
     TextDialogBase(design::DesignerDocument &document, const QString &name,
                    const QStringList &sizes, const QString &title, QWidget *parent);
@@ -35,8 +26,6 @@ protected:
     void saveColumns(const QVariantMap &columns);
     QString colorButtonText(QPushButton *button) const;
 
-    design::DesignerDocument &m_document;
-    QString m_name;
     design::ObjRow m_row;
     QTextEdit *m_contentEdit = nullptr;
     FontStyleBox *m_style = nullptr;
@@ -44,7 +33,6 @@ protected:
 
 private:
     void showStyle();
-    bool m_loaded = false;
 };
 
 // Edits one text object: text, font and the border panel.
