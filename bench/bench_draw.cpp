@@ -79,14 +79,10 @@ void printLine(const char *what, Timing t) {
 
 void benchRoster(int n) {
     QTemporaryDir dir;
-    programfolder::copyTree(QStringLiteral(QUELLIO_FACTORY_DIR), dir.path());
-    QFile::remove(dir.path() + QStringLiteral("/quellio.lock"));
-    qputenv("QUELLIO_HOME", dir.path().toUtf8());
-    if (!startUp(dir.path())) {
+    if (!startFilledFolder(dir.path(), n)) {
         std::printf("start-up failed\n");
         return;
     }
-    fillStore(store::mainConn(), n);
     SilentStage stage;
     // Opening the draw window: the audit session writes its roster snapshot, the first award
     // reads the roster. The first press after it is the cold one.

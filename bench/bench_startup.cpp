@@ -87,10 +87,7 @@ int main(int argc, char **argv) {
     qputenv("QUELLIO_HOME", dir.path().toUtf8());
     {
         QApplication app(argc, argv);
-        programfolder::copyTree(QStringLiteral(QUELLIO_FACTORY_DIR), dir.path());
-        QFile::remove(dir.path() + QStringLiteral("/quellio.lock"));
-        if (!startUp(dir.path())) return 1;
-        fillStore(store::mainConn(), kRoster);
+        if (!startFilledFolder(dir.path(), kRoster)) return 1;
         shutDown();
     }
     const QString program = QString::fromLocal8Bit(argv[0]);

@@ -24,14 +24,10 @@ int main(int argc, char *argv[]) {
     constexpr int kRoster = 100000;
     constexpr int kPresses = 1000;
     QTemporaryDir dir;
-    programfolder::copyTree(QStringLiteral(QUELLIO_FACTORY_DIR), dir.path());
-    QFile::remove(dir.path() + QStringLiteral("/quellio.lock"));
-    qputenv("QUELLIO_HOME", dir.path().toUtf8());
-    if (!startUp(dir.path())) {
+    if (!startFilledFolder(dir.path(), kRoster)) {
         std::printf("start-up failed\n");
         return 1;
     }
-    fillStore(store::mainConn(), kRoster);
     const QString appPath = dir.path() + QLatin1Char('/');
     QElapsedTimer timer;
     timer.start();

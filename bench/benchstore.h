@@ -2,9 +2,12 @@
 
 // The store of a large party for the benchmarks.
 
+#include <QFile>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
+#include "core/programfolder.h"
+#include "core/startup.h"
 #include "core/store.h"
 
 // n participants with DiffNum 0..9; one in 200 already holds a win of one of 20 awards.
@@ -40,4 +43,15 @@ inline void fillStore(QSqlDatabase db, int n) {
         user.exec();
     }
     db.commit();
+}
+
+// A fresh program folder from the factory files in `folder`, started, with n participants.
+// False when the program could not start there.
+inline bool startFilledFolder(const QString &folder, int n) {
+    programfolder::copyTree(QStringLiteral(QUELLIO_FACTORY_DIR), folder);
+    QFile::remove(folder + QStringLiteral("/quellio.lock"));
+    qputenv("QUELLIO_HOME", folder.toUtf8());
+    if (!startUp(folder)) return false;
+    fillStore(store::mainConn(), n);
+    return true;
 }
