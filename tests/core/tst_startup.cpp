@@ -10,6 +10,7 @@
 #include "core/store.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
+#include "support/testpaths.h"
 
 class TestStartup : public QObject {
     Q_OBJECT
@@ -136,8 +137,7 @@ void TestStartup::programFolderResolution() {
     QCOMPARE(programfolder::resolve(bin), QString());
 
     // With the factory files installed, the per-user folder is seeded from them.
-    QVERIFY(programfolder::copyTree(QStringLiteral(QUELLIO_FACTORY_DIR),
-                                    programfolder::factoryDir(bin)));
+    QVERIFY(programfolder::copyTree(testpaths::factoryDir(), programfolder::factoryDir(bin)));
     const QString user = programfolder::resolve(bin);
     QVERIFY(user.startsWith(root.filePath(QStringLiteral("userdata"))));
     QVERIFY(QFile::exists(user + QStringLiteral("quellio.db")));

@@ -25,11 +25,12 @@
 #include "support/childwidget.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
+#include "support/testpaths.h"
 
 namespace {
 
 QString fixture(const QString &name) {
-    return QStringLiteral(QUELLIO_SOURCE_DIR "/tests/roster/fixtures/") + name;
+    return testpaths::rosterFixture(name);
 }
 
 QStringList rosterRows(QSqlDatabase db) {

@@ -14,11 +14,12 @@
 #include "roster/textimport.h"
 #include "roster/workbook.h"
 #include "support/tempprogramfolder.h"
+#include "support/testpaths.h"
 
 namespace {
 
 QString fixture(const QString &name) {
-    return QStringLiteral(QUELLIO_SOURCE_DIR "/tests/roster/fixtures/") + name;
+    return testpaths::rosterFixture(name);
 }
 
 // Every column of every participant: what "byte for byte the same roster" is compared by.

@@ -1,13 +1,14 @@
 #include <QtTest>
 
 #include "roster/workbook.h"
+#include "support/testpaths.h"
 
 using workbook::Row;
 
 namespace {
 
 QString fixture(const QString &name) {
-    return QStringLiteral(QUELLIO_SOURCE_DIR "/tests/roster/fixtures/") + name;
+    return testpaths::rosterFixture(name);
 }
 
 }  // namespace
@@ -188,7 +189,7 @@ void TestWorkbook::demoWorkbooksShip() {
     QFETCH(QString, file);
     workbook::Workbook book;
     QString error;
-    QVERIFY2(book.open(QStringLiteral(QUELLIO_FACTORY_DIR "/") + file, &error), qPrintable(error));
+    QVERIFY2(book.open(testpaths::factoryDir() + file, &error), qPrintable(error));
     workbook::Sheet sheet;
     QVERIFY(book.readSheet(0, -1, &sheet, &error));
     QCOMPARE(sheet.rows.at(0).toList(), (QStringList{"姓名", "部门", "工号"}));

@@ -4,6 +4,7 @@
 
 #include "sound/builtinsounds.h"
 #include "sound/musicplayer.h"
+#include "support/testpaths.h"
 
 namespace {
 
@@ -66,7 +67,7 @@ void TestBuiltInSounds::factoryFolderHasTheSounds() {
     QFETCH(QString, file);
     QFETCH(double, minSeconds);
     QFETCH(double, maxSeconds);
-    QFile wav(QStringLiteral(QUELLIO_FACTORY_DIR "/") + file);
+    QFile wav(testpaths::factoryDir() + file);
     QVERIFY2(wav.open(QIODevice::ReadOnly), qPrintable(wav.fileName()));
     const WavInfo info = readWav(wav.readAll());
     QVERIFY(info.valid);
@@ -93,7 +94,7 @@ void TestBuiltInSounds::samplesAreClippedNotWrapped() {
 void TestBuiltInSounds::realPlayerReadsTheChime() {
     // Qt Multimedia opens the file and knows its length also without an audio device.
     MusicPlayer music;
-    music.setFileName(QStringLiteral(QUELLIO_FACTORY_DIR "/") + sound::kWinSound);
+    music.setFileName(testpaths::factoryDir() + sound::kWinSound);
     music.setVolume(MusicPlayer::kSilence);
     QTRY_VERIFY_WITH_TIMEOUT(music.duration() > 2.0, 5000);
     QVERIFY(music.duration() < 2.5);

@@ -18,6 +18,7 @@
 #include "stage/protocol.h"
 #include "stage/view/qmlstage.h"
 #include "support/stageclick.h"
+#include "support/testpaths.h"
 
 class StageRig {
 public:
@@ -35,7 +36,7 @@ public:
         stage.widget()->show();
     }
 
-    static QString appPath() { return QStringLiteral(QUELLIO_FACTORY_DIR "/"); }
+    static QString appPath() { return testpaths::factoryDir(); }
 
     QmlStage stage;
     bool loaded = false;

@@ -9,12 +9,13 @@
 #include "core/programfolder.h"
 #include "core/startup.h"
 #include "core/store.h"
+#include "support/testpaths.h"
 
 TempProgramFolder::TempProgramFolder() {
     shutDown();
     resetAppState();
     if (!m_dir.isValid()) return;
-    m_valid = programfolder::copyTree(QStringLiteral(QUELLIO_FACTORY_DIR), m_dir.path());
+    m_valid = programfolder::copyTree(testpaths::factoryDir(), m_dir.path());
     QFile::remove(path(QStringLiteral("quellio")));
     QFile::remove(path(QStringLiteral(".stamp")));
     QFile::remove(path(QStringLiteral("quellio.lock")));
