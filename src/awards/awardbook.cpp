@@ -146,14 +146,17 @@ std::optional<AwardRow> AwardBook::find(int id) const {
 }
 
 bool AwardBook::hasWinners(int id) const {
-    return store::scalar(m_db, QStringLiteral("SELECT 1 FROM UserList WHERE JxID LIKE ? LIMIT 1"),
-                         {store::awardPattern(id)})
+    return store::scalar(
+               m_db,
+               QStringLiteral("SELECT 1 FROM UserList WHERE JxID > '' AND JxID LIKE ? LIMIT 1"),
+               {store::awardPattern(id)})
         .isValid();
 }
 
 int AwardBook::clearWins(int awardId, QString *error) {
     QSqlQuery query(m_db);
-    query.prepare(QStringLiteral("SELECT ID, JxID FROM UserList WHERE JxID LIKE ? ORDER BY ID"));
+    query.prepare(QStringLiteral(
+        "SELECT ID, JxID FROM UserList WHERE JxID > '' AND JxID LIKE ? ORDER BY ID"));
     query.addBindValue(store::awardPattern(awardId));
     if (!query.exec()) {
         if (error) *error = query.lastError().text();

@@ -13,7 +13,7 @@ namespace store {
 // The name of the one connection to the data store on the interface thread.
 inline const QString kMainConnection = QStringLiteral("mainConn");
 // The schema version this build writes; older stores are upgraded on opening.
-constexpr int kSchemaVersion = 3;
+constexpr int kSchemaVersion = 4;
 
 // Opens the store at path as the connection `connection`: WAL journal, synchronous=FULL, foreign
 // keys off, schema brought up to date. A missing file is an error: nothing is created by accident.

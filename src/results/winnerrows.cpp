@@ -51,8 +51,9 @@ Award awardById(QSqlDatabase db, int awardId) {
 
 QList<Winner> winnersOf(QSqlDatabase db, int awardId, WinnerOrder order) {
     QSqlQuery query(db);
-    query.prepare(QStringLiteral("SELECT ID, UserName, UserPart FROM UserList WHERE JxID LIKE ? "
-                                 "ORDER BY UpdateTime %1")
+    query.prepare(QStringLiteral(
+                      "SELECT ID, UserName, UserPart FROM UserList WHERE JxID > '' AND JxID LIKE ? "
+                      "ORDER BY UpdateTime %1")
                       .arg(order == WinnerOrder::EarliestFirst ? QStringLiteral("ASC, ID ASC")
                                                                : QStringLiteral("DESC")));
     query.addBindValue(store::awardPattern(awardId));
