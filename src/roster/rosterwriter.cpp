@@ -26,6 +26,16 @@ bool bindText(sqlite3_stmt *statement, int column, const QString &text) {
                                SQLITE_TRANSIENT) == SQLITE_OK;
 }
 
+quint64 rowDigest(const QString &name, const QString &part) {
+    return qHashMulti(0, name, part);
+}
+
+QString columnText(sqlite3_stmt *statement, int column) {
+    const void *characters = sqlite3_column_text16(statement, column);
+    const int bytes = sqlite3_column_bytes16(statement, column);
+    return QString(static_cast<const QChar *>(characters), bytes / 2);
+}
+
 }  // namespace
 
 RosterWriter::RosterWriter(QSqlDatabase db) : m_db(db), m_duplicate(db) {}
@@ -48,9 +58,11 @@ bool RosterWriter::begin(bool replace, QString *error) {
     const char *insert =
         "INSERT INTO UserList (ID, UserName, UserPart, UserPhoto, DiffNum, UserStatus) "
         "VALUES (?, ?, ?, ?, ?, 0)";
+    const char *rowById = "SELECT UserName, UserPart FROM UserList WHERE ID=?";
     if (!m_duplicate.prepare(
             QStringLiteral("SELECT 1 FROM UserList WHERE UserName=? AND UserPart=? LIMIT 1")) ||
-        !m_handle || sqlite3_prepare_v2(m_handle, insert, -1, &m_insert, nullptr) != SQLITE_OK) {
+        !m_handle || sqlite3_prepare_v2(m_handle, insert, -1, &m_insert, nullptr) != SQLITE_OK ||
+        sqlite3_prepare_v2(m_handle, rowById, -1, &m_rowById, nullptr) != SQLITE_OK) {
         *error = m_duplicate.lastError().text() +
                  (m_handle ? QString::fromUtf8(sqlite3_errmsg(m_handle)) : QString());
         rollback();
@@ -105,8 +117,20 @@ bool RosterWriter::reserve(qint64 rows, QString *error) {
 }
 
 bool RosterWriter::isDuplicate(const QString &name, const QString &part) {
-    if (m_written.contains({name, part})) return true;
-    if (m_startedEmpty) return false;
+    const auto written = m_written.constFind(rowDigest(name, part));
+    if (written != m_written.cend()) return rowIs(*written, name, part) || storeHasRow(name, part);
+    return !m_startedEmpty && storeHasRow(name, part);
+}
+
+bool RosterWriter::rowIs(int id, const QString &name, const QString &part) {
+    bool same = false;
+    if (sqlite3_bind_int(m_rowById, 1, id) == SQLITE_OK && sqlite3_step(m_rowById) == SQLITE_ROW)
+        same = columnText(m_rowById, 0) == name && columnText(m_rowById, 1) == part;
+    sqlite3_reset(m_rowById);
+    return same;
+}
+
+bool RosterWriter::storeHasRow(const QString &name, const QString &part) {
     m_duplicate.addBindValue(notNull(name));
     m_duplicate.addBindValue(notNull(part));
     const bool found = m_duplicate.exec() && m_duplicate.next();
@@ -131,14 +155,16 @@ int RosterWriter::insert(const QString &name, const QString &part, const QString
     if (!done && error) *error = QString::fromUtf8(sqlite3_errmsg(m_handle));
     sqlite3_reset(m_insert);
     if (!done) return 0;
-    m_written.insert({name, part});
+    m_written.insert(rowDigest(name, part), id);
     return id;
 }
 
 void RosterWriter::finishStatements() {
     m_duplicate.finish();
     if (m_insert) sqlite3_finalize(m_insert);
+    if (m_rowById) sqlite3_finalize(m_rowById);
     m_insert = nullptr;
+    m_rowById = nullptr;
 }
 
 bool RosterWriter::commit(QString *error) {

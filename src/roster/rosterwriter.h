@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QSet>
+#include <QHash>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QString>
@@ -8,8 +8,6 @@
 #include <QVariant>
 
 #include "core/store.h"
-
-#include <utility>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -52,6 +50,8 @@ public:
 private:
     static constexpr qint64 kBulkRows = 20000;
     void finishStatements();
+    bool storeHasRow(const QString &name, const QString &part);
+    bool rowIs(int id, const QString &name, const QString &part);
     bool dropIndexes(QString *error);
     bool restoreIndexes(QString *error);
 
@@ -62,13 +62,16 @@ private:
     // module costs more than the insert itself.
     sqlite3 *m_handle = nullptr;
     sqlite3_stmt *m_insert = nullptr;
+    sqlite3_stmt *m_rowById = nullptr;
     int m_nextId = 1;
     bool m_open = false;
     bool m_cleared = false;
     bool m_replacePending = false;
     QStringList m_formerPhotos;
     // Rows written by this writer are looked up in memory; the store is asked only about rows
-    // that were there before (none after a replace).
+    // that were there before (none after a replace). A million rows are remembered by a 64-bit
+    // digest of name and remark and the ID of the row that has it, not by their texts: a digest
+    // found is checked against that row, and the rare other row sharing it is asked of the store.
     bool m_startedEmpty = false;
-    QSet<std::pair<QString, QString>> m_written;
+    QHash<quint64, int> m_written;
 };
