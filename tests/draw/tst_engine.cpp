@@ -255,15 +255,13 @@ void TestEngine::cancelOnlyTheBatchOnShow() {
     QFETCH(QString, how);
     EngineRig rig;
     QVERIFY(rig.started);
-    const int first = rig.folder.addAward("一等奖", 2, 1, 0);
-    const int second = rig.folder.addAward("二等奖", 2, 1, 0);
-    const QList<int> ids = rig.folder.addUsers({"a", "b"});
-    for (int id : ids)
-        rig.setWins(id, store::awardMarker(second), 3);
+    const int first = rig.folder.addAward("一等奖", 4, 2);
+    const int second = rig.folder.addAward("二等奖", 2, 1);
+    rig.folder.addUsers({"a", "b", "c", "d", "e"});
     rig.engine.loadAward(first, false);
     QVERIFY(rig.drawAndRecord());
     rig.stage.clear();
-    if (how == "start") rig.engine.pressStart();
+    if (how == "start") QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Drawn);
     if (how == "next") rig.engine.stepAward(true, false);
     if (how == "giveup") rig.engine.reloadAward(true, true);
     if (how == "makeup") rig.engine.loadAward(second, true);
@@ -274,9 +272,7 @@ void TestEngine::cancelOnlyTheBatchOnShow() {
     QVERIFY(!rig.engine.cancelLastBatch());
     QCOMPARE(m_ui->records.size(), how == "no" ? 1 : 0);
     QCOMPARE(rig.session.canCancel, how == "no");
-    for (int id : ids)
-        QCOMPARE(rig.cell(id, "JxID").toString(),
-                 store::awardMarker(second) + store::awardMarker(first));
+    QCOMPARE(rig.winners(first), 2);
 }
 
 // One press draws once and stores only at its landing; a Clear before it stores nothing.
@@ -288,7 +284,9 @@ void TestEngine::onePressOneBatchAtItsLanding() {
     rig.engine.loadAward(award, false);
     QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Drawn);
     QCOMPARE(rig.session.winnerIds.split(',').size(), 2);
+    rig.stage.clear();
     QVERIFY(rig.engine.clearDraw());
+    QCOMPARE(rig.stage.lines(), QStringList({"changBtn=clear", "vbShowBlock=false"}));
     QVERIFY(!rig.engine.recordWinners());
     QCOMPARE(rig.engine.pressStart(), draw::DrawEngine::StartOutcome::Drawn);
     const QString drawn = rig.session.winnerIds;
