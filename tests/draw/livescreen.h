@@ -19,7 +19,6 @@
 #include "core/fonts.h"
 #include "core/store.h"
 #include "draw/engine.h"
-#include "draw/paraderunner.h"
 #include "draw/view/drawwindow.h"
 #include "stage/view/qmlstage.h"
 #include "stage/view/stagefactory.h"
@@ -71,7 +70,6 @@ struct LiveScreen {
     draw::DrawEngine &engine() const { return *form->findChild<draw::DrawEngine *>(); }
     const draw::DrawSession &session() const { return engine().session(); }
     int state() const { return engine().state(); }
-    draw::ParadeRunner &parade() const { return *form->findChild<draw::ParadeRunner *>(); }
     QTimer *timer(const char *name) const { return form->findChild<QTimer *>(QLatin1String(name)); }
     QWidget *stopGuardPanel() const {
         return form->findChild<QWidget *>(QStringLiteral("stopGuardPanel"));
@@ -80,7 +78,7 @@ struct LiveScreen {
     void key(int qtKey) {
         QKeyEvent press(QEvent::KeyPress, qtKey, Qt::NoModifier);
         QCoreApplication::sendEvent(stage()->quickWindow(), &press);
-        QTest::qWait(30);
+        QCoreApplication::processEvents();
     }
     bool click(const QString &button) {
         return clickStageItem(stage()->quickWindow(), stage()->root(), button);

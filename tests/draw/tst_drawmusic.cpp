@@ -6,6 +6,8 @@
 #include "sound/musicplayer.h"
 #include "support/fakemediabackend.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The four sounds as files in a temporary folder the fake player knows the lengths of.
@@ -48,9 +50,7 @@ private Q_SLOTS:
     void loopsAndComesBackWhereItWasLeft();
     void whatFollowsAMoment_data();
     void whatFollowsAMoment();
-    void backgroundPlayingGoesOnUntouched();
-    void muteHoldsForEveryFile();
-    void minimisedPausesOnlyWhatPlays();
+    void muteAndMinimiseHoldForEveryFile();
 };
 
 void TestDrawMusic::winSoundIsTheOperatorsOrTheChime() {
@@ -89,42 +89,27 @@ void TestDrawMusic::loopsAndComesBackWhereItWasLeft() {
     QCOMPARE(player->position, qint64(0));
     QCOMPARE(player->current, MediaBackend::State::Playing);
     QCOMPARE(started.count(), 6);
+    // A background that plays already is left alone.
+    player->calls.clear();
+    music.backToBackground();
+    music.endParade();
+    QVERIFY(player->calls.isEmpty());
 }
 
 void TestDrawMusic::whatFollowsAMoment_data() {
     QTest::addColumn<QString>("on");
     QTest::addColumn<QString>("moment");
     QTest::addColumn<QString>("playing");  // the letter of the sound playing after it, or "-"
-    QTest::newRow("win sound") << "bw"
-                               << "win"
-                               << "w";
-    QTest::newRow("no win sound: the background") << "b"
-                                                  << "win"
-                                                  << "b";
-    QTest::newRow("no win sound, no background: silence") << "s"
-                                                          << "win"
-                                                          << "-";
-    QTest::newRow("win sound without its file: the start sound goes on") << "swx"
-                                                                         << "win"
-                                                                         << "s";
-    QTest::newRow("start sound off: what plays goes on") << "w"
-                                                         << "start"
-                                                         << "w";
-    QTest::newRow("parade music") << "bp"
-                                  << "parade"
-                                  << "p";
-    QTest::newRow("parade over: the background") << "bp"
-                                                 << "paradeEnd"
-                                                 << "b";
-    QTest::newRow("parade over without background: silence") << "p"
-                                                             << "paradeEnd"
-                                                             << "-";
-    QTest::newRow("after a cancel: the background") << "bw"
-                                                    << "back"
-                                                    << "b";
-    QTest::newRow("after a cancel without background: what plays goes on") << "w"
-                                                                           << "back"
-                                                                           << "w";
+    QTest::newRow("win sound") << u"bw"_s << u"win"_s << u"w"_s;
+    QTest::newRow("no win sound: the background") << u"b"_s << u"win"_s << u"b"_s;
+    QTest::newRow("no win sound, no background: silence") << u"s"_s << u"win"_s << u"-"_s;
+    QTest::newRow("win file missing: start goes on") << u"swx"_s << u"win"_s << u"s"_s;
+    QTest::newRow("start sound off: what plays goes on") << u"w"_s << u"start"_s << u"w"_s;
+    QTest::newRow("parade music") << u"bp"_s << u"parade"_s << u"p"_s;
+    QTest::newRow("parade over: the background") << u"bp"_s << u"paradeEnd"_s << u"b"_s;
+    QTest::newRow("parade over, no background: silence") << u"p"_s << u"paradeEnd"_s << u"-"_s;
+    QTest::newRow("after a cancel: the background") << u"bw"_s << u"back"_s << u"b"_s;
+    QTest::newRow("cancel, no background: what plays goes on") << u"w"_s << u"back"_s << u"w"_s;
 }
 
 // Each moment starts from the start sound, or the win sound when the start sound is off.
@@ -158,43 +143,23 @@ void TestDrawMusic::whatFollowsAMoment() {
     }
 }
 
-void TestDrawMusic::backgroundPlayingGoesOnUntouched() {
+// The mute and the minimised window hold across the change of file.
+void TestDrawMusic::muteAndMinimiseHoldForEveryFile() {
     Sounds sounds;
     draw::DrawMusic music;
-    music.setSettings(sounds.settings(QStringLiteral("b")), sounds.win);
-    music.startBackground();
-    sounds.player()->position = 30500;
-    sounds.player()->calls.clear();
-    music.backToBackground();
-    music.endParade();
-    QVERIFY(sounds.player()->calls.isEmpty());
-}
-
-void TestDrawMusic::muteHoldsForEveryFile() {
-    Sounds sounds;
-    draw::DrawMusic music;
-    music.setSettings(sounds.settings(QStringLiteral("bsw")), sounds.win);
+    music.setSettings(sounds.settings(u"bsp"_s), sounds.win);
     music.startBackground();
     music.setMuted(true);
-    QVERIFY(music.isMuted());
-    QCOMPARE(sounds.player()->volume, 0.0f);
     music.playStartSound();
     QCOMPARE(sounds.player()->volume, 0.0f);
     music.setMuted(false);
-    QVERIFY(!music.isMuted());
     QCOMPARE(sounds.player()->volume, 1.0f);
-}
-
-void TestDrawMusic::minimisedPausesOnlyWhatPlays() {
-    Sounds sounds;
-    draw::DrawMusic music;
-    music.setSettings(sounds.settings(QStringLiteral("sp")), sounds.win);
-    music.playStartSound();
     music.setMinimised(true);
     QCOMPARE(sounds.player()->current, MediaBackend::State::Paused);
     music.setMinimised(false);
     QCOMPARE(sounds.player()->current, MediaBackend::State::Playing);
     // A parade that ended in silence stays silent when the window comes back.
+    music.setSettings(sounds.settings(u"p"_s), sounds.win);
     music.playParadeMusic();
     music.endParade();
     music.setMinimised(true);

@@ -3,6 +3,7 @@
 #include "draw/hotkeyaction.h"
 
 using draw::HotkeyAction;
+using A = HotkeyAction;
 Q_DECLARE_METATYPE(HotkeyAction)
 
 class TestHotkeyAction : public QObject {
@@ -21,28 +22,25 @@ void TestHotkeyAction::actions_data() {
     QTest::addColumn<HotkeyAction>("expected");
     const QList<int> shared{32, 32, 67, 90, 79, 80, 76, 77, 70};
     const QList<int> apart{13, 32, 67, 90, 79, 80, 76, 77, 70};
-    QTest::newRow("shared key starts when idle")
-        << shared << 32 << 0 << false << HotkeyAction::Start;
-    QTest::newRow("shared key stops while running")
-        << shared << 32 << 1 << false << HotkeyAction::Stop;
-    QTest::newRow("shared key in the parade") << shared << 32 << 3 << false << HotkeyAction::Start;
-    QTest::newRow("own stop key") << apart << 32 << 0 << false << HotkeyAction::Stop;
-    QTest::newRow("own start key while running")
-        << apart << 13 << 1 << false << HotkeyAction::Start;
-    QTest::newRow("clear") << apart << 67 << 1 << false << HotkeyAction::Clear;
-    QTest::newRow("screen") << apart << 70 << 0 << false << HotkeyAction::Screen;
-    QTest::newRow("unknown") << apart << 81 << 0 << false << HotkeyAction::None;
+    QTest::newRow("shared key starts when idle") << shared << 32 << 0 << false << A::Start;
+    QTest::newRow("shared key stops while running") << shared << 32 << 1 << false << A::Stop;
+    QTest::newRow("shared key in the parade") << shared << 32 << 3 << false << A::Start;
+    QTest::newRow("own stop key") << apart << 32 << 0 << false << A::Stop;
+    QTest::newRow("own start key while running") << apart << 13 << 1 << false << A::Start;
+    QTest::newRow("clear") << apart << 67 << 1 << false << A::Clear;
+    QTest::newRow("screen") << apart << 70 << 0 << false << A::Screen;
+    QTest::newRow("unknown") << apart << 81 << 0 << false << A::None;
     QTest::newRow("a key the stage cannot name")
-        << QList<int>{32, 32, -1, -1, 79, 80, 76, 77, 70} << -1 << 2 << false << HotkeyAction::None;
-    QTest::newRow("the first of the seven wins") << QList<int>{13, 32, 67, 67, 79, 80, 76, 77, 70}
-                                                 << 67 << 2 << false << HotkeyAction::Clear;
-    QTest::newRow("a later row replaces start") << QList<int>{13, 32, 67, 90, 13, 80, 76, 77, 70}
-                                                << 13 << 0 << false << HotkeyAction::Export;
+        << QList<int>{32, 32, -1, -1, 79, 80, 76, 77, 70} << -1 << 2 << false << A::None;
+    QTest::newRow("the first of the seven wins")
+        << QList<int>{13, 32, 67, 67, 79, 80, 76, 77, 70} << 67 << 2 << false << A::Clear;
+    QTest::newRow("a later row replaces start")
+        << QList<int>{13, 32, 67, 90, 13, 80, 76, 77, 70} << 13 << 0 << false << A::Export;
     // While the winners land only sound and screen act.
-    QTest::newRow("clear while landing") << apart << 67 << 1 << true << HotkeyAction::None;
-    QTest::newRow("stop while landing") << shared << 32 << 1 << true << HotkeyAction::None;
-    QTest::newRow("sound while landing") << apart << 77 << 1 << true << HotkeyAction::Sound;
-    QTest::newRow("screen while landing") << apart << 70 << 1 << true << HotkeyAction::Screen;
+    QTest::newRow("clear while landing") << apart << 67 << 1 << true << A::None;
+    QTest::newRow("stop while landing") << shared << 32 << 1 << true << A::None;
+    QTest::newRow("sound while landing") << apart << 77 << 1 << true << A::Sound;
+    QTest::newRow("screen while landing") << apart << 70 << 1 << true << A::Screen;
 }
 
 void TestHotkeyAction::actions() {

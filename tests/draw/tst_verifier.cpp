@@ -36,7 +36,8 @@ struct Evening {
             rows << QStringLiteral("p%1||%2").arg(i).arg(i == 7 ? 5 : 0);
         fiveHolder = folder.addUsers(rows).at(7);
         const int first = folder.addAward(QStringLiteral("一等奖"), 6, 2);
-        const int fives = folder.addAward(QStringLiteral("五号奖"), 3, 1, 1, 2, 5);
+        // Open to earlier winners, so that the holder of 5 is always in its pool.
+        const int fives = folder.addAward(QStringLiteral("五号奖"), 3, 1, 0, 2, 5);
         const int open = folder.addAward(QStringLiteral("惊喜奖"), 2, 1, 0);
         return started && draw(first) && draw(first) && draw(fives) && draw(open);
     }
