@@ -33,45 +33,29 @@ void TestStore::nextIdLooksOnlyAtTheTopRow() {
 }
 
 void TestStore::duplicates_data() {
-    QTest::addColumn<QString>("column2");
-    QTest::addColumn<QString>("value1");
-    QTest::addColumn<QString>("value2");
+    QTest::addColumn<QStringList>("column2Value1Value2");
     QTest::addColumn<int>("exceptId");
     QTest::addColumn<bool>("duplicate");
-    QTest::newRow("name and part") << "UserPart"
-                                   << "张三"
-                                   << "研发部" << 0 << true;
-    QTest::newRow("same name other part") << "UserPart"
-                                          << "张三"
-                                          << "市场部" << 0 << false;
-    QTest::newRow("value2 Null compares the name only") << "UserPart"
-                                                        << "张三"
-                                                        << "Null" << 0 << true;
-    QTest::newRow("column2 Null compares the name only") << "Null"
-                                                         << "张三"
-                                                         << "x" << 0 << true;
-    QTest::newRow("own row excepted") << "UserPart"
-                                      << "张三"
-                                      << "研发部" << 1 << false;
-    QTest::newRow("quote in a name") << "UserPart"
-                                     << "O'Brien"
-                                     << "" << 0 << true;
-    QTest::newRow("unknown") << "Null"
-                             << "李四"
-                             << "Null" << 0 << false;
+    QTest::newRow("name and part") << QStringList{"UserPart", "张三", "研发部"} << 0 << true;
+    QTest::newRow("same name other part")
+        << QStringList{"UserPart", "张三", "市场部"} << 0 << false;
+    QTest::newRow("value2 Null: name only") << QStringList{"UserPart", "张三", "Null"} << 0 << true;
+    QTest::newRow("column2 Null: name only") << QStringList{"Null", "张三", "x"} << 0 << true;
+    QTest::newRow("own row excepted") << QStringList{"UserPart", "张三", "研发部"} << 1 << false;
+    QTest::newRow("quote in a name") << QStringList{"UserPart", "O'Brien", ""} << 0 << true;
+    QTest::newRow("unknown") << QStringList{"Null", "李四", "Null"} << 0 << false;
 }
 
 void TestStore::duplicates() {
-    QFETCH(QString, column2);
-    QFETCH(QString, value1);
-    QFETCH(QString, value2);
+    QFETCH(QStringList, column2Value1Value2);
     QFETCH(int, exceptId);
     QFETCH(bool, duplicate);
     TempProgramFolder folder;
     QVERIFY(folder.start());
     folder.addUsers({QStringLiteral("张三|研发部"), QStringLiteral("O'Brien|")});
-    QCOMPARE(store::isDuplicate(QStringLiteral("UserList"), QStringLiteral("UserName"), column2,
-                                value1, value2, exceptId),
+    const QStringList &args = column2Value1Value2;
+    QCOMPARE(store::isDuplicate(QStringLiteral("UserList"), QStringLiteral("UserName"), args[0],
+                                args[1], args[2], exceptId),
              duplicate);
 }
 
