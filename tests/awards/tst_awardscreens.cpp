@@ -365,9 +365,15 @@ void TestAwardScreens::addDialog() {
     QCOMPARE(row->JXGroup, 4);
 }
 
-// The editor's checks are the award manager's; only a full book is the add dialog's own.
+// The editor's checks are tested in the award manager; the add dialog sends the focus to the
+// first fault's field as well, and refuses an award past a full book.
 void TestAwardScreens::addDialogRefusesAFullBook() {
     AddAwardDialog dialog;
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    edit(dialog, "awardNameEdit")->setText(QStringLiteral("奖"));
+    click(dialog, "addButton");
+    QCOMPARE(QApplication::focusWidget(), edit(dialog, "slotsEdit"));
     for (const char *box : {"awardNameEdit", "slotsEdit", "batchesEdit", "prizeEdit"})
         edit(dialog, box)->setText(QStringLiteral("1"));
     store::exec(m_folder->db(),
