@@ -17,7 +17,7 @@
 #include "roster/view/rostermanagerdialog.h"
 #include "roster/workbook.h"
 
-#include "../tests/roster/xlsxwriter.h"
+#include "xlsxwriter.h"
 
 namespace {
 

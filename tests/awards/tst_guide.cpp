@@ -14,8 +14,6 @@
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
-namespace {}  // namespace
-
 class TestGuide : public QObject {
     Q_OBJECT
 
@@ -46,20 +44,18 @@ void TestGuide::masking_data() {
     QTest::addColumn<int>("right");
     QTest::addColumn<QString>("replacement");
     QTest::addColumn<QString>("masked");
-    QTest::newRow("three characters") << "张小明" << 1 << 1 << "*"
-                                      << "张*明";
-    QTest::newRow("two characters stay") << "王五" << 1 << 1 << "*"
-                                         << "王五";
-    QTest::newRow("sum equals length") << "13800138000" << 5 << 6 << "*"
-                                       << "13800138000";
-    QTest::newRow("one left over") << "13800138000" << 5 << 5 << "*"
-                                   << "13800*38000";
-    QTest::newRow("whole name") << "李四" << 0 << 0 << "#"
-                                << "##";
-    QTest::newRow("empty") << "" << 0 << 0 << "*"
-                           << "";
-    QTest::newRow("longer replacement") << "ABCD" << 1 << 1 << "xy"
-                                        << "AxyxyD";
+    const auto row = [](const char *tag, const char *text, int left, int right,
+                        const char *replacement, const char *masked) {
+        QTest::newRow(tag) << QString(text) << left << right << QString(replacement)
+                           << QString(masked);
+    };
+    row("three characters", "张小明", 1, 1, "*", "张*明");
+    row("two characters stay", "王五", 1, 1, "*", "王五");
+    row("sum equals length", "13800138000", 5, 6, "*", "13800138000");
+    row("one left over", "13800138000", 5, 5, "*", "13800*38000");
+    row("whole name", "李四", 0, 0, "#", "##");
+    row("empty", "", 0, 0, "*", "");
+    row("longer replacement", "ABCD", 1, 1, "xy", "AxyxyD");
 }
 
 void TestGuide::masking() {
@@ -101,16 +97,15 @@ void TestGuide::storesEveryKey() {
     speed->setValue(20);
     child<QPushButton>(guide, "okButton")->click();
     const QString ini = m_folder->path(QStringLiteral("config.ini"));
-    const QStringList expected{"2", "1", "1", "0", "2", "*", "0"};
-    const QStringList keys{"luckType",  "guideHide", "isHideName", "hideLeft",
-                           "hideRight", "hideReStr", "luckDelay"};
-    for (int i = 0; i < keys.size(); ++i)
-        QCOMPARE(readIni(QStringLiteral("main"), keys.at(i), ini), expected.at(i));
-    const AppState &state = appState();
-    QCOMPARE(state.luckType, qint16(2));
-    QCOMPARE(state.hideLeft, qint16(0));
+    QStringList stored;
+    for (const char *key :
+         {"luckType", "guideHide", "isHideName", "hideLeft", "hideRight", "hideReStr", "luckDelay"})
+        stored << readIni(QStringLiteral("main"), key, ini);
+    QCOMPARE(stored, (QStringList{"2", "1", "1", "0", "2", "*", "0"}));
+    const AppState &state = appState();  // the running program sees the same
+    QCOMPARE((QList<qint16>{state.luckType, state.hideLeft, state.luckDelay}),
+             (QList<qint16>{2, 0, 0}));
     QCOMPARE(state.hideReStr, QStringLiteral("*"));
-    QCOMPARE(state.luckDelay, qint16(0));
 }
 
 void TestGuide::purposes_data() {

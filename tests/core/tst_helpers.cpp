@@ -12,10 +12,8 @@ class TestHelpers : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void extensions_data();
-    void extensions();
-    void fileNames_data();
-    void fileNames();
+    void pathParts_data();
+    void pathParts();
     void fileExistsOnlyForFiles();
     void clearUserPhotosKeepsPrizePictures();
     void ownedFiles_data();
@@ -28,43 +26,27 @@ private Q_SLOTS:
     void centerFormNeverLeavesTheScreen();
 };
 
-void TestHelpers::extensions_data() {
+void TestHelpers::pathParts_data() {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("ext");
-    QTest::newRow("double extension") << "a.tar.gz"
-                                      << ".gz";
-    QTest::newRow("no dot") << "name"
-                            << "";
-    QTest::newRow("dotted folder") << "/data/photos.2026/name"
-                                   << ".2026/name";
-    QTest::newRow("upper case kept") << "Photos/U1.JPG"
-                                     << ".JPG";
-    QTest::newRow("empty") << ""
-                           << "";
+    QTest::addColumn<QString>("name");
+    const auto row = [](const char *tag, const char *path, const char *ext, const char *name) {
+        QTest::newRow(tag) << QString(path) << QString(ext) << QString(name);
+    };
+    row("double extension", "a.tar.gz", ".gz", "a.tar.gz");
+    row("no dot", "name", "", "name");
+    row("dotted folder", "/data/photos.2026/name", ".2026/name", "name");
+    row("upper case kept", "Photos/U1.JPG", ".JPG", "U1.JPG");
+    row("backslash from old data", "Photos\\U3.jpg", ".jpg", "U3.jpg");
+    row("folder", "a/b/", "", "");
+    row("empty", "", "", "");
 }
 
-void TestHelpers::extensions() {
+void TestHelpers::pathParts() {
     QFETCH(QString, path);
     QFETCH(QString, ext);
-    QCOMPARE(getExt(path), ext);
-}
-
-void TestHelpers::fileNames_data() {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("slash") << "/a/b/c.jpg"
-                           << "c.jpg";
-    QTest::newRow("backslash from old data") << "Photos\\U3.jpg"
-                                             << "U3.jpg";
-    QTest::newRow("bare") << "c.jpg"
-                          << "c.jpg";
-    QTest::newRow("folder") << "a/b/"
-                            << "";
-}
-
-void TestHelpers::fileNames() {
-    QFETCH(QString, path);
     QFETCH(QString, name);
+    QCOMPARE(getExt(path), ext);
     QCOMPARE(getFileName(path), name);
 }
 
@@ -96,28 +78,20 @@ void TestHelpers::clearUserPhotosKeepsPrizePictures() {
 void TestHelpers::ownedFiles_data() {
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("owned");  // relative to the program folder; empty: not owned
-    QTest::newRow("photo") << "Photos/U1.jpg"
-                           << "Photos/U1.jpg";
-    QTest::newRow("old backslashes") << "Photos\\U1.jpg"
-                                     << "Photos/U1.jpg";
-    QTest::newRow("detour that stays inside") << "Photos/../Photos/./a.jpg"
-                                              << "Photos/a.jpg";
-    QTest::newRow("out of the program folder") << "../photos/zs.jpg"
-                                               << "";
-    QTest::newRow("out through the folder") << "Photos/../../zs.jpg"
-                                            << "";
-    QTest::newRow("the settings beside it") << "Photos/../config.ini"
-                                            << "";
-    QTest::newRow("absolute") << "/etc/hostname"
-                              << "";
-    QTest::newRow("another folder of the program") << "Music/a.mp3"
-                                                   << "";
-    QTest::newRow("the folder itself") << "Photos"
-                                       << "";
-    QTest::newRow("through a linked folder") << "Photos/elsewhere/zs.jpg"
-                                             << "";
-    QTest::newRow("empty") << ""
-                           << "";
+    const auto row = [](const char *tag, const char *stored, const char *owned) {
+        QTest::newRow(tag) << QString(stored) << QString(owned);
+    };
+    row("photo", "Photos/U1.jpg", "Photos/U1.jpg");
+    row("old backslashes", "Photos\\U1.jpg", "Photos/U1.jpg");
+    row("detour that stays inside", "Photos/../Photos/./a.jpg", "Photos/a.jpg");
+    row("out of the program folder", "../photos/zs.jpg", "");
+    row("out through the folder", "Photos/../../zs.jpg", "");
+    row("the settings beside it", "Photos/../config.ini", "");
+    row("absolute", "/etc/hostname", "");
+    row("another folder of the program", "Music/a.mp3", "");
+    row("the folder itself", "Photos", "");
+    row("through a linked folder", "Photos/elsewhere/zs.jpg", "");
+    row("empty", "", "");
 }
 
 void TestHelpers::ownedFiles() {

@@ -79,70 +79,48 @@ void TestProfile::reading() {
 
 void TestProfile::writingKeepsTheRestOfTheFile_data() {
     QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<QString>("section");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("value");
+    QTest::addColumn<QStringList>("sectionKeyValue");
     QTest::addColumn<QByteArray>("after");
-
-    const QByteArray base = "; settings\n[main]\nBT1=a\nmyOwnKey=keep\nselJxid=0\n\n[music]\nx=1\n";
+    const QByteArray head = "; settings\n[main]\nBT1=a\nmyOwnKey=keep\n";
+    const QByteArray base = head + "selJxid=0\n\n[music]\nx=1\n";
     QTest::newRow("replace in place")
-        << base << "main"
-        << "selJxid"
-        << "7"
-        << QByteArray("; settings\n[main]\nBT1=a\nmyOwnKey=keep\nselJxid=7\n\n[music]\nx=1\n");
+        << base << QStringList{"main", "selJxid", "7"} << head + "selJxid=7\n\n[music]\nx=1\n";
     QTest::newRow("replace keeps case of nothing else")
-        << base << "main"
-        << "bt1"
-        << "b"
+        << base << QStringList{"main", "bt1", "b"}
         << QByteArray("; settings\n[main]\nbt1=b\nmyOwnKey=keep\nselJxid=0\n\n[music]\nx=1\n");
     QTest::newRow("new key at end of its section")
-        << base << "main"
-        << "newKey"
-        << "v"
-        << QByteArray(
-               "; settings\n[main]\nBT1=a\nmyOwnKey=keep\nselJxid=0\nnewKey=v\n\n[music]\nx=1\n");
+        << base << QStringList{"main", "newKey", "v"}
+        << head + "selJxid=0\nnewKey=v\n\n[music]\nx=1\n";
     QTest::newRow("new section at end")
-        << base << "extra"
-        << "k"
-        << "v"
-        << QByteArray(
-               "; "
-               "settings\n[main]\nBT1=a\nmyOwnKey=keep\nselJxid=0\n\n[music]\nx=1\n[extra]\nk=v\n");
-    QTest::newRow("CR LF kept") << QByteArray("[main]\r\nBT1=a\r\n") << "main"
-                                << "BT1"
-                                << "b" << QByteArray("[main]\r\nBT1=b\r\n");
-    QTest::newRow("byte-order mark kept") << QByteArray("\xEF\xBB\xBF[main]\nBT1=a\n") << "main"
-                                          << "BT1"
-                                          << "b" << QByteArray("\xEF\xBB\xBF[main]\nBT1=b\n");
-    QTest::newRow("file created") << QByteArray() << "main"
-                                  << "BT1" << QStringLiteral("标题")
+        << base << QStringList{"extra", "k", "v"} << base + "[extra]\nk=v\n";
+    QTest::newRow("CR LF kept") << QByteArray("[main]\r\nBT1=a\r\n")
+                                << QStringList{"main", "BT1", "b"}
+                                << QByteArray("[main]\r\nBT1=b\r\n");
+    QTest::newRow("byte-order mark kept")
+        << QByteArray("\xEF\xBB\xBF[main]\nBT1=a\n") << QStringList{"main", "BT1", "b"}
+        << QByteArray("\xEF\xBB\xBF[main]\nBT1=b\n");
+    QTest::newRow("file created") << QByteArray() << QStringList{"main", "BT1", "标题"}
                                   << QStringLiteral("[main]\nBT1=标题\n").toUtf8();
 }
 
 void TestProfile::writingKeepsTheRestOfTheFile() {
     QFETCH(QByteArray, before);
-    QFETCH(QString, section);
-    QFETCH(QString, key);
-    QFETCH(QString, value);
+    QFETCH(QStringList, sectionKeyValue);
     QFETCH(QByteArray, after);
     QFile::remove(file());
     if (!before.isEmpty()) writeAll(file(), before);
-    QVERIFY(writeIni(section, key, value, file()));
+    QVERIFY(writeIni(sectionKeyValue[0], sectionKeyValue[1], sectionKeyValue[2], file()));
     QCOMPARE(readAll(file()), after);
 }
 
 void TestProfile::writtenValuesReadBack_data() {
     QTest::addColumn<QString>("value");
     QTest::addColumn<QString>("readBack");
-    QTest::newRow("semicolon and equals") << "a=b;c=d"
-                                          << "a=b;c=d";
-    QTest::newRow("chinese") << QStringLiteral("新年快乐！") << QStringLiteral("新年快乐！");
-    QTest::newRow("blanks around are lost") << "  title  "
-                                            << "title";
-    QTest::newRow("matching quotes are lost") << "\"title\""
-                                              << "title";
-    QTest::newRow("empty") << ""
-                           << "";
+    QTest::newRow("semicolon and equals") << "a=b;c=d" << QString("a=b;c=d");
+    QTest::newRow("chinese") << "新年快乐！" << QString("新年快乐！");
+    QTest::newRow("blanks around are lost") << "  title  " << QString("title");
+    QTest::newRow("matching quotes are lost") << "\"title\"" << QString("title");
+    QTest::newRow("empty") << "" << QString();
 }
 
 void TestProfile::writtenValuesReadBack() {

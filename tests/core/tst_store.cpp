@@ -9,6 +9,11 @@ class TestStore : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() {
+        m_folder = std::make_unique<TempProgramFolder>();
+        QVERIFY(m_folder->start());
+    }
+    void cleanup() { m_folder.reset(); }
     void nextIdLooksOnlyAtTheTopRow();
     void duplicates_data();
     void duplicates();
@@ -16,71 +21,52 @@ private Q_SLOTS:
     void missingStoreIsNotCreated();
     void storeIsDurable();
     void oldStoreIsUpgraded();
+
+private:
+    std::unique_ptr<TempProgramFolder> m_folder;
 };
 
 void TestStore::nextIdLooksOnlyAtTheTopRow() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
     const QString table = QStringLiteral("UserList");
     const QString id = QStringLiteral("ID");
     QCOMPARE(store::getNextID(table, id), 1);
-    folder.addUsers({"a", "b", "c"});
+    m_folder->addUsers({"a", "b", "c"});
     QCOMPARE(store::getNextID(table, id), 4);
-    store::exec(folder.db(), QStringLiteral("DELETE FROM UserList WHERE ID=3"));
+    store::exec(m_folder->db(), QStringLiteral("DELETE FROM UserList WHERE ID=3"));
     QCOMPARE(store::getNextID(table, id), 3);
-    store::exec(folder.db(), QStringLiteral("DELETE FROM UserList WHERE ID=1"));
+    store::exec(m_folder->db(), QStringLiteral("DELETE FROM UserList WHERE ID=1"));
     QCOMPARE(store::getNextID(table, id), 3);
 }
 
 void TestStore::duplicates_data() {
-    QTest::addColumn<QString>("column2");
-    QTest::addColumn<QString>("value1");
-    QTest::addColumn<QString>("value2");
+    QTest::addColumn<QStringList>("column2Value1Value2");
     QTest::addColumn<int>("exceptId");
     QTest::addColumn<bool>("duplicate");
-    QTest::newRow("name and part") << "UserPart"
-                                   << "张三"
-                                   << "研发部" << 0 << true;
-    QTest::newRow("same name other part") << "UserPart"
-                                          << "张三"
-                                          << "市场部" << 0 << false;
-    QTest::newRow("value2 Null compares the name only") << "UserPart"
-                                                        << "张三"
-                                                        << "Null" << 0 << true;
-    QTest::newRow("column2 Null compares the name only") << "Null"
-                                                         << "张三"
-                                                         << "x" << 0 << true;
-    QTest::newRow("own row excepted") << "UserPart"
-                                      << "张三"
-                                      << "研发部" << 1 << false;
-    QTest::newRow("quote in a name") << "UserPart"
-                                     << "O'Brien"
-                                     << "" << 0 << true;
-    QTest::newRow("unknown") << "Null"
-                             << "李四"
-                             << "Null" << 0 << false;
+    QTest::newRow("name and part") << QStringList{"UserPart", "张三", "研发部"} << 0 << true;
+    QTest::newRow("same name other part")
+        << QStringList{"UserPart", "张三", "市场部"} << 0 << false;
+    QTest::newRow("value2 Null: name only") << QStringList{"UserPart", "张三", "Null"} << 0 << true;
+    QTest::newRow("column2 Null: name only") << QStringList{"Null", "张三", "x"} << 0 << true;
+    QTest::newRow("own row excepted") << QStringList{"UserPart", "张三", "研发部"} << 1 << false;
+    QTest::newRow("quote in a name") << QStringList{"UserPart", "O'Brien", ""} << 0 << true;
+    QTest::newRow("unknown") << QStringList{"Null", "李四", "Null"} << 0 << false;
 }
 
 void TestStore::duplicates() {
-    QFETCH(QString, column2);
-    QFETCH(QString, value1);
-    QFETCH(QString, value2);
+    QFETCH(QStringList, column2Value1Value2);
     QFETCH(int, exceptId);
     QFETCH(bool, duplicate);
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    folder.addUsers({QStringLiteral("张三|研发部"), QStringLiteral("O'Brien|")});
-    QCOMPARE(store::isDuplicate(QStringLiteral("UserList"), QStringLiteral("UserName"), column2,
-                                value1, value2, exceptId),
+    m_folder->addUsers({QStringLiteral("张三|研发部"), QStringLiteral("O'Brien|")});
+    const QStringList &args = column2Value1Value2;
+    QCOMPARE(store::isDuplicate(QStringLiteral("UserList"), QStringLiteral("UserName"), args[0],
+                                args[1], args[2], exceptId),
              duplicate);
 }
 
 void TestStore::likePatternsEscapeWildcards() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    folder.addUsers({"折扣50%", "折扣500", "a_b", "axb"});
-    const auto count = [&](const QString &text) {
-        return store::scalar(folder.db(),
+    m_folder->addUsers({"折扣50%", "折扣500", "a_b", "axb"});
+    const auto count = [this](const QString &text) {
+        return store::scalar(m_folder->db(),
                              QStringLiteral("SELECT COUNT(*) FROM UserList WHERE UserName LIKE ? "
                                             "ESCAPE '\\'"),
                              {store::containsPattern(text)})
@@ -94,8 +80,7 @@ void TestStore::likePatternsEscapeWildcards() {
 }
 
 void TestStore::missingStoreIsNotCreated() {
-    TempProgramFolder folder;
-    const QString path = folder.path(QStringLiteral("nothing.db"));
+    const QString path = m_folder->path(QStringLiteral("nothing.db"));
     QString error;
     QVERIFY(!store::open(path, &error, QStringLiteral("probe")));
     QVERIFY(error.contains(path));
@@ -103,19 +88,16 @@ void TestStore::missingStoreIsNotCreated() {
 }
 
 void TestStore::storeIsDurable() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    QCOMPARE(store::scalar(folder.db(), QStringLiteral("PRAGMA journal_mode")).toString(),
+    QCOMPARE(store::scalar(m_folder->db(), QStringLiteral("PRAGMA journal_mode")).toString(),
              QStringLiteral("wal"));
-    QCOMPARE(store::scalar(folder.db(), QStringLiteral("PRAGMA synchronous")).toInt(), 2);
+    QCOMPARE(store::scalar(m_folder->db(), QStringLiteral("PRAGMA synchronous")).toInt(), 2);
     QCOMPARE(store::nowText().size(), 19);
     QCOMPARE(store::dateText(QDateTime(QDate(2026, 1, 2), QTime(3, 4, 5))),
              QStringLiteral("2026-01-02 03:04:05"));
 }
 
 void TestStore::oldStoreIsUpgraded() {
-    TempProgramFolder folder;
-    const QString path = folder.path(QStringLiteral("old.db"));
+    const QString path = m_folder->path(QStringLiteral("old.db"));
     QString error;
     QVERIFY(store::openTemplate(path, QStringLiteral("old"), &error, true));
     QVERIFY(store::exec(QSqlDatabase::database(QStringLiteral("old")),

@@ -82,10 +82,6 @@ void TestWinnerList::fillEvening() {
 
 void TestWinnerList::noAwardsGiveAnEmptyList() {
     m_folder->addUsers({"张三"});
-    const results::WinnerList list = results::readWinnerList(m_folder->db());
-    QVERIFY(list.rows.isEmpty());
-    QCOMPARE(results::winnerCountText(list), QStringLiteral("中奖人数：0"));
-    QCOMPARE(results::prizeTotalText(list), QStringLiteral("奖品总数：0"));
     WinnerListDialog dialog;
     QCOMPARE(winnerList(dialog)->topLevelItemCount(), 0);
     QCOMPARE(winnerCount(dialog), QStringLiteral("中奖人数：0"));
@@ -100,13 +96,8 @@ void TestWinnerList::rowsFollowTheDrawOrder() {
     const results::WinnerList list = results::readWinnerList(m_folder->db());
     QStringList lines;
     for (const results::WinnerListRow &row : list.rows)
-        lines << QStringList{QString::number(row.number),
-                             row.awardName,
-                             row.prizeName,
-                             row.winnerName,
-                             row.remark,
-                             row.status}
-                     .join(QLatin1Char(','));
+        lines << QString::number(row.number) + ',' + row.awardName + ',' + row.prizeName + ',' +
+                     row.winnerName + ',' + row.remark + ',' + row.status;
     QCOMPARE(lines, QStringList(
                         {"1,一等奖,笔记本,李四,市场部,中奖", "2,一等奖,笔记本,张三,研发部,中奖",
                          "3,二等奖,平板电脑,李四,市场部,中奖", "4,二等奖,平板电脑,王五,财务部,中奖",

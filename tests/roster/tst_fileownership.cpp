@@ -108,7 +108,9 @@ void TestFileOwnership::clearingAPhoto() {
 void TestFileOwnership::replacingTheRoster() {
     QSqlDatabase db = m_folder->db();
     const QList<int> ids = m_folder->addUsers({"旧甲", "旧乙", "旧丙"});
-    for (const QString name : {"U1.jpg", "U7.jpg", "LIU.jpg", "zhang.jpg", "U2.jpg"})
+    m_folder->addAward(QStringLiteral("一等奖"), 3, 1);
+    for (const QString name :
+         {"U1.jpg", "U7.jpg", "LIU.jpg", "zhang.jpg", "U2.jpg", "JP1.jpg", "camertemp.jpg"})
         QVERIFY(touch(m_folder->path("Photos/") + name));
     setPhoto(db, ids[0], QStringLiteral("Photos/zhang.jpg"));
     setPhoto(db, ids[1], m_outsideStored);
@@ -123,6 +125,9 @@ void TestFileOwnership::replacingTheRoster() {
     QVERIFY(!QFile::exists(m_folder->path("Photos/U2.jpg")));
     QVERIFY(!QFile::exists(m_folder->path("Photos/zhang.jpg")));  // the replaced row's photo
     QVERIFY(QFile::exists(m_outsideFile));
+    QVERIFY(QFile::exists(m_folder->path("Photos/JP1.jpg")));        // the prize's picture
+    QVERIFY(QFile::exists(m_folder->path("Photos/camertemp.jpg")));  // the camera's last shot
+    QCOMPARE(store::scalar(db, QStringLiteral("SELECT COUNT(*) FROM JPList")).toInt(), 1);
 
     // Without the new rows naming it, a file whose name merely holds a "U" stays as well.
     setPhoto(db, 2, QString());

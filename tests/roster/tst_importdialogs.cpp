@@ -78,39 +78,36 @@ class TestImportDialogs : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void excelPreviewAndImport_data();
+    void init() {
+        m_folder = std::make_unique<TempProgramFolder>();
+        QVERIFY(m_folder->start());
+        m_ui = installScriptedUi();
+    }
+    void cleanup() { m_folder.reset(); }
     void excelPreviewAndImport();
     void excelWarnsAboutWideSheets();
     void unreadableFilesEndInError_data();
     void unreadableFilesEndInError();
     void excelTemplateOpensDemo();
-    void textImportShowsResult();
+    void textDialogOpensOnAppendOnlyOverARoster_data();
+    void textDialogOpensOnAppendOnlyOverARoster();
     void closeDuringImportAsks_data();
     void closeDuringImportAsks();
     void photoDialogFlow();
     void numberToolsPreviewAndQuestion();
     void blankFileChoiceStops();
-    void dialogDestroyedMidwayRollsBack();
     void failedSheetCannotBeImported();
     void cancelledSheetReadLeavesNothing();
-    void emptyRosterOpensOnReplaceWithoutQuestion();
     void refusedMaskOrJobKeepsDialogUsable();
+
+private:
+    std::unique_ptr<TempProgramFolder> m_folder;
+    ScriptedUi *m_ui = nullptr;
 };
 
-void TestImportDialogs::excelPreviewAndImport_data() {
-    QTest::addColumn<QString>("file");
-    QTest::newRow("LibreOffice xlsx") << "libreoffice.xlsx";
-    QTest::newRow("LibreOffice xls") << "libreoffice.xls";
-    QTest::newRow("openpyxl xlsx") << "openpyxl.xlsx";
-}
-
 void TestImportDialogs::excelPreviewAndImport() {
-    QFETCH(QString, file);
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    folder.addUsers({"旧人"});
-    ScriptedUi *scripted = installScriptedUi();
-    ExcelImportDialog form(fixture(file));
+    m_folder->addUsers({"旧人"});
+    ExcelImportDialog form(fixture(QStringLiteral("libreoffice.xlsx")));
     form.waitForSheet();
     auto *sheets = child<QListWidget>(form, "sheetList");
     auto *columns = child<QTreeWidget>(form, "columnList");
@@ -138,7 +135,7 @@ void TestImportDialogs::excelPreviewAndImport() {
     // Someone is on the roster: the dialog opened on append, and a replace asks first.
     QVERIFY(child<QRadioButton>(form, "appendButton")->isChecked());
     child<QRadioButton>(form, "replaceButton")->setChecked(true);
-    scripted->answers.enqueue(true);
+    m_ui->answers.enqueue(true);
     start->click();
     QVERIFY(form.isImporting());
     QVERIFY(!sheets->isEnabled());
@@ -148,22 +145,17 @@ void TestImportDialogs::excelPreviewAndImport() {
     QCOMPARE(logText(form, "duplicatesEdit"), QStringLiteral("重复数据：陈七"));
     QVERIFY(!button(form, "okButton")->isHidden());
     QVERIFY(start->isHidden());
-    QCOMPARE(rosterRows(folder.db()), (QStringList{"1|陈七|行政部|0", "2|周八|客服部|0"}));
-    QCOMPARE(scripted->texts(),
-             QStringList{roster::replaceQuestion(roster::StoredRecords{1, 0, 0})});
-    QCOMPARE(QDir(folder.path("History")).entryList({"名单快照*.csv"}).size(), 1);
+    QCOMPARE(rosterRows(m_folder->db()), (QStringList{"1|陈七|行政部|0", "2|周八|客服部|0"}));
+    QCOMPARE(m_ui->texts(), QStringList{roster::replaceQuestion(roster::StoredRecords{1, 0, 0})});
+    QCOMPARE(QDir(m_folder->path("History")).entryList({"名单快照*.csv"}).size(), 1);
 }
 
 void TestImportDialogs::excelWarnsAboutWideSheets() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    ScriptedUi *scripted = installScriptedUi();
     ExcelImportDialog form(fixture(QStringLiteral("wide.xlsx")));
     form.waitForSheet();
-    QCOMPARE(scripted->last().text,
-             QStringLiteral("Excel中存在过多的列，这样会导致导入速度十分缓慢\n"
-                            "建议您修改Excel文件删除无用列再进行导入！"));
-    QCOMPARE(scripted->last().title, QStringLiteral("警告"));
+    QCOMPARE(m_ui->last().text, QStringLiteral("Excel中存在过多的列，这样会导致导入速度十分缓慢\n"
+                                               "建议您修改Excel文件删除无用列再进行导入！"));
+    QCOMPARE(m_ui->last().title, QStringLiteral("警告"));
     QCOMPARE(child<QTreeWidget>(form, "columnList")->topLevelItemCount(), 12);
 }
 
@@ -171,18 +163,14 @@ void TestImportDialogs::unreadableFilesEndInError_data() {
     QTest::addColumn<bool>("excel");
     QTest::addColumn<QString>("file");
     QTest::newRow("broken workbook") << true << "broken.xlsx";
-    QTest::newRow("text as workbook") << true << "utf8-lf.txt";
     QTest::newRow("binary as text") << false << "binary.txt";
 }
 
 void TestImportDialogs::unreadableFilesEndInError() {
     QFETCH(bool, excel);
     QFETCH(QString, file);
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    folder.addUsers({"甲|一部|3"});
-    const QStringList before = rosterRows(folder.db());
-    ScriptedUi *scripted = installScriptedUi();
+    m_folder->addUsers({"甲|一部|3"});
+    const QStringList before = rosterRows(m_folder->db());
     if (excel) {
         ExcelImportDialog form(fixture(file));
         QVERIFY(!child<QListWidget>(form, "sheetList")->isEnabled());
@@ -193,39 +181,39 @@ void TestImportDialogs::unreadableFilesEndInError() {
         QVERIFY(!form.isImporting());
         QVERIFY(button(form, "startButton")->isEnabled());
     }
-    QCOMPARE(scripted->records.size(), 1);
-    QCOMPARE(scripted->last().title, QStringLiteral("错误"));
-    QCOMPARE(scripted->last().style, MsgStyle::Critical);
-    QVERIFY(!scripted->last().text.isEmpty());
-    QCOMPARE(rosterRows(folder.db()), before);
+    QCOMPARE(m_ui->records.size(), 1);
+    QCOMPARE(m_ui->last().title, QStringLiteral("错误"));
+    QCOMPARE(m_ui->last().style, MsgStyle::Critical);
+    QVERIFY(!m_ui->last().text.isEmpty());
+    QCOMPARE(rosterRows(m_folder->db()), before);
 }
 
 void TestImportDialogs::excelTemplateOpensDemo() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    ScriptedUi *scripted = installScriptedUi();
-    ExcelImportDialog form(folder.path("demo.xlsx"));
+    ExcelImportDialog form(m_folder->path("demo.xlsx"));
     form.waitForSheet();
     QCOMPARE(child<QListWidget>(form, "sheetList")->item(0)->text(), QStringLiteral("抽奖名单"));
     button(form, "templateButton")->click();
-    QCOMPARE(scripted->openedUrls.size(), 1);
-    QCOMPARE(scripted->openedUrls.first().toLocalFile(), folder.path("demo.xlsx"));
+    QCOMPARE(m_ui->openedUrls.size(), 1);
+    QCOMPARE(m_ui->openedUrls.first().toLocalFile(), m_folder->path("demo.xlsx"));
 }
 
-void TestImportDialogs::textImportShowsResult() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    folder.addUsers({"旧人"});
-    installScriptedUi();
+void TestImportDialogs::textDialogOpensOnAppendOnlyOverARoster_data() {
+    QTest::addColumn<bool>("empty");
+    QTest::newRow("empty roster: replace without a question") << true;
+    QTest::newRow("someone on the roster: append") << false;
+}
+
+void TestImportDialogs::textDialogOpensOnAppendOnlyOverARoster() {
+    QFETCH(bool, empty);
+    if (!empty) m_folder->addUsers({"旧人"});
     TextImportDialog form(fixture(QStringLiteral("utf16le-crlf.txt")));
-    QCOMPARE(edit(form, "separatorEdit")->text(), QStringLiteral(","));
-    QVERIFY(child<QRadioButton>(form, "appendButton")->isChecked());
+    QCOMPARE(child<QRadioButton>(form, "appendButton")->isChecked(), !empty);
     button(form, "startButton")->click();
     form.waitForJob();
+    QVERIFY(m_ui->records.isEmpty());
     QCOMPARE(labelText(form, "resultLabel"), QStringLiteral("共导入数据4条，屏蔽重复数据1条"));
     QCOMPARE(logText(form, "duplicatesEdit"), QStringLiteral("重复数据：张三,研发部"));
-    QCOMPARE(rosterRows(folder.db()).size(), 5);
-    QCOMPARE(rosterRows(folder.db()).first(), QStringLiteral("1|旧人||0"));
+    QCOMPARE(rosterRows(m_folder->db()).size(), empty ? 4 : 5);
 }
 
 void TestImportDialogs::closeDuringImportAsks_data() {
@@ -234,37 +222,26 @@ void TestImportDialogs::closeDuringImportAsks_data() {
     QTest::newRow("Yes cancels") << true;
 }
 
+// A dialog closed or destroyed half way rolls back as a cancel does.
 void TestImportDialogs::closeDuringImportAsks() {
     QFETCH(bool, yes);
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    folder.addUsers({"甲|一部|3"});
-    const QStringList before = rosterRows(folder.db());
-    ScriptedUi *scripted = installScriptedUi();
-    NumberGeneratorDialog form;
-    edit(form, "endEdit")->setText(QStringLiteral("99999"));
-    scripted->answers.enqueue(true);
-    button(form, "startButton")->click();
-    QVERIFY(form.isImporting());
-    QTRY_VERIFY(child<QProgressBar>(form, "progressBar")->value() > 0);
-    scripted->answers.enqueue(yes);
-    QCOMPARE(tryClose(form), yes);
-    QCOMPARE(scripted->last().text, QStringLiteral("编号正在生成当中...，确认要退出么？"));
-    QCOMPARE(scripted->last().title, QStringLiteral("提示"));
-    if (yes) {
-        QVERIFY(!form.isImporting());
-        QCOMPARE(rosterRows(folder.db()), before);
-        return;
-    }
-    form.waitForJob();
-    QCOMPARE(labelText(form, "resultLabel"), QStringLiteral("共导入99999条，屏蔽0条"));
-    QCOMPARE(rosterRows(folder.db()).size(), 99999);
+    m_folder->addUsers({"甲|一部|3"});
+    const QStringList before = rosterRows(m_folder->db());
+    auto form = std::make_unique<NumberGeneratorDialog>();
+    edit(*form, "endEdit")->setText(QStringLiteral("99999"));
+    m_ui->answers.enqueue(true);
+    button(*form, "startButton")->click();
+    QTRY_VERIFY(child<QProgressBar>(*form, "progressBar")->value() > 0);
+    m_ui->answers.enqueue(yes);
+    QCOMPARE(tryClose(*form), yes);
+    QCOMPARE(m_ui->last().text, QStringLiteral("编号正在生成当中...，确认要退出么？"));
+    QCOMPARE(m_ui->last().title, QStringLiteral("提示"));
+    QCOMPARE(form->isImporting(), !yes);
+    form.reset();
+    QCOMPARE(rosterRows(m_folder->db()), before);
 }
 
 void TestImportDialogs::photoDialogFlow() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    ScriptedUi *scripted = installScriptedUi();
     QTemporaryDir dir;
     QImage image(1200, 900, QImage::Format_RGB32);
     image.fill(Qt::blue);
@@ -276,37 +253,33 @@ void TestImportDialogs::photoDialogFlow() {
     QCOMPARE(labelText(form, "statusLabel"), QStringLiteral("请选择照片"));
     child<QSlider>(form, "sizeSlider")->setValue(5);
     QCOMPARE(labelText(form, "sizeLabel"), QStringLiteral("像素范围(500x500)内"));
-    scripted->fileLists.enqueue(files);
+    m_ui->fileLists.enqueue(files);
     button(form, "chooseButton")->click();
     QCOMPARE(labelText(form, "statusLabel"), QStringLiteral("共加载图片2张，请点开始导入。"));
     button(form, "startButton")->click();
     form.waitForJob();
     QCOMPARE(logText(form, "logEdit"), QStringLiteral("导入名单2条\n重复0条,请点确定按钮刷新"));
-    QCOMPARE(rosterRows(folder.db()), (QStringList{"1|张三|宣传部 |0", "2|李四| |0"}));
-    QCOMPARE(QImage(folder.path("Photos/U1.jpg")).size(), QSize(500, 375));
+    QCOMPARE(QImage(m_folder->path("Photos/U1.jpg")).size(), QSize(500, 375));
 }
 
 void TestImportDialogs::numberToolsPreviewAndQuestion() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    folder.addUsers({"甲"});
-    ScriptedUi *scripted = installScriptedUi();
+    m_folder->addUsers({"甲"});
     NumberGeneratorDialog form;
     QCOMPARE(labelText(form, "sampleLabel"), QStringLiteral("ST0001E - ST1000E"));
     typeInto(edit(form, "startEdit"), QStringLiteral("99999"));
-    QCOMPARE(scripted->last().text, QStringLiteral("开始数值只能小于终止数值!"));
+    QCOMPARE(m_ui->last().text, QStringLiteral("开始数值只能小于终止数值!"));
     QCOMPARE(labelText(form, "sampleLabel"), QString());
     typeInto(edit(form, "startEdit"), QStringLiteral("1"));
     typeInto(edit(form, "endEdit"), QStringLiteral("100"));
     QCOMPARE(labelText(form, "sampleLabel"), QStringLiteral("ST001E - ST100E"));
     edit(form, "maskEdit")->setText(QStringLiteral("4,13"));
     QPushButton *start = button(form, "startButton");
-    scripted->answers.enqueue(false);
+    m_ui->answers.enqueue(false);
     start->click();
-    QCOMPARE(scripted->last().text, roster::replaceQuestion(roster::StoredRecords{1, 0, 0}));
-    QCOMPARE(scripted->last().title, QStringLiteral("重要提示"));
-    QCOMPARE(rosterRows(folder.db()), QStringList{"1|甲||0"});
-    scripted->answers.enqueue(true);
+    QCOMPARE(m_ui->last().text, roster::replaceQuestion(roster::StoredRecords{1, 0, 0}));
+    QCOMPARE(m_ui->last().title, QStringLiteral("重要提示"));
+    QCOMPARE(rosterRows(m_folder->db()), QStringList{"1|甲||0"});
+    m_ui->answers.enqueue(true);
     start->click();
     QPushButton *ok = button(form, "okButton");
     QVERIFY(!ok->isEnabled() || !form.isImporting());
@@ -315,39 +288,18 @@ void TestImportDialogs::numberToolsPreviewAndQuestion() {
     QVERIFY(logText(form, "maskedCodesEdit")
                 .startsWith(QStringLiteral("屏蔽数据如下：\nST004E\nST013E\n")));
     QVERIFY(ok->isEnabled());
-    QCOMPARE(rosterRows(folder.db()).first(), QStringLiteral("1|ST001E||0"));
+    QCOMPARE(rosterRows(m_folder->db()).first(), QStringLiteral("1|ST001E||0"));
 }
 
 void TestImportDialogs::blankFileChoiceStops() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    ScriptedUi *scripted = installScriptedUi();
     QVERIFY(!rosterscreens::importExcel(nullptr, true));
     QVERIFY(!rosterscreens::importText(nullptr, true));
-    QCOMPARE(scripted->records.size(), 2);
-    QCOMPARE(scripted->records.at(0).title, QStringLiteral("导入Excel文件"));
-    QCOMPARE(scripted->records.at(1).title, QStringLiteral("导入Txt文件"));
-}
-
-void TestImportDialogs::dialogDestroyedMidwayRollsBack() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    folder.addUsers({"甲|一部|3"});
-    const QStringList before = rosterRows(folder.db());
-    ScriptedUi *scripted = installScriptedUi();
-    auto form = std::make_unique<NumberGeneratorDialog>();
-    edit(*form, "endEdit")->setText(QStringLiteral("99999"));
-    scripted->answers.enqueue(true);
-    button(*form, "startButton")->click();
-    QTRY_VERIFY(child<QProgressBar>(*form, "progressBar")->value() > 0);
-    form.reset();
-    QCOMPARE(rosterRows(folder.db()), before);
+    QCOMPARE(m_ui->records.size(), 2);
+    QCOMPARE(m_ui->records.at(0).title, QStringLiteral("导入Excel文件"));
+    QCOMPARE(m_ui->records.at(1).title, QStringLiteral("导入Txt文件"));
 }
 
 void TestImportDialogs::failedSheetCannotBeImported() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    ScriptedUi *scripted = installScriptedUi();
     ExcelImportDialog form(fixture(QStringLiteral("half-broken.xlsx")));
     form.waitForSheet();
     auto *columns = child<QTreeWidget>(form, "columnList");
@@ -355,15 +307,12 @@ void TestImportDialogs::failedSheetCannotBeImported() {
     QVERIFY(button(form, "startButton")->isEnabled());
     child<QListWidget>(form, "sheetList")->setCurrentRow(1);
     form.waitForSheet();
-    QCOMPARE(scripted->last().title, QStringLiteral("错误"));
+    QCOMPARE(m_ui->last().title, QStringLiteral("错误"));
     QCOMPARE(columns->topLevelItemCount(), 0);
     QVERIFY(!button(form, "startButton")->isEnabled());
 }
 
 void TestImportDialogs::cancelledSheetReadLeavesNothing() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    installScriptedUi();
     ExcelImportDialog form(fixture(QStringLiteral("libreoffice.xlsx")));
     QVERIFY(form.isReadingSheet());
     QVERIFY(!child<QProgressBar>(form, "progressBar")->isHidden());
@@ -373,38 +322,23 @@ void TestImportDialogs::cancelledSheetReadLeavesNothing() {
     QVERIFY(!button(form, "startButton")->isEnabled());
 }
 
-void TestImportDialogs::emptyRosterOpensOnReplaceWithoutQuestion() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    ScriptedUi *scripted = installScriptedUi();
-    TextImportDialog form(fixture(QStringLiteral("utf8-lf.txt")));
-    QVERIFY(child<QRadioButton>(form, "replaceButton")->isChecked());
-    button(form, "startButton")->click();
-    form.waitForJob();
-    QVERIFY(scripted->records.isEmpty());
-    QVERIFY(!rosterRows(folder.db()).isEmpty());
-}
-
 void TestImportDialogs::refusedMaskOrJobKeepsDialogUsable() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    folder.addUsers({"甲"});
-    ScriptedUi *scripted = installScriptedUi();
+    m_folder->addUsers({"甲"});
     NumberGeneratorDialog form;
     edit(form, "maskEdit")->setText(QStringLiteral("0, 1"));
     button(form, "startButton")->click();
-    QCOMPARE(scripted->texts(), QStringList{numbergen::kNoCodeLeftMessage});
+    QCOMPARE(m_ui->texts(), QStringList{numbergen::kNoCodeLeftMessage});
     QVERIFY(!button(form, "startButton")->isHidden());
     // A store that refuses the transaction: the job cannot start, the dialog stays usable.
     edit(form, "maskEdit")->clear();
-    QVERIFY(folder.db().transaction());
-    scripted->answers.enqueue(true);
+    QVERIFY(m_folder->db().transaction());
+    m_ui->answers.enqueue(true);
     button(form, "startButton")->click();
     QVERIFY(!form.isImporting());
     QVERIFY(!button(form, "startButton")->isHidden());
     QVERIFY(button(form, "startButton")->isEnabled());
-    QVERIFY(folder.db().rollback());
-    QCOMPARE(rosterRows(folder.db()), QStringList{"1|甲||0"});
+    QVERIFY(m_folder->db().rollback());
+    QCOMPARE(rosterRows(m_folder->db()), QStringList{"1|甲||0"});
 }
 
 QTEST_MAIN(TestImportDialogs)

@@ -1,7 +1,6 @@
 #include <QAction>
 #include <QCameraDevice>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QFile>
 #include <QImage>
 #include <QLabel>
@@ -12,14 +11,12 @@
 #include <QTreeWidget>
 #include <QtTest>
 
-#include "awards/view/camerahook.h"
 #include "core/appstate.h"
 #include "core/store.h"
 #include "roster/rosterpage.h"
 #include "roster/view/addparticipantdialog.h"
 #include "roster/view/cameracapturedialog.h"
 #include "roster/view/rostermanagerdialog.h"
-#include "roster/view/rosterscreens.h"
 #include "stage/protocol.h"
 #include "stage/view/stagefactory.h"
 #include "support/childwidget.h"
@@ -80,6 +77,12 @@ class TestRosterManager : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() {
+        m_folder = std::make_unique<TempProgramFolder>();
+        QVERIFY(m_folder->start());
+        m_ui = installScriptedUi();
+    }
+    void cleanup() { m_folder.reset(); }
     void firstFillWaitsForViewer();
     void fillsAtOnceWithoutViewer();
     void fillsWhenRealViewerReports();
@@ -97,16 +100,17 @@ private Q_SLOTS:
     void addUserRules();
     void cameraMissing();
     void cameraSaveHandsOver();
-    void cameraLentToAwards();
+
+private:
+    std::unique_ptr<TempProgramFolder> m_folder;
+    ScriptedUi *m_ui = nullptr;
 };
 
 void TestRosterManager::firstFillWaitsForViewer() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    folder.addUsers({"甲|一部", "乙|二部"});
+    m_folder->addUsers({"甲|一部", "乙|二部"});
     auto &stages = installRecordingStages();
     RosterManagerDialog form;
-    QCOMPARE(stages.last()->movie, folder.path("sys/viewer.qml"));
+    QCOMPARE(stages.last()->movie, m_folder->path("sys/viewer.qml"));
     QCOMPARE(participants(form)->topLevelItemCount(), 0);
     stages.last()->reply(QStringLiteral("other"), QStringLiteral("yes"));
     QCOMPARE(participants(form)->topLevelItemCount(), 0);
@@ -118,18 +122,14 @@ void TestRosterManager::firstFillWaitsForViewer() {
 }
 
 void TestRosterManager::fillsAtOnceWithoutViewer() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    folder.addUsers({"甲|一部"});
+    m_folder->addUsers({"甲|一部"});
     setStageFactory([](QWidget *parent) { return std::make_unique<SilentStage>(parent); });
     RosterManagerDialog form;
     QCOMPARE(participants(form)->topLevelItemCount(), 1);
 }
 
 void TestRosterManager::fillsWhenRealViewerReports() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    folder.addUsers({"甲|一部"});
+    m_folder->addUsers({"甲|一部"});
     setStageFactory({});
     RosterManagerDialog form;
     QTRY_COMPARE(participants(form)->topLevelItemCount(), 1);
@@ -140,40 +140,32 @@ void TestRosterManager::pagesAreClamped_data() {
     QTest::addColumn<QString>("search");
     QTest::addColumn<int>("page");
     QTest::addColumn<int>("shownPage");
+    QTest::addColumn<int>("pageCount");
     QTest::addColumn<int>("rows");
-    QTest::addColumn<QString>("pageText");
-    QTest::addColumn<QString>("total");
-    QTest::newRow("first") << "" << 1 << 1 << 1000 << "当前第∶1页/ 共3页"
-                           << "总计人数：2500";
-    QTest::newRow("last") << "" << 3 << 3 << 500 << "当前第∶3页/ 共3页"
-                          << "总计人数：2500";
-    QTest::newRow("beyond") << "" << 9 << 3 << 500 << "当前第∶3页/ 共3页"
-                            << "总计人数：2500";
-    QTest::newRow("below") << "" << 0 << 1 << 1000 << "当前第∶1页/ 共3页"
-                           << "总计人数：2500";
-    QTest::newRow("search from page 3") << "人1" << 3 << 2 << 111 << "当前第∶2页/ 共2页"
-                                        << "总计人数：1111";
-    QTest::newRow("no hits") << "无此人" << 3 << 3 << 0 << "当前第∶3页/ 共0页"
-                             << "总计人数：0";
-    QTest::newRow("wildcards are text") << "%" << 1 << 1 << 0 << "当前第∶1页/ 共0页"
-                                        << "总计人数：0";
+    QTest::addColumn<int>("total");
+    QTest::newRow("first") << "" << 1 << 1 << 3 << 1000 << 2500;
+    QTest::newRow("last") << "" << 3 << 3 << 3 << 500 << 2500;
+    QTest::newRow("beyond") << "" << 9 << 3 << 3 << 500 << 2500;
+    QTest::newRow("below") << "" << 0 << 1 << 3 << 1000 << 2500;
+    QTest::newRow("search from page 3") << "人1" << 3 << 2 << 2 << 111 << 1111;
+    QTest::newRow("no hits") << "无此人" << 3 << 3 << 0 << 0 << 0;
+    QTest::newRow("wildcards are text") << "%" << 1 << 1 << 0 << 0 << 0;
 }
 
 void TestRosterManager::pagesAreClamped() {
     QFETCH(QString, search);
     QFETCH(int, page);
     QFETCH(int, shownPage);
+    QFETCH(int, pageCount);
     QFETCH(int, rows);
-    QFETCH(QString, pageText);
-    QFETCH(QString, total);
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    fillRoster(folder.db(), 2500);
+    QFETCH(int, total);
+    fillRoster(m_folder->db(), 2500);
     auto form = openManager();
     form->showParticipants(search, page);
     QCOMPARE(participants(*form)->topLevelItemCount(), rows);
-    QCOMPARE(labelText(*form, "pageLabel"), pageText);
-    QCOMPARE(labelText(*form, "totalLabel"), total);
+    QCOMPARE(labelText(*form, "pageLabel"),
+             QStringLiteral("当前第∶%1页/ 共%2页").arg(shownPage).arg(pageCount));
+    QCOMPARE(labelText(*form, "totalLabel"), QStringLiteral("总计人数：%1").arg(total));
     QCOMPARE(button(*form, "previousPageButton")->isEnabled(), rows > 0 && shownPage > 1);
     // A long roster selects no row, so the editor waits for a click before it can save.
     QVERIFY(!button(*form, "saveButton")->isEnabled());
@@ -194,15 +186,13 @@ void TestRosterManager::sortModes_data() {
 void TestRosterManager::sortModes() {
     QFETCH(int, sort);
     QFETCH(QStringList, firstIds);
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    fillRoster(folder.db(), 2500);
+    fillRoster(m_folder->db(), 2500);
     roster::Page page;
     QString error;
-    QVERIFY(roster::readPage(folder.db(), QString(), sort, 2, &page, &error));
+    QVERIFY(roster::readPage(m_folder->db(), QString(), sort, 2, &page, &error));
     QCOMPARE(page.rows.size(), 1000);
     roster::Page first;
-    QVERIFY(roster::readPage(folder.db(), QString(), sort, 1, &first, &error));
+    QVERIFY(roster::readPage(m_folder->db(), QString(), sort, 1, &first, &error));
     QStringList ids;
     for (int i = 0; i < 3; ++i)
         ids << QString::number(first.rows.at(i).id);
@@ -216,9 +206,7 @@ void TestRosterManager::sortModes() {
 }
 
 void TestRosterManager::countersAndStatusWords() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    fillRoster(folder.db(), 20);
+    fillRoster(m_folder->db(), 20);
     auto form = openManager();
     QCOMPARE(labelText(*form, "wonLabel"), QStringLiteral("已中奖人数：2"));
     QCOMPARE(labelText(*form, "gaveUpLabel"), QStringLiteral("弃奖∶2"));
@@ -229,148 +217,130 @@ void TestRosterManager::countersAndStatusWords() {
     QCOMPARE(participants(*form)->topLevelItem(9)->foreground(5).color(), QColor(18, 118, 0));
     QCOMPARE(participants(*form)->topLevelItem(2)->text(5), QString());
     appState().selJxid = 4;
-    store::exec(folder.db(), "UPDATE UserList SET UserStatus=0");
+    store::exec(m_folder->db(), "UPDATE UserList SET UserStatus=0");
     form->showParticipants(QString(), 1);
     QCOMPARE(appState().selJxid, qint16(0));
 }
 
 void TestRosterManager::saveKeepsWinAndRefusesDuplicates() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    folder.addUsers({"甲|一部|1", "乙|二部|2"});
-    store::exec(folder.db(), "UPDATE UserList SET UserStatus=3, JxID='|1|' WHERE ID=2");
-    ScriptedUi *scripted = installScriptedUi();
+    m_folder->addUsers({"甲|一部|1", "乙|二部|2"});
+    store::exec(m_folder->db(), "UPDATE UserList SET UserStatus=3, JxID='|1|' WHERE ID=2");
     auto form = openManager();
     participants(*form)->setCurrentItem(participants(*form)->topLevelItem(1));
     edit(*form, "nameEdit")->setText(QStringLiteral("甲"));
     edit(*form, "remarkEdit")->setText(QStringLiteral("一部"));
     button(*form, "saveButton")->click();
-    QCOMPARE(scripted->last().text, QStringLiteral("名单重复,已经存在同样的人员信息"));
-    QCOMPARE(scripted->last().title, QStringLiteral("编辑失败"));
+    QCOMPARE(m_ui->last().text, QStringLiteral("名单重复,已经存在同样的人员信息"));
+    QCOMPARE(m_ui->last().title, QStringLiteral("编辑失败"));
     edit(*form, "diffNumEdit")->setValidator(nullptr);
     edit(*form, "diffNumEdit")->setText(QStringLiteral("x1"));
     edit(*form, "remarkEdit")->setText(QStringLiteral("三部"));
     button(*form, "saveButton")->click();
-    QCOMPARE(scripted->last().text, QStringLiteral("“区分编号”只能填写数字"));
+    QCOMPARE(m_ui->last().text, QStringLiteral("“区分编号”只能填写数字"));
     edit(*form, "diffNumEdit")->setText(QStringLiteral("12345678901"));
     button(*form, "saveButton")->click();
-    QCOMPARE(scripted->last().text, roster::kDiffNumTooLarge);
+    QCOMPARE(m_ui->last().text, roster::kDiffNumTooLarge);
     edit(*form, "diffNumEdit")->setText(QStringLiteral("9"));
     edit(*form, "nameEdit")->setText(QStringLiteral("   "));
     button(*form, "saveButton")->click();
-    QCOMPARE(scripted->last().text, QStringLiteral("请输入抽奖名单!"));
+    QCOMPARE(m_ui->last().text, QStringLiteral("请输入抽奖名单!"));
     edit(*form, "nameEdit")->setText(QStringLiteral("甲 "));
     button(*form, "saveButton")->click();
-    QCOMPARE(scripted->last().text, QStringLiteral("数据更新成功！"));
-    QCOMPARE(store::scalar(folder.db(),
+    QCOMPARE(m_ui->last().text, QStringLiteral("数据更新成功！"));
+    QCOMPARE(store::scalar(m_folder->db(),
                            "SELECT UserName || '/' || UserPart || '/' || DiffNum || "
                            "'/' || UserStatus || JxID FROM UserList WHERE ID=2")
                  .toString(),
              QStringLiteral("甲 /三部/9/3|1|"));
     // Saving a row unchanged is no duplicate of itself.
     button(*form, "saveButton")->click();
-    QCOMPARE(scripted->last().text, QStringLiteral("数据更新成功！"));
+    QCOMPARE(m_ui->last().text, QStringLiteral("数据更新成功！"));
     QCOMPARE(participants(*form)->currentItem()->text(1), QStringLiteral("2"));
 }
 
 void TestRosterManager::savePictureStates() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    folder.addUsers({"甲|一部"});
-    installScriptedUi();
+    m_folder->addUsers({"甲|一部"});
     auto form = openManager();
     QTemporaryDir dir;
     const QString chosen = dir.filePath(QStringLiteral("face.png"));
     QImage(20, 20, QImage::Format_RGB32).save(chosen);
     edit(*form, "photoStateEdit")->setText(chosen);
     button(*form, "saveButton")->click();
-    QCOMPARE(store::scalar(folder.db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
+    QCOMPARE(store::scalar(m_folder->db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
              QStringLiteral("Photos/U1.png"));
-    QVERIFY(QFile::exists(folder.path("Photos/U1.png")));
+    QVERIFY(QFile::exists(m_folder->path("Photos/U1.png")));
     QCOMPARE(edit(*form, "photoStateEdit")->text(), QStringLiteral("yes"));
-    QImage(30, 30, QImage::Format_RGB32).save(folder.path("Photos/camertemp.jpg"));
+    QImage(30, 30, QImage::Format_RGB32).save(m_folder->path("Photos/camertemp.jpg"));
     edit(*form, "photoStateEdit")->setText(QStringLiteral("camre"));
     button(*form, "saveButton")->click();
-    QCOMPARE(store::scalar(folder.db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
+    QCOMPARE(store::scalar(m_folder->db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
              QStringLiteral("Photos/U1.jpg"));
-    QCOMPARE(QImage(folder.path("Photos/U1.jpg")).size(), QSize(30, 30));
+    QCOMPARE(QImage(m_folder->path("Photos/U1.jpg")).size(), QSize(30, 30));
     edit(*form, "photoStateEdit")->setText(QStringLiteral("no"));
     button(*form, "saveButton")->click();
-    QCOMPARE(store::scalar(folder.db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
+    QCOMPARE(store::scalar(m_folder->db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
              QString());
-    QVERIFY(!QFile::exists(folder.path("Photos/U1.jpg")));
-    QVERIFY(QFile::exists(folder.path("Photos/camertemp.jpg")));
+    QVERIFY(!QFile::exists(m_folder->path("Photos/U1.jpg")));
+    QVERIFY(QFile::exists(m_folder->path("Photos/camertemp.jpg")));
 }
 
 void TestRosterManager::deleteTickedRemovesPhotos() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    fillRoster(folder.db(), 1001);
-    store::exec(folder.db(), "UPDATE UserList SET UserPhoto='Photos/U1001.jpg' WHERE ID=1001");
-    QImage(5, 5, QImage::Format_RGB32).save(folder.path("Photos/U1001.jpg"));
-    ScriptedUi *scripted = installScriptedUi();
+    fillRoster(m_folder->db(), 1001);
+    store::exec(m_folder->db(), "UPDATE UserList SET UserPhoto='Photos/U1001.jpg' WHERE ID=1001");
+    QImage(5, 5, QImage::Format_RGB32).save(m_folder->path("Photos/U1001.jpg"));
     auto form = openManager();
     trigger(*form, "deleteAction");
-    QCOMPARE(scripted->last().text, QStringLiteral("请勾选需要删除的名单!"));
+    QCOMPARE(m_ui->last().text, QStringLiteral("请勾选需要删除的名单!"));
     form->showParticipants(QString(), 2);
     trigger(*form, "tickAllAction");
     QVERIFY(child<QCheckBox>(*form, "tickAllBox")->isChecked());
-    scripted->answers.enqueue(false);
+    m_ui->answers.enqueue(false);
     trigger(*form, "deleteAction");
-    QCOMPARE(scripted->last().text, QStringLiteral("确认要删除选择的抽奖名单么?"));
-    QCOMPARE(store::scalar(folder.db(), "SELECT COUNT(*) FROM UserList").toInt(), 1001);
-    scripted->answers.enqueue(true);
+    QCOMPARE(m_ui->last().text, QStringLiteral("确认要删除选择的抽奖名单么?"));
+    QCOMPARE(store::scalar(m_folder->db(), "SELECT COUNT(*) FROM UserList").toInt(), 1001);
+    m_ui->answers.enqueue(true);
     trigger(*form, "deleteAction");
-    QCOMPARE(store::scalar(folder.db(), "SELECT COUNT(*) FROM UserList").toInt(), 1000);
-    QVERIFY(!QFile::exists(folder.path("Photos/U1001.jpg")));
+    QCOMPARE(store::scalar(m_folder->db(), "SELECT COUNT(*) FROM UserList").toInt(), 1000);
+    QVERIFY(!QFile::exists(m_folder->path("Photos/U1001.jpg")));
     // The emptied last page clamps to the new last one.
     QCOMPARE(labelText(*form, "pageLabel"), QStringLiteral("当前第∶1页/ 共1页"));
 }
 
 void TestRosterManager::batchDistinctionNumber_data() {
     QTest::addColumn<QString>("answer");
-    QTest::addColumn<QString>("message");
     QTest::addColumn<int>("stored");
-    QTest::newRow("number") << "42"
-                            << "数据更新成功！" << 42;
-    QTest::newRow("cancel") << ""
-                            << "请输入区分编号\n只能输入数字" << 1;
-    QTest::newRow("text") << "4a"
-                          << "您没输入正确的区分编号!" << 1;
-    QTest::newRow("beyond 32 bits") << "99999999999"
-                                    << "您没输入正确的区分编号!" << 1;
+    QTest::addColumn<QString>("message");
+    QTest::newRow("number") << "42" << 42 << "数据更新成功！";
+    QTest::newRow("cancel") << "" << 1 << "请输入区分编号\n只能输入数字";
+    QTest::newRow("text") << "4a" << 1 << "您没输入正确的区分编号!";
+    QTest::newRow("beyond 32 bits") << "99999999999" << 1 << "您没输入正确的区分编号!";
 }
 
 void TestRosterManager::batchDistinctionNumber() {
     QFETCH(QString, answer);
-    QFETCH(QString, message);
     QFETCH(int, stored);
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    folder.addUsers({"甲|一部|1", "乙|二部|1"});
-    ScriptedUi *scripted = installScriptedUi();
+    QFETCH(QString, message);
+    m_folder->addUsers({"甲|一部|1", "乙|二部|1"});
     auto form = openManager();
     button(*form, "setDiffNumButton")->click();
-    QCOMPARE(scripted->last().text, QStringLiteral("请勾选需要设置区分编号的名单!"));
+    QCOMPARE(m_ui->last().text, QStringLiteral("请勾选需要设置区分编号的名单!"));
     participants(*form)->topLevelItem(0)->setCheckState(0, Qt::Checked);
-    scripted->inputs.enqueue(answer);
+    m_ui->inputs.enqueue(answer);
     button(*form, "setDiffNumButton")->click();
-    QCOMPARE(scripted->last().text, message);
-    QCOMPARE(store::scalar(folder.db(), "SELECT DiffNum FROM UserList WHERE ID=1").toInt(), stored);
-    QCOMPARE(store::scalar(folder.db(), "SELECT DiffNum FROM UserList WHERE ID=2").toInt(), 1);
+    QCOMPARE(m_ui->last().text, message);
+    QCOMPARE(store::scalar(m_folder->db(), "SELECT DiffNum FROM UserList WHERE ID=1").toInt(),
+             stored);
+    QCOMPARE(store::scalar(m_folder->db(), "SELECT DiffNum FROM UserList WHERE ID=2").toInt(), 1);
 }
 
 void TestRosterManager::exportsShownPage() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    folder.addUsers({"甲,乙|一部|3", "丙\"|二部"});
-    ScriptedUi *scripted = installScriptedUi();
+    m_folder->addUsers({"甲,乙|一部|3", "丙\"|二部"});
     auto form = openManager();
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("out.csv"));
-    scripted->files.enqueue(path);
+    m_ui->files.enqueue(path);
     button(*form, "exportButton")->click();
-    QCOMPARE(scripted->last().text, QStringLiteral("导出完毕"));
+    QCOMPARE(m_ui->last().text, QStringLiteral("导出完毕"));
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(),
@@ -382,42 +352,37 @@ void TestRosterManager::exportsShownPage() {
 }
 
 void TestRosterManager::addUserRules() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    folder.addUsers({"甲|一部"});
-    ScriptedUi *scripted = installScriptedUi();
+    m_folder->addUsers({"甲|一部"});
     installRecordingStages();
     AddParticipantDialog form;
     QCOMPARE(edit(form, "diffNumEdit")->text(), QStringLiteral("0"));
     QPushButton *add = button(form, "addButton");
     add->click();
-    QCOMPARE(scripted->last().text, QStringLiteral("请输入抽奖名单!"));
+    QCOMPARE(m_ui->last().text, QStringLiteral("请输入抽奖名单!"));
     edit(form, "nameEdit")->setText(QStringLiteral(" 甲 "));
     edit(form, "remarkEdit")->setText(QStringLiteral("一部"));
     add->click();
-    QCOMPARE(scripted->last().title, QStringLiteral("新增失败"));
+    QCOMPARE(m_ui->last().title, QStringLiteral("新增失败"));
     QCOMPARE(form.result(), int(QDialog::Rejected));
     edit(form, "remarkEdit")->setText(QStringLiteral("二部"));
     edit(form, "diffNumEdit")->setText(QStringLiteral("12345678901"));
     add->click();
-    QCOMPARE(scripted->last().text, roster::kDiffNumTooLarge);
+    QCOMPARE(m_ui->last().text, roster::kDiffNumTooLarge);
     edit(form, "diffNumEdit")->setText(QString());
-    QImage(10, 10, QImage::Format_RGB32).save(folder.path("Photos/camertemp.jpg"));
+    QImage(10, 10, QImage::Format_RGB32).save(m_folder->path("Photos/camertemp.jpg"));
     edit(form, "photoStateEdit")->setText(QStringLiteral("camre"));
     add->click();
     QCOMPARE(form.result(), int(QDialog::Accepted));
     QCOMPARE(form.addedId(), 2);
-    QCOMPARE(store::scalar(folder.db(),
+    QCOMPARE(store::scalar(m_folder->db(),
                            "SELECT UserName || '/' || UserPart || '/' || DiffNum || "
                            "'/' || UserPhoto FROM UserList WHERE ID=2")
                  .toString(),
              QStringLiteral("甲/二部/0/Photos/U2.jpg"));
-    QVERIFY(QFile::exists(folder.path("Photos/U2.jpg")));
+    QVERIFY(QFile::exists(m_folder->path("Photos/U2.jpg")));
 }
 
 void TestRosterManager::cameraMissing() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
     CameraCaptureDialog camera;
     QLabel *status = child<QLabel>(camera, "statusLabel");
     QPushButton *capture = button(camera, "captureButton");
@@ -437,8 +402,6 @@ void TestRosterManager::cameraMissing() {
 }
 
 void TestRosterManager::cameraSaveHandsOver() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
     CameraCaptureDialog camera;
     QImage frame(640, 480, QImage::Format_RGB32);
     frame.fill(Qt::red);
@@ -450,15 +413,9 @@ void TestRosterManager::cameraSaveHandsOver() {
     connect(&camera, &CameraCaptureDialog::saved, this,
             [&handed](const QString &path) { handed = path; });
     capture->click();
-    QCOMPARE(handed, folder.path("Photos/camertemp.jpg"));
+    QCOMPARE(handed, m_folder->path("Photos/camertemp.jpg"));
     QCOMPARE(QImage(handed).size(), QSize(640, 480));
     QCOMPARE(camera.result(), int(QDialog::Accepted));
-}
-
-void TestRosterManager::cameraLentToAwards() {
-    awardcamera::setShot({});
-    rosterscreens::installCamera();
-    QVERIFY(static_cast<bool>(awardcamera::shot()));
 }
 
 QTEST_MAIN(TestRosterManager)

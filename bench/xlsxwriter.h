@@ -1,8 +1,8 @@
 #pragma once
 
 // Writes a plain workbook of text rows, shared strings in the first column and inline strings
-// in the others, as spreadsheet programs do. Used to make big workbooks for the screens and the
-// benchmark without storing them in the repository.
+// in the others, as spreadsheet programs do. The benchmark makes its big workbooks with it rather
+// than storing them in the repository.
 #include <QByteArray>
 #include <QFile>
 #include <QList>
