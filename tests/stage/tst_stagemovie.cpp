@@ -23,10 +23,12 @@ private Q_SLOTS:
 
 void TestStageMovie::startUpDialogue() {
     QTemporaryDir dir;
+    const QString prize = dir.filePath(QStringLiteral("prize.png"));
+    QImage(84, 63, QImage::Format_ARGB32).save(prize);
     StageRig rig(QStringLiteral("stage.qml"));
     QVERIFY2(rig.loaded, qPrintable(rig.stage.errors().join('\n')));
     QVERIFY(rig.stage.usesWindow());
-    QVERIFY(rig.startUp(QString(), 0, makePrizePicture(dir.path())));
+    QVERIFY(rig.startUp(QString(), 0, prize));
     QStringList order;
     for (const auto &c : rig.commands)
         order << c.first;
@@ -37,8 +39,6 @@ void TestStageMovie::startUpDialogue() {
     QVERIFY(rig.callList("objectNames").contains(QStringLiteral("ssm_vornex")));
     QTRY_VERIFY(
         rig.call("objectInfo", QStringLiteral("img_jpimgs")).toMap().value("ready").toBool());
-    rig.stage.root()->setProperty("restMs", 600000);
-    QVERIFY(rig.save(QStringLiteral("stage-idle.png")));
 }
 
 void TestStageMovie::templateTextsFillTheAwardVariables() {
@@ -95,31 +95,23 @@ void TestStageMovie::titlesStayCentred() {
 void TestStageMovie::wholeDrawLandsOnTheWinners_data() {
     QTest::addColumn<int>("luckType");
     QTest::addColumn<QStringList>("winners");
-    QTest::addColumn<QString>("shot");
-    QTest::newRow("text, a name with the bar")
-        << 0 << QStringList{QStringLiteral("李‖四"), QStringLiteral("张伟"), QStringLiteral("王芳")}
-        << QString();
-    QTest::newRow("one winner") << 0 << QStringList{QStringLiteral("欧阳明月")}
-                                << QStringLiteral("stage-landed-1.png");
-    QTest::newRow("batch of ten") << 0 << sampleNames().mid(0, 10)
-                                  << QStringLiteral("stage-landed-10.png");
+    QTest::newRow("a name with the bar")
+        << 0
+        << QStringList{QStringLiteral("李‖四"), QStringLiteral("张伟"), QStringLiteral("王芳")};
+    QTest::newRow("one winner") << 0 << QStringList{QStringLiteral("欧阳明月")};
+    QTest::newRow("batch of ten") << 0 << sampleNames().mid(0, 10);
 }
 
 void TestStageMovie::wholeDrawLandsOnTheWinners() {
     QFETCH(int, luckType);
     QFETCH(QStringList, winners);
-    QFETCH(QString, shot);
     StageRig rig(QStringLiteral("stage.qml"));
     QVERIFY(rig.startUp());
     QVERIFY(rig.beginDraw(luckType, winners, sampleNames()));
     QCOMPARE(rig.callList("cellNames").size(), winners.size());
-    if (winners.size() == 10) QVERIFY(rig.save(QStringLiteral("stage-rolling.png")));
     rig.send(proto::changBtn, proto::buttons::stop);
     QVERIFY(rig.waitFor(proto::cmd::stoplucksub, 8000));
     QCOMPARE(rig.callList("cellNames"), winners);
-    QTest::qWait(300);
-    QCOMPARE(rig.count(proto::cmd::stoplucksub), 1);
-    if (!shot.isEmpty()) QVERIFY(rig.save(shot));
 }
 
 void TestStageMovie::clearHidesTheCells() {
