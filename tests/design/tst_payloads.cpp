@@ -201,6 +201,9 @@ void TestPayloads::objectPayloads_data() {
     QTest::newRow("img designer, file gone")
         << "img" << Reader::Designer << load << false << proto::vbAddImg
         << img + "128|128|80|true|/opt/q/skin/Src/block.png";
+    QTest::newRow("img draw, file gone")
+        << "img" << Reader::Draw << load << false << proto::vbAddImg
+        << img + "128|128|80|true|/opt/q/skin/Src/block.png";
 
     const QString swf = QStringLiteral("false|swf_0123456789abcdef|5|10|20|");
     QTest::newRow("swf console: not shown")
@@ -216,6 +219,8 @@ void TestPayloads::objectPayloads_data() {
         << "ssm" << Reader::Designer << load << true << proto::vbAddJpBox << box;
     QTest::newRow("ssm designer refresh: long") << "ssm" << Reader::Designer << ObjectForm::Refresh
                                                 << true << proto::vbAddJpBox << box + font;
+    QTest::newRow("ssm draw: short")
+        << "ssm" << Reader::Draw << load << true << proto::vbAddJpBox << box;
 }
 
 void TestPayloads::objectPayloads() {
