@@ -179,17 +179,17 @@ void TestMusicSettingsDialog::listening() {
 }
 
 void TestMusicSettingsDialog::saving_data() {
-    QTest::addColumn<int>("slot");
+    QTest::addColumn<QString>("row");     // as the keys of config.ini name it
     QTest::addColumn<QString>("stored");  // the row's file before
     QTest::addColumn<QString>("chosen");  // a file outside, or empty for no new choice
     QTest::addColumn<QString>("expectedKey");
     QTest::addColumn<QByteArray>("expectedBytes");  // of Music/<expectedKey>
     QTest::addColumn<bool>("oldFileKept");
-    const auto row = [](const char *tag, int slot, const char *stored, const char *chosen,
+    const auto row = [](const char *tag, const char *slot, const char *stored, const char *chosen,
                         const char *key, const char *bytes, bool oldKept) {
         QTest::newRow(tag) << slot << stored << chosen << key << QByteArray(bytes) << oldKept;
     };
-    const int background = music::Background, start = music::Start;
+    const char *const background = "Bg", *const start = "Start";
     row("new file replaces the old", background, "old.mp3", "new.mp3", "new.mp3", "new", false);
     row("unchanged row copies nothing", background, "old.mp3", "", "old.mp3", "old", true);
     row("same name from elsewhere", background, "old.mp3", "old.mp3", "old.mp3", "new", true);
@@ -198,7 +198,8 @@ void TestMusicSettingsDialog::saving_data() {
 }
 
 void TestMusicSettingsDialog::saving() {
-    QFETCH(int, slot);
+    QFETCH(QString, row);
+    const int slot = row == QLatin1String("Bg") ? music::Background : music::Start;
     QFETCH(QString, stored);
     QFETCH(QString, chosen);
     QFETCH(QString, expectedKey);
@@ -220,11 +221,11 @@ void TestMusicSettingsDialog::saving() {
     QCOMPARE(m_ui->last().text, QStringLiteral("音乐设置保存成功!"));
     QCOMPARE(m_ui->last().title, QStringLiteral("提示"));
     QCOMPARE(form.result(), int(QDialog::Accepted));
-    QCOMPARE(key(music::keysOf(slot).fileKey), expectedKey);
+    QCOMPARE(key(qPrintable(row + "MusicFile")), expectedKey);
     QCOMPARE(readFile(music(expectedKey)), expectedBytes);
     if (stored != "no" && stored != expectedKey)
         QCOMPARE(QFile::exists(music(stored)), oldFileKept);
-    QCOMPARE(key(music::keysOf(slot).flagKey), QStringLiteral("1"));
+    QCOMPARE(key(qPrintable("is" + row + "Music")), QStringLiteral("1"));
     QCOMPARE(key("isPlayMusic"), QStringLiteral("0"));
     QCOMPARE(key("PlayMusicFile"), QStringLiteral("no"));
     QVERIFY(!QFile::exists(music(expectedKey + ".part")));
