@@ -15,6 +15,7 @@
 #include "core/fonts.h"
 #include "stage/protocol.h"
 #include "stage/view/qmlstage.h"
+#include "support/moviecall.h"
 #include "support/stageclick.h"
 #include "support/testpaths.h"
 
@@ -68,15 +69,11 @@ public:
     }
 
     QVariant call(const char *function, const QVariant &arg = QVariant()) {
-        QVariant result;
-        if (arg.isValid())
-            QMetaObject::invokeMethod(stage.root(), function, Q_RETURN_ARG(QVariant, result),
-                                      Q_ARG(QVariant, arg));
-        else
-            QMetaObject::invokeMethod(stage.root(), function, Q_RETURN_ARG(QVariant, result));
-        return result;
+        return callMovie(stage.root(), function, arg);
     }
     QStringList callList(const char *function) { return call(function).toStringList(); }
+    QVariantMap info(const QString &object) { return call("objectInfo", object).toMap(); }
+    QString text(const QString &object) { return call("objectText", object).toString(); }
 
     // Clicks an on-stage item the way the operator would.
     bool click(const QString &objectName) {

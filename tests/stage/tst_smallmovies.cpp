@@ -59,10 +59,8 @@ void TestSmallMovies::previewTakesTheShortForms() {
     QCOMPARE(names,
              (QStringList{"img_jpimgs", "scr_luckls", "ssm_vornex", "txt_jxname", "txt_zbt"}));
     // Without an award the preview shows sample values, never a raw variable.
-    QCOMPARE(rig.call("objectText", QStringLiteral("txt_jxname")).toString(),
-             QStringLiteral("一等奖"));
-    QCOMPARE(rig.call("objectText", QStringLiteral("txt_zbt")).toString(),
-             QStringLiteral("2026年度盛典"));
+    QCOMPARE(rig.text(QStringLiteral("txt_jxname")), QStringLiteral("一等奖"));
+    QCOMPARE(rig.text(QStringLiteral("txt_zbt")), QStringLiteral("2026年度盛典"));
     // A second ClsPage empties the page.
     rig.send(proto::ClsPage, proto::yes);
     QTRY_VERIFY(rig.callList("objectNames").isEmpty());
