@@ -27,6 +27,12 @@
 
 namespace {
 
+void markWinner(TempProgramFolder &folder, int award, int user) {
+    store::exec(folder.db(),
+                QStringLiteral("UPDATE UserList SET JxID=?, UserStatus=3, UpdateTime=? WHERE ID=?"),
+                {store::awardMarker(award), store::nowText(), user});
+}
+
 void click(const QWidget &parent, const char *name) {
     if (auto *link = parent.findChild<LinkLabel *>(QString::fromLatin1(name)))
         Q_EMIT link->clicked();
@@ -212,10 +218,7 @@ void TestConsole::oneKeyReset() {
     const int award = m_folder->addAward(QStringLiteral("一等奖"), awardSlots, 1);
     const QList<int> ids = m_folder->addUsers({"甲|研发部", "乙|市场部"});
     for (int i = 0; i < winners; ++i)
-        store::exec(
-            m_folder->db(),
-            QStringLiteral("UPDATE UserList SET JxID=?, UserStatus=3, UpdateTime=? WHERE ID=?"),
-            {store::awardMarker(award), store::nowText(), ids.at(i)});
+        markWinner(*m_folder, award, ids.at(i));
     ConsoleWindow console;
     auto *progressLabel = child<QLabel>(console, "progressLabel");
     QCOMPARE(progressLabel->text(), progress);
@@ -386,9 +389,7 @@ void TestConsole::consoleImportEndsInTheRosterManager() {
 void TestConsole::progressFollowsTheRoster() {
     const QList<int> ids = m_folder->addUsers({QStringLiteral("张三"), QStringLiteral("李四")});
     const int award = m_folder->addAward(QStringLiteral("一等奖"), 4, 1);
-    store::exec(m_folder->db(),
-                QStringLiteral("UPDATE UserList SET JxID=?, UserStatus=3 WHERE ID=?"),
-                {store::awardMarker(award), ids[0]});
+    markWinner(*m_folder, award, ids[0]);
     ConsoleWindow console;
     auto *progressLabel = child<QLabel>(console, "progressLabel");
     QCOMPARE(progressLabel->text(), QStringLiteral("25%"));
