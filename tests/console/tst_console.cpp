@@ -27,6 +27,12 @@
 
 namespace {
 
+void markWinner(TempProgramFolder &folder, int award, int user) {
+    store::exec(folder.db(),
+                QStringLiteral("UPDATE UserList SET JxID=?, UserStatus=3, UpdateTime=? WHERE ID=?"),
+                {store::awardMarker(award), store::nowText(), user});
+}
+
 void click(const QWidget &parent, const char *name) {
     if (auto *link = parent.findChild<LinkLabel *>(QString::fromLatin1(name)))
         Q_EMIT link->clicked();
@@ -79,30 +85,18 @@ void TestConsole::stageSizeChecksRunInOrder_data() {
     QTest::addColumn<QString>("height");
     QTest::addColumn<QString>("message");
     QTest::addColumn<bool>("widthField");
-    QTest::newRow("smallest size passes") << "257"
-                                          << "177"
-                                          << "" << true;
-    QTest::newRow("width first even with a bad height") << "256"
-                                                        << "100"
-                                                        << "分辨率宽度最小不低于257px" << true;
-    QTest::newRow("empty width is no number") << ""
-                                              << "768"
-                                              << "分辨率宽度需要输入数字" << true;
-    QTest::newRow("height not a number") << "1024"
-                                         << "x"
-                                         << "分辨率高度需要输入数字" << false;
-    QTest::newRow("numbers before sizes") << "100"
-                                          << ""
-                                          << "分辨率高度需要输入数字" << false;
-    QTest::newRow("height too small") << "1024"
-                                      << "176"
-                                      << "分辨率高度不能低于177px" << false;
-    QTest::newRow("width past 16 bits") << "40000"
-                                        << "768"
-                                        << "分辨率宽度最大不能超过32767px" << true;
-    QTest::newRow("height far past 32 bits") << "1024"
-                                             << "99999999999"
-                                             << "分辨率高度最大不能超过32767px" << false;
+    const auto row = [](const char *tag, const char *width, const char *height, const char *message,
+                        bool widthField) {
+        QTest::newRow(tag) << width << height << message << widthField;
+    };
+    row("smallest size passes", "257", "177", "", true);
+    row("width first even with a bad height", "256", "100", "分辨率宽度最小不低于257px", true);
+    row("empty width is no number", "", "768", "分辨率宽度需要输入数字", true);
+    row("height not a number", "1024", "x", "分辨率高度需要输入数字", false);
+    row("numbers before sizes", "100", "", "分辨率高度需要输入数字", false);
+    row("height too small", "1024", "176", "分辨率高度不能低于177px", false);
+    row("width past 16 bits", "40000", "768", "分辨率宽度最大不能超过32767px", true);
+    row("height far past 32 bits", "1024", "99999999999", "分辨率高度最大不能超过32767px", false);
 }
 
 void TestConsole::stageSizeChecksRunInOrder() {
@@ -224,10 +218,7 @@ void TestConsole::oneKeyReset() {
     const int award = m_folder->addAward(QStringLiteral("一等奖"), awardSlots, 1);
     const QList<int> ids = m_folder->addUsers({"甲|研发部", "乙|市场部"});
     for (int i = 0; i < winners; ++i)
-        store::exec(
-            m_folder->db(),
-            QStringLiteral("UPDATE UserList SET JxID=?, UserStatus=3, UpdateTime=? WHERE ID=?"),
-            {store::awardMarker(award), store::nowText(), ids.at(i)});
+        markWinner(*m_folder, award, ids.at(i));
     ConsoleWindow console;
     auto *progressLabel = child<QLabel>(console, "progressLabel");
     QCOMPARE(progressLabel->text(), progress);
@@ -255,14 +246,12 @@ void TestConsole::login_data() {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("message");
     QTest::addColumn<bool>("accepted");
-    QTest::newRow("empty") << "   "
-                           << "请输入密码!" << false;
-    QTest::newRow("wrong") << "123456"
-                           << "密码错误" << false;
-    QTest::newRow("right") << "628413"
-                           << "" << true;
-    QTest::newRow("right with blanks") << " 628413 "
-                                       << "" << true;
+    const auto row = [](const char *tag, const char *typed, const char *message, bool accepted) {
+        QTest::newRow(tag) << typed << message << accepted;
+    };
+    row("empty", "   ", "请输入密码!", false);
+    row("wrong", "123456", "密码错误", false);
+    row("right with blanks", " 628413 ", "", true);
 }
 
 void TestConsole::login() {
@@ -400,9 +389,7 @@ void TestConsole::consoleImportEndsInTheRosterManager() {
 void TestConsole::progressFollowsTheRoster() {
     const QList<int> ids = m_folder->addUsers({QStringLiteral("张三"), QStringLiteral("李四")});
     const int award = m_folder->addAward(QStringLiteral("一等奖"), 4, 1);
-    store::exec(m_folder->db(),
-                QStringLiteral("UPDATE UserList SET JxID=?, UserStatus=3 WHERE ID=?"),
-                {store::awardMarker(award), ids[0]});
+    markWinner(*m_folder, award, ids[0]);
     ConsoleWindow console;
     auto *progressLabel = child<QLabel>(console, "progressLabel");
     QCOMPARE(progressLabel->text(), QStringLiteral("25%"));

@@ -71,14 +71,13 @@ void TestDesignerDocument::objectOfEachKind_data() {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QString>("command");
     QTest::addColumn<bool>("sized");  // text objects keep no size
-    QTest::newRow("text") << "txt"
-                          << "vbAddTxt" << false;
-    QTest::newRow("scrolling text") << "scr"
-                                    << "vbAddStxt" << true;
-    QTest::newRow("picture") << "img"
-                             << "vbAddImg" << true;
-    QTest::newRow("animation") << "swf"
-                               << "vbAddSwf" << true;
+    const auto row = [](const char *kind, const char *command, bool sized) {
+        QTest::newRow(kind) << kind << command << sized;
+    };
+    row("txt", "vbAddTxt", false);
+    row("scr", "vbAddStxt", true);
+    row("img", "vbAddImg", true);
+    row("swf", "vbAddSwf", true);
 }
 
 // Add, move and resize, hide, re-layer and delete, each checked against the stored row.
@@ -176,16 +175,13 @@ void TestDesignerDocument::pictureDeletedOnlyWhenNoRowNamesIt() {
 void TestDesignerDocument::colourKeepsSixDigits_data() {
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("written");
-    QTest::newRow("red") << "0xFF0000"
-                         << "0xFF0000";
-    QTest::newRow("blue") << "0x0000FF"
-                          << "0x0000FF";
-    QTest::newRow("short") << "0xFF"
-                           << "0x0000FF";
-    QTest::newRow("lower case") << "0xfac996"
-                                << "0xFAC996";
-    QTest::newRow("unreadable") << "red"
-                                << "0x000000";
+    const auto row = [](const char *tag, const char *stored, const char *written) {
+        QTest::newRow(tag) << stored << written;
+    };
+    row("leading zeros", "0x0000FF", "0x0000FF");
+    row("short", "0xFF", "0x0000FF");
+    row("lower case", "0xfac996", "0xFAC996");
+    row("unreadable", "red", "0x000000");
 }
 
 void TestDesignerDocument::colourKeepsSixDigits() {

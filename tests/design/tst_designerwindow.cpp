@@ -18,6 +18,7 @@
 #include "draw/livescreen.h"
 #include "stage/protocol.h"
 #include "support/childwidget.h"
+#include "support/moviecall.h"
 #include "support/recordingstage.h"
 
 namespace {
@@ -66,10 +67,7 @@ struct LiveDesigner {
     QmlStage &stage() { return static_cast<QmlStage &>(window->stage()); }
     QVariantMap info(const QString &name) {
         if (!window || !stage().root()) return {};
-        QVariant result;
-        QMetaObject::invokeMethod(stage().root(), "objectInfo", Q_RETURN_ARG(QVariant, result),
-                                  Q_ARG(QVariant, name));
-        return result.toMap();
+        return callMovie(stage().root(), "objectInfo", name).toMap();
     }
     void drag(QPoint from, QPoint to, const std::function<void()> &whileHeld = {}) {
         QWindow *surface = stage().quickWindow();
@@ -212,18 +210,13 @@ void TestDesignerWindow::restyleReachesTheDrawStage() {
 
     appState().skinConnStr = templateFile(d.live.folder);
     QVERIFY(d.live.open());
-    QmlStage *draw = d.live.stage();
-    QVariant names;
-    QMetaObject::invokeMethod(draw->root(), "objectNames", Q_RETURN_ARG(QVariant, names));
-    QVERIFY(names.toStringList().contains(logo));
-    QVariant text;
-    QMetaObject::invokeMethod(draw->root(), "objectText", Q_RETURN_ARG(QVariant, text),
-                              Q_ARG(QVariant, design::sysobj::txt_jxname));
-    QVERIFY(text.toString().startsWith(QStringLiteral("本轮：")));
-    QVariant area;
-    QMetaObject::invokeMethod(draw->root(), "objectInfo", Q_RETURN_ARG(QVariant, area),
-                              Q_ARG(QVariant, design::sysobj::ssm_vornex));
-    QCOMPARE(area.toMap().value("x").toInt(), 400);
+    QObject *draw = d.live.stage()->root();
+    QVERIFY(callMovie(draw, "objectNames").toStringList().contains(logo));
+    QVERIFY(callMovie(draw, "objectText", design::sysobj::txt_jxname)
+                .toString()
+                .startsWith(QStringLiteral("本轮：")));
+    QCOMPARE(callMovie(draw, "objectInfo", design::sysobj::ssm_vornex).toMap().value("x").toInt(),
+             400);
 }
 
 void TestDesignerWindow::panelsReachThePreviewsAndTheFontPick() {

@@ -128,7 +128,6 @@ ObjRow boxRow() {
 
 ObjRow rowOf(const QString &kind) {
     if (kind == QLatin1String("txt")) return textRow();
-    if (kind == QLatin1String("zbt")) return textRow(QStringLiteral("txt_zbt"));
     if (kind == QLatin1String("fbt")) return textRow(QStringLiteral("txt_fbt"));
     if (kind == QLatin1String("scr")) return scrollRow();
     if (kind == QLatin1String("img")) return imageRow();
@@ -180,26 +179,16 @@ void TestPayloads::objectPayloads_data() {
         "true");
     QTest::newRow("txt console: 17 fields")
         << "txt" << Reader::Console << load << true << proto::vbAddTxt << txt;
-    QTest::newRow("main title in the console")
-        << "zbt" << Reader::Console << load << true << proto::vbAddTxt
-        << "false|txt_zbt|3|12.5|40|90|0x112233|30|2|box|2026年度盛典|黑体|0xFF0000|24|true|"
-           "false|true";
     QTest::newRow("subtitle in the designer")
         << "fbt" << Reader::Designer << load << true << proto::vbAddTxt
         << "false|txt_fbt|3|12.5|40|90|0x112233|30|2|box|幸运大抽奖|黑体|0xFF0000|24|true|false|"
            "true|1.5|center|1";
-    QTest::newRow("main title on the draw screen")
-        << "zbt" << Reader::Draw << load << true << proto::vbAddTxt
-        << "false|txt_zbt|3|12.5|40|90|0x112233|30|2|box|2026年度盛典|黑体|0xFF0000|24|true|"
-           "false|true|1.5|center|1";
 
     const QString scr = QStringLiteral(
         "false|scr_luckls|3|2|12.5|40|280|20|0x112233|30|box|2|欢迎|90|黑体|0xFF0000|24|true|"
         "false|true|4");
     QTest::newRow("scr console: 21 fields")
         << "scr" << Reader::Console << load << true << proto::vbAddStxt << scr;
-    QTest::newRow("scr designer: 22 fields")
-        << "scr" << Reader::Designer << load << true << proto::vbAddStxt << scr + "|1";
     QTest::newRow("scr draw: 22 fields")
         << "scr" << Reader::Draw << load << true << proto::vbAddStxt << scr + "|1";
 
@@ -221,9 +210,6 @@ void TestPayloads::objectPayloads_data() {
         << "swf" << Reader::Console << load << true << QString() << QString();
     QTest::newRow("swf designer") << "swf" << Reader::Designer << load << true << proto::vbAddSwf
                                   << swf + "200|150|" + kAnimation;
-    QTest::newRow("swf draw, file gone")
-        << "swf" << Reader::Draw << load << false << proto::vbAddSwf
-        << swf + "128|128|/opt/q/skin/Src/block.png";
 
     const QString box = QStringLiteral("ssm_vornex|360|168|616|500|7");
     const QString font = QStringLiteral("|黑体|0xB0171F|30|true|false|false");
@@ -288,8 +274,6 @@ void TestPayloads::pageValues() {
     bg.BgH = 768;
     bg.BgColor = QStringLiteral("0x9E1B22");
     QCOMPARE(backgroundColorPayload(bg, context(Reader::Designer)),
-             QStringLiteral("1024|768|0x9E1B22"));
-    QCOMPARE(backgroundColorPayload(bg, context(Reader::Console)),
              QStringLiteral("1024|768|0x9E1B22"));
     QCOMPARE(backgroundColorPayload(bg, context(Reader::Draw)),
              QStringLiteral("1024|768|0x9E1B22|10"));

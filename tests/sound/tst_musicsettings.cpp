@@ -5,23 +5,8 @@
 #include "core/profile.h"
 #include "core/settings.h"
 #include "sound/musicsettings.h"
+#include "support/filebytes.h"
 #include "support/tempprogramfolder.h"
-
-namespace {
-
-QString writeFile(const QString &path, const QByteArray &bytes) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) return QString();
-    file.write(bytes);
-    return path;
-}
-
-QByteArray readFile(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-}  // namespace
 
 // Which sound files a save keeps, copies and deletes; the dialog itself is tested on its own.
 class TestMusicSettings : public QObject {

@@ -7,57 +7,37 @@
 #include "core/appstate.h"
 #include "core/profile.h"
 #include "core/settings.h"
-#include "draw/drawmusic.h"
 #include "sound/musicplayer.h"
+#include "sound/musicsettings.h"
 #include "sound/view/musicsettingsdialog.h"
+#include "support/childwidget.h"
 #include "support/fakemediabackend.h"
+#include "support/filebytes.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
 namespace {
 
-// Writes a file with the given bytes, so that tests can tell copies apart.
-QString writeFile(const QString &path, const QByteArray &bytes) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) return QString();
-    file.write(bytes);
-    return path;
-}
-
-QByteArray readFile(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-template <typename T>
-T *child(const QWidget &form, const QString &name) {
-    T *widget = form.findChild<T *>(name);
-    if (!widget) qFatal("no %s", qPrintable(name));
-    return widget;
-}
-
 // The controls of one sound's row, by music::Slot.
 struct Row {
-    Row(const QWidget &form, int slot) {
-        const char *const names[] = {"background", "start", "win", "parade"};
-        const QString name = QLatin1String(names[slot]);
-        enabled = child<QCheckBox>(form, name + QStringLiteral("EnabledBox"));
-        frame = child<QFrame>(form, name + QStringLiteral("Frame"));
-        file = child<QLabel>(form, name + QStringLiteral("FileLabel"));
-        choose = child<QPushButton>(form, name + QStringLiteral("ChooseButton"));
-        listen = child<QPushButton>(form, name + QStringLiteral("ListenButton"));
-        stop = child<QPushButton>(form, name + QStringLiteral("StopButton"));
+    Row(const QWidget &form, int slot) : form(form), slot(slot) {}
+    template <typename T>
+    T *part(const char *name) const {
+        const char *const rows[] = {"background", "start", "win", "parade"};
+        return child<T>(form, QByteArray(rows[slot]).append(name).constData());
     }
-    QCheckBox *enabled;
-    QFrame *frame;
-    QLabel *file;
-    QPushButton *choose;
-    QPushButton *listen;
-    QPushButton *stop;
+    const QWidget &form;
+    const int slot;
+    QCheckBox *const enabled = part<QCheckBox>("EnabledBox");
+    QFrame *const frame = part<QFrame>("Frame");
+    QLabel *const file = part<QLabel>("FileLabel");
+    QPushButton *const choose = part<QPushButton>("ChooseButton");
+    QPushButton *const listen = part<QPushButton>("ListenButton");
+    QPushButton *const stop = part<QPushButton>("StopButton");
 };
 
 void save(const QWidget &form) {
-    child<QPushButton>(form, QStringLiteral("saveButton"))->click();
+    child<QPushButton>(form, "saveButton")->click();
 }
 
 }  // namespace
@@ -74,7 +54,6 @@ private Q_SLOTS:
     void listening();
     void saving_data();
     void saving();
-    void drawScreenReadsTheSameKeys();
 
 private:
     QString music(const QString &name) const { return m_folder->path("Music/" + name); }
@@ -200,40 +179,41 @@ void TestMusicSettingsDialog::listening() {
 }
 
 void TestMusicSettingsDialog::saving_data() {
-    QTest::addColumn<QString>("stored");  // the background file before
+    QTest::addColumn<QString>("row");     // as the keys of config.ini name it
+    QTest::addColumn<QString>("stored");  // the row's file before
     QTest::addColumn<QString>("chosen");  // a file outside, or empty for no new choice
     QTest::addColumn<QString>("expectedKey");
     QTest::addColumn<QByteArray>("expectedBytes");  // of Music/<expectedKey>
     QTest::addColumn<bool>("oldFileKept");
-    QTest::newRow("a new file replaces the old one") << "old.mp3"
-                                                     << "new.mp3"
-                                                     << "new.mp3" << QByteArray("new") << false;
-    QTest::newRow("unchanged row copies nothing") << "old.mp3"
-                                                  << ""
-                                                  << "old.mp3" << QByteArray("old") << true;
-    QTest::newRow("same name from elsewhere is copied, not deleted")
-        << "old.mp3"
-        << "old.mp3"
-        << "old.mp3" << QByteArray("new") << true;
-    QTest::newRow("first choice") << "no"
-                                  << "new.mp3"
-                                  << "new.mp3" << QByteArray("new") << false;
+    const auto row = [](const char *tag, const char *slot, const char *stored, const char *chosen,
+                        const char *key, const char *bytes, bool oldKept) {
+        QTest::newRow(tag) << slot << stored << chosen << key << QByteArray(bytes) << oldKept;
+    };
+    const char *const background = "Bg", *const start = "Start";
+    row("new file replaces the old", background, "old.mp3", "new.mp3", "new.mp3", "new", false);
+    row("unchanged row copies nothing", background, "old.mp3", "", "old.mp3", "old", true);
+    row("same name from elsewhere", background, "old.mp3", "old.mp3", "old.mp3", "new", true);
+    row("second row replaces its file", start, "old.mp3", "new.mp3", "new.mp3", "new", false);
+    row("first choice", background, "no", "new.mp3", "new.mp3", "new", false);
 }
 
 void TestMusicSettingsDialog::saving() {
+    QFETCH(QString, row);
+    const int slot = row == QLatin1String("Bg") ? music::Background : music::Start;
     QFETCH(QString, stored);
     QFETCH(QString, chosen);
     QFETCH(QString, expectedKey);
     QFETCH(QByteArray, expectedBytes);
     QFETCH(bool, oldFileKept);
     if (stored != "no") writeFile(music(stored), "old");
-    store(music::Background, stored, true);
+    store(music::Background, "no", true);
     store(music::Start, "no", true);
     store(music::Play, "no", true);
+    store(slot, stored, true);
     MusicSettingsDialog form;
     if (!chosen.isEmpty()) {
         m_ui->files.enqueue(writeFile(outside(chosen), "new"));
-        Row(form, music::Background).choose->click();
+        Row(form, slot).choose->click();
     }
     Row(form, music::Play).enabled->click();  // switched off; only the flag changes
     save(form);
@@ -241,28 +221,14 @@ void TestMusicSettingsDialog::saving() {
     QCOMPARE(m_ui->last().text, QStringLiteral("音乐设置保存成功!"));
     QCOMPARE(m_ui->last().title, QStringLiteral("提示"));
     QCOMPARE(form.result(), int(QDialog::Accepted));
-    QCOMPARE(key("BgMusicFile"), expectedKey);
+    QCOMPARE(key(qPrintable(row + "MusicFile")), expectedKey);
     QCOMPARE(readFile(music(expectedKey)), expectedBytes);
     if (stored != "no" && stored != expectedKey)
         QCOMPARE(QFile::exists(music(stored)), oldFileKept);
-    QCOMPARE(key("isBgMusic"), QStringLiteral("1"));
+    QCOMPARE(key(qPrintable("is" + row + "Music")), QStringLiteral("1"));
     QCOMPARE(key("isPlayMusic"), QStringLiteral("0"));
     QCOMPARE(key("PlayMusicFile"), QStringLiteral("no"));
     QVERIFY(!QFile::exists(music(expectedKey + ".part")));
-}
-
-void TestMusicSettingsDialog::drawScreenReadsTheSameKeys() {
-    store(music::Background, "no", true);
-    store(music::Luck, "no", true);
-    MusicSettingsDialog form;
-    m_ui->files.enqueue(writeFile(outside("party.mp3"), "party"));
-    Row(form, music::Background).choose->click();
-    save(form);
-    const music::Settings read = music::readSettings(appState().appPath);
-    QVERIFY(read[music::Background].on && read[music::Luck].on);
-    QCOMPARE(read[music::Background].path, music("party.mp3"));
-    // No win sound of one's own: the program's chime.
-    QCOMPARE(draw::winSoundPath(read, appState().appPath), appState().path("sys/win.wav"));
 }
 
 QTEST_MAIN(TestMusicSettingsDialog)

@@ -3,10 +3,8 @@
 // A QML movie on a QmlStage, offscreen, with every command it raises written down, and the
 // payloads of the 16:9 factory template as the draw screen sends them.
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QImage>
-#include <QPainter>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTemporaryDir>
@@ -17,6 +15,7 @@
 #include "core/fonts.h"
 #include "stage/protocol.h"
 #include "stage/view/qmlstage.h"
+#include "support/moviecall.h"
 #include "support/stageclick.h"
 #include "support/testpaths.h"
 
@@ -70,15 +69,11 @@ public:
     }
 
     QVariant call(const char *function, const QVariant &arg = QVariant()) {
-        QVariant result;
-        if (arg.isValid())
-            QMetaObject::invokeMethod(stage.root(), function, Q_RETURN_ARG(QVariant, result),
-                                      Q_ARG(QVariant, arg));
-        else
-            QMetaObject::invokeMethod(stage.root(), function, Q_RETURN_ARG(QVariant, result));
-        return result;
+        return callMovie(stage.root(), function, arg);
     }
     QStringList callList(const char *function) { return call(function).toStringList(); }
+    QVariantMap info(const QString &object) { return call("objectInfo", object).toMap(); }
+    QString text(const QString &object) { return call("objectText", object).toString(); }
 
     // Clicks an on-stage item the way the operator would.
     bool click(const QString &objectName) {
@@ -94,41 +89,21 @@ public:
         QCoreApplication::processEvents();
     }
 
-    bool save(const QString &name) {
-        QTest::qWait(60);
-        const QImage image = stage.grab();
-        const QString dir = qEnvironmentVariable("QUELLIO_SCREENSHOT_DIR");
-        if (dir.isEmpty()) return !image.isNull();
-        QDir().mkpath(dir);
-        return image.save(dir + QLatin1Char('/') + name);
-    }
-
     // --- the draw screen's side, as literal payloads of the 16:9 factory template ----------
 
     static QString textObject(const QString &name, int depth, int x, int y, const QString &text,
                               int size, const QString &colour, const QString &align,
                               bool bold = true, int shadow = 1) {
-        return QStringList{proto::falseText,
-                           name,
-                           QString::number(depth),
-                           QString::number(x),
-                           QString::number(y),
-                           QStringLiteral("100"),
-                           QStringLiteral("0x000000"),
-                           QStringLiteral("0"),
-                           QStringLiteral("0"),
-                           QStringLiteral("box"),
-                           text,
-                           QStringLiteral("黑体"),
-                           colour,
-                           QString::number(size),
-                           bold ? proto::trueText : proto::falseText,
-                           proto::falseText,
-                           proto::falseText,
-                           QStringLiteral("0"),
-                           align,
-                           QString::number(shadow)}
-            .join(proto::kSep);
+        return QStringLiteral(
+                   "false|%1|%2|%3|%4|100|0x000000|0|0|box|%5|黑体|%6|%7|%8|false|false|0|%9|%10")
+            .arg(name)
+            .arg(depth)
+            .arg(x)
+            .arg(y)
+            .arg(text, colour)
+            .arg(size)
+            .arg(bold ? proto::trueText : proto::falseText, align)
+            .arg(shadow);
     }
 
     // The reply to asok: background, keys, objects, award, as DrawWindow sends them.
@@ -219,78 +194,26 @@ public:
     }
 };
 
-// Sample roster names, some long, one with the protected bar.
+// Sample roster names, one long.
 inline QStringList sampleNames() {
-    return {QStringLiteral("张伟"),   QStringLiteral("王芳"),     QStringLiteral("李娜"),
-            QStringLiteral("刘洋"),   QStringLiteral("陈静"),     QStringLiteral("杨帆"),
-            QStringLiteral("赵磊"),   QStringLiteral("黄晓明"),   QStringLiteral("周杰"),
-            QStringLiteral("吴昊"),   QStringLiteral("徐丽"),     QStringLiteral("孙悦"),
-            QStringLiteral("马超"),   QStringLiteral("朱琳"),     QStringLiteral("胡军"),
-            QStringLiteral("郭敏"),   QStringLiteral("何欣"),     QStringLiteral("高远"),
-            QStringLiteral("林峰"),   QStringLiteral("欧阳明月"), QStringLiteral("罗晨"),
-            QStringLiteral("梁静"),   QStringLiteral("宋佳"),     QStringLiteral("郑爽"),
-            QStringLiteral("谢娜"),   QStringLiteral("韩雪"),     QStringLiteral("唐嫣"),
-            QStringLiteral("冯绍峰"), QStringLiteral("于和伟"),   QStringLiteral("董洁")};
+    return QStringLiteral(
+               "张伟 王芳 李娜 刘洋 陈静 杨帆 赵磊 黄晓明 周杰 吴昊 徐丽 孙悦 马超 朱琳 "
+               "胡军 郭敏 何欣 高远 林峰 欧阳明月 罗晨 梁静 宋佳 郑爽 谢娜")
+        .split(QLatin1Char(' '));
 }
 
-// Portraits for the picture modes: a warm backdrop, a head and shoulders in a colour of their
-// own, written as JPEG files `u<ID>.jpg` into dir. Returns the loadAllUserPics value.
-inline QString makePortraits(const QString &dir, const QList<int> &ids, QSize size = {480, 600}) {
+// Plain portraits `u<ID>.jpg` of a colour each, written into dir; returns the loadAllUserPics
+// value.
+inline QString makePortraits(const QString &dir, const QList<int> &ids, QSize size = {48, 60}) {
     QStringList value{dir + QLatin1Char('/')};
     for (int id : ids) {
         QImage image(size, QImage::Format_RGB32);
-        QPainter p(&image);
-        p.setRenderHint(QPainter::Antialiasing);
-        const QColor tone = QColor::fromHsv((id * 47) % 360, 90, 230);
-        QLinearGradient back(0, 0, 0, size.height());
-        back.setColorAt(0, tone.lighter(120));
-        back.setColorAt(1, tone.darker(160));
-        p.fillRect(image.rect(), back);
-        p.setPen(Qt::NoPen);
-        p.setBrush(QColor::fromHsv((id * 47 + 180) % 360, 120, 120));
-        p.drawEllipse(QRectF(size.width() * 0.1, size.height() * 0.62, size.width() * 0.8,
-                             size.height() * 0.7));
-        p.setBrush(QColor(246, 214, 186));
-        p.drawEllipse(QRectF(size.width() * 0.3, size.height() * 0.2, size.width() * 0.4,
-                             size.height() * 0.4));
-        p.setBrush(QColor(40, 28, 24));
-        p.drawChord(QRectF(size.width() * 0.28, size.height() * 0.16, size.width() * 0.44,
-                           size.height() * 0.3),
-                    0, 180 * 16);
-        p.end();
+        image.fill(QColor::fromHsv((id * 47) % 360, 90, 230));
         const QString name = QStringLiteral("u%1.jpg").arg(id);
-        image.save(dir + QLatin1Char('/') + name, "JPG", 90);
+        image.save(dir + QLatin1Char('/') + name, "JPG");
         value << name + proto::kItemSep + QString::number(id);
     }
     return value.join(proto::kSep);
-}
-
-// A prize picture on a transparent ground: a red gift box with a gold ribbon.
-inline QString makePrizePicture(const QString &dir) {
-    QImage image(840, 630, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter p(&image);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setPen(Qt::NoPen);
-    QLinearGradient box(0, 220, 0, 620);
-    box.setColorAt(0, QColor(214, 40, 52));
-    box.setColorAt(1, QColor(120, 8, 20));
-    p.setBrush(box);
-    p.drawRoundedRect(QRectF(230, 250, 380, 360), 18, 18);
-    p.setBrush(QColor(232, 56, 66));
-    p.drawRoundedRect(QRectF(200, 190, 440, 90), 16, 16);
-    QLinearGradient gold(0, 0, 840, 0);
-    gold.setColorAt(0, QColor(232, 177, 80));
-    gold.setColorAt(0.5, QColor(255, 230, 150));
-    gold.setColorAt(1, QColor(200, 140, 50));
-    p.setBrush(gold);
-    p.drawRect(QRectF(390, 190, 60, 420));
-    p.drawEllipse(QRectF(300, 90, 130, 110));
-    p.drawEllipse(QRectF(410, 90, 130, 110));
-    p.end();
-    const QString path = dir + QStringLiteral("/prize.png");
-    image.save(path);
-    return path;
 }
 
 // A playback value: the 34 style fields of the factory 16:9 template (with the speed given),

@@ -58,7 +58,7 @@ void TestStageControls::everyButtonReportsItsName() {
     rig.send(proto::changBtn, state);
     // After a stop the bar comes back only once the winners have landed.
     if (state == proto::buttons::stop) QVERIFY(rig.waitFor(proto::cmd::stoplucksub));
-    QTest::qWait(50);
+    QTRY_VERIFY(findStageItem(rig.stage.root(), buttons.first()));
     for (const QString &name : buttons) {
         const int before = rig.count(proto::cmd::btnclick);
         QVERIFY2(rig.click(name), qPrintable(name + " not on show"));
@@ -155,6 +155,15 @@ bool barAwake(StageRig &rig) {
     return rig.stage.root()->property("barAwake").toBool();
 }
 
+// The movie's one-shot timer that puts the bar to rest, known by its interval.
+QObject *restTimer(StageRig &rig, int interval) {
+    for (QObject *object : rig.stage.root()->findChildren<QObject *>())
+        if (object->property("interval").toInt() == interval &&
+            object->property("repeat").isValid())
+            return object;
+    return nullptr;
+}
+
 }  // namespace
 
 void TestStageControls::barStaysUnderThePointerAndTakesClicksWhenFaded() {
@@ -164,10 +173,13 @@ void TestStageControls::barStaysUnderThePointerAndTakesClicksWhenFaded() {
     const QPoint start = buttonCentre(rig, proto::btn::btnStart);
     QVERIFY(!start.isNull());
     rig.stage.root()->setProperty("restMs", 150);
+    QObject *rest = restTimer(rig, 150);
+    QVERIFY(rest);
     QTest::mouseMove(window, start - QPoint(30, 0));
     QTest::mouseMove(window, start);
-    // Nothing to await: the bar must still be there well after its rest time.
-    QTest::qWait(700);
+    // The rest time passes with the pointer on the bar: it stays.
+    QVERIFY(rest->property("running").toBool());
+    QTRY_VERIFY(!rest->property("running").toBool());
     QVERIFY(barAwake(rig));
     QTest::mouseMove(window, QPoint(400, 300));
     QTest::mouseMove(window, QPoint(404, 303));
@@ -229,7 +241,6 @@ void TestStageControls::pictureModeShowsEachParticipantsPhoto() {
     const QStringList shown = rig.callList("cellPhotos");
     for (int i = 0; i < winners.size(); ++i)
         QVERIFY2(shown[i].endsWith(QStringLiteral("/u%1.jpg").arg(i + 1)), qPrintable(shown[i]));
-    QVERIFY(rig.save(QStringLiteral("stage-landed-photos.png")));
 }
 
 void TestStageControls::paradeOfThreeAwards() {
@@ -259,15 +270,14 @@ void TestStageControls::paradePausesAndCanBeCancelled() {
     rig.send(proto::changBtn, proto::buttons::luckplay);
     rig.send(proto::vbLuckPlay,
              paradeValue(QStringLiteral("一等奖  奖品∶笔记本电脑"), 1, sampleNames(), 5));
-    QTest::qWait(3600);  // past the hold, into the scroll
-    QVERIFY(rig.save(QStringLiteral("stage-parade.png")));
+    const double top = rig.call("paradeOffset").toDouble();
+    QTRY_VERIFY_WITH_TIMEOUT(rig.call("paradeOffset").toDouble() < top, 6000);
     rig.send(proto::vbStartScroll, proto::no);
     const double y = rig.call("paradeOffset").toDouble();
     QTest::qWait(400);
     QCOMPARE(rig.call("paradeOffset").toDouble(), y);
     rig.send(proto::vbStartScroll, proto::yes);
-    QTest::qWait(400);
-    QVERIFY(rig.call("paradeOffset").toDouble() < y);
+    QTRY_VERIFY(rig.call("paradeOffset").toDouble() < y);
     QCOMPARE(rig.count(proto::cmd::luckplaystop), 0);
     // The playback key in playback sends vbCallPlay "no": the parade ends at once.
     rig.send(proto::vbCallPlay, proto::no);

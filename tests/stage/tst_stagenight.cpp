@@ -9,6 +9,7 @@
 #include "draw/livescreen.h"
 #include "stage/protocol.h"
 #include "stage/stagescreens.h"
+#include "support/moviecall.h"
 
 class TestStageNight : public QObject {
     Q_OBJECT
@@ -27,10 +28,7 @@ private Q_SLOTS:
 namespace {
 
 QString objectText(LiveScreen &s, const QString &name) {
-    QVariant text;
-    QMetaObject::invokeMethod(s.stage()->root(), "objectText", Q_RETURN_ARG(QVariant, text),
-                              Q_ARG(QVariant, name));
-    return text.toString();
+    return callMovie(s.stage()->root(), "objectText", name).toString();
 }
 
 QScreen *screenNamed(const QString &name) {
@@ -123,10 +121,8 @@ void TestStageNight::windowModeIsARealWindowThatKeepsTheKeyboard() {
     const QRect hall = s.form->screen()->geometry();
     QTRY_VERIFY(s.form->width() < hall.width() && s.form->height() < hall.height());
     // The picture fills the window: the same scale both ways, no strip.
-    QVariant scale;
     QTRY_VERIFY([&] {
-        QMetaObject::invokeMethod(s.stage()->root(), "stageScale", Q_RETURN_ARG(QVariant, scale));
-        const QVariantList xy = scale.toList();
+        const QVariantList xy = callMovie(s.stage()->root(), "stageScale").toList();
         return qAbs(xy[0].toDouble() - xy[1].toDouble()) < 0.01 &&
                qAbs(xy[0].toDouble() * appState().bgW - s.form->width()) <= 2;
     }());
