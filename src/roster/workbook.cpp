@@ -526,6 +526,13 @@ bool Workbook::readXlsxSheet(int index, int limit, Sheet *sheet, QString *error,
 // ---- xls ----
 
 bool Workbook::openXls(QString *error) {
+    QFile file(m_path);
+    if (file.size() > kMaxPartBytes || !file.open(QIODevice::ReadOnly) ||
+        !xlsContainerIsSound(file.readAll())) {
+        *error = kUnreadable;
+        return false;
+    }
+    file.close();
     const void *handle = nullptr;
     if (freexl_open(QFile::encodeName(m_path).constData(), &handle) != FREEXL_OK) {
         if (handle) freexl_close(handle);

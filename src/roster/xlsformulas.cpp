@@ -49,6 +49,9 @@ public:
         return readAllocationTable() && readDirectory();
     }
 
+    // A directory entry's name is at most 64 bytes; a longer claim is a damaged file.
+    bool namesFitTheirEntries() const { return m_namesFit; }
+
     // A stream of the root storage by name; empty when there is none.
     QByteArray stream(const QString &name) const {
         for (const Entry &entry : m_entries) {
@@ -97,7 +100,9 @@ private:
         const QByteArray directory = chain(u32(m_file, 0x30), -1);
         for (qint64 at = 0; at + 128 <= directory.size(); at += 128) {
             Entry entry;
-            const int nameBytes = qMin<int>(u16(directory, at + 0x40), 64);
+            const int claimedBytes = u16(directory, at + 0x40);
+            m_namesFit = m_namesFit && claimedBytes <= 64;
+            const int nameBytes = qMin(claimedBytes, 64);
             entry.name = utf16Text(directory, at, qMax(0, nameBytes / 2 - 1));
             entry.type = static_cast<uchar>(directory.at(at + 0x42));
             entry.start = u32(directory, at + 0x74);
@@ -146,6 +151,7 @@ private:
     QList<quint32> m_fat;
     QList<Entry> m_entries;
     Entry m_root;
+    bool m_namesFit = true;
 };
 
 struct Record {
@@ -203,6 +209,11 @@ QString formulaValue(const QByteArray &stream, const Record &formula, bool *text
 }
 
 }  // namespace
+
+bool xlsContainerIsSound(const QByteArray &file) {
+    CompoundFile compound(file);
+    return compound.open() && compound.namesFitTheirEntries();
+}
 
 FormulaResults xlsFormulaResults(const QByteArray &file, const QString &sheetName) {
     CompoundFile compound(file);

@@ -20,6 +20,11 @@ inline quint64 cellKey(quint32 row, quint32 column) {
     return (quint64(row) << 16) | column;
 }
 
+// Whether the file's container holds what it claims where FreeXL trusts it: FreeXL converts each
+// directory entry's name at the length the entry gives, reading past the entry when that is more
+// than the 64 bytes it has room for.
+bool xlsContainerIsSound(const QByteArray &file);
+
 // The cached results of the formulas on the sheet of that name in a BIFF8 file's bytes.
 FormulaResults xlsFormulaResults(const QByteArray &file, const QString &sheetName);
 

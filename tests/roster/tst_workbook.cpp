@@ -152,6 +152,7 @@ void TestWorkbook::unreadableFiles_data() {
     QTest::newRow("text file") << "utf8-lf.txt";
     QTest::newRow("binary") << "binary.txt";
     QTest::newRow("missing") << "nothing-here.xlsx";
+    QTest::newRow("xls directory name past its entry") << "hostile-dirname.xls";
 }
 
 void TestWorkbook::unreadableFiles() {
