@@ -18,12 +18,13 @@ sqlite3 *sqliteHandle(QSqlDatabase db) {
     return *static_cast<sqlite3 *const *>(handle.constData());
 }
 
+// The text is bound in place: it outlives the one step the binding is used for.
 bool bindText(sqlite3_stmt *statement, int column, const QString &text) {
     static const char16_t empty[] = u"";
     const void *characters =
         text.isNull() ? static_cast<const void *>(empty) : static_cast<const void *>(text.utf16());
     return sqlite3_bind_text16(statement, column, characters, static_cast<int>(text.size() * 2),
-                               SQLITE_TRANSIENT) == SQLITE_OK;
+                               SQLITE_STATIC) == SQLITE_OK;
 }
 
 quint64 rowDigest(const QString &name, const QString &part) {
