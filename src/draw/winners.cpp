@@ -28,7 +28,7 @@ QSqlQuery winnersQuery(QSqlDatabase db, const QString &columns, const QString &o
 }  // namespace
 
 QList<AwardWinner> awardWinners(QSqlDatabase db, int awardId) {
-    // The + keeps the planner on the JxID index (the winners) instead of walking the whole
+    // The + keeps the planner on the winners' index instead of walking the whole
     // roster in UpdateTime order.
     QSqlQuery query = winnersQuery(db, QStringLiteral("ID, UserName"),
                                    QStringLiteral(" ORDER BY +UpdateTime DESC, ID ASC"), awardId);
