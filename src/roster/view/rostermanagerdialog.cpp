@@ -158,6 +158,13 @@ QWidget *RosterManagerDialog::buildList() {
     counters->addWidget(m_nextPageButton);
     counters->addWidget(m_setDiffNumButton);
     counters->addWidget(m_exportButton);
+    // The counters grow with the roster; the buttons keep their whole captions and the dialog
+    // widens instead. The style sheet's own minimum would let the layout squeeze them.
+    for (QPushButton *button :
+         {m_previousPageButton, m_nextPageButton, m_setDiffNumButton, m_exportButton}) {
+        button->ensurePolished();
+        button->setMinimumWidth(button->sizeHint().width());
+    }
 
     auto *layout = new QVBoxLayout(panel);
     layout->setContentsMargins(0, 0, 0, 0);
