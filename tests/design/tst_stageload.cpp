@@ -191,9 +191,6 @@ void TestStageLoad::prizePictureHead() {
     QVERIFY(readTemplateFile(folder.path(k43), &data));
     const QString head = QStringLiteral("false|img_jpimgs|6|48|320|280|210|100|true|");
     QCOMPARE(design::prizePictureHead(data), head);
-    RecordingStage stage;
-    QCOMPARE(fullLoad(stage, data, contextFor(Reader::Draw)).prizePictureHead, head);
-    QVERIFY(!stage.lines().join('\n').contains(QLatin1String("img_jpimgs")));
 
     editTemplate(folder.path(k43), {"UPDATE LuckObj SET isVisible=0 WHERE ObjName='img_jpimgs'"});
     QVERIFY(readTemplateFile(folder.path(k43), &data));
