@@ -340,12 +340,7 @@ void TestPayloads::addPayloads() {
 }
 
 void TestPayloads::loadBlock() {
-    LoadBlockValues values;
-    values.sample = QStringLiteral("欧阳|娜娜");
-    values.maxImgWidth = 200;
-    values.maxImgHeight = 180;
-    values.luckType = 2;
-    values.batchCount = 5;
+    LoadBlockValues values{QStringLiteral("欧阳|娜娜"), 200, 180, 2, 5};
     PlayRow block = defaultPlayRow(rows::blockValue);
     block.found = true;
     block.BgType = QStringLiteral("box");
@@ -364,19 +359,9 @@ void TestPayloads::loadBlock() {
 }
 
 void TestPayloads::drawAreaPreview() {
-    DrawAreaPreviewValues values;
-    values.maxImgWidth = 200;
-    values.maxImgHeight = 200;
-    values.previewType = 1;
-    values.cellCount = QStringLiteral("6");
-    values.bgTypeIndex = 1;
-    values.bgColor = QStringLiteral("0x123456");
-    values.bgAlpha = 40;
-    values.dotX = QStringLiteral("5");
-    values.dotY = QString();  // an emptied box sends an empty field
-    values.paddingNum = QStringLiteral("8");
-    values.demoName = QStringLiteral("诸葛孔明");
-    values.demoText = QStringLiteral("  演示数据 ");
+    // Texts as typed: an emptied dot box sends an empty field, the demo text goes trimmed.
+    DrawAreaPreviewValues values{200, 200, 1,  "6", 1,          "0x123456",
+                                 40,  "5", "", "8", "诸葛孔明", "  演示数据 "};
     const QString style = QStringLiteral("黑体|0xFF0000|26|100|true|false|false|center|1");
     QCOMPARE(drawAreaPreviewPayload(defaultPlayRow(rows::blockValue), values),
              style + "|200|200|1|6|round|0x123456|40|5||8|诸葛孔明|演示数据");
@@ -400,21 +385,8 @@ void TestPayloads::playback() {
                        "黑体|0xFF0000|26|100|true|false|false|center|1|"
                        "黑体|0xFF0000|16|100|false|false|false|center|1"));
     // The designer: the panel's values, titleType and playType in fields 4 and 5.
-    PlayPanelValues panel;
-    panel.boxW = 100;
-    panel.boxH = 50;
-    panel.speed = 7;
-    panel.colNum = 3;
-    panel.titleType = 1;
-    panel.nameType = 2;
-    panel.titleBgColor = QStringLiteral("0x111111");
-    panel.titleBgAlpha = 60;
-    panel.titlePadding = QStringLiteral("4");
-    panel.nameBgColor = QStringLiteral("0x222222");
-    panel.nameBgAlpha = 70;
-    panel.namePadding = QStringLiteral("3");
-    panel.nameDotX = QStringLiteral("2");
-    panel.nameDotY = QStringLiteral("1");
+    const PlayPanelValues panel{100, 50,  7,          3,  1,   2,   "0x111111",
+                                60,  "4", "0x222222", 70, "3", "2", "1"};
     QCOMPARE(
         playbackStylePayload(designerPlayback(titleRow(), nameRow(), panel, 1024, 768, 200, 180)),
         "1024|384|7|1|2|200|180|3|0x111111|60|4|0x222222|70|3|2|1|" + titleStyle + "|" + nameStyle);
