@@ -118,12 +118,7 @@ void TestStageControls::keysStartAndStopAndAreReported() {
     // Other keys are only reported, with the stored key numbers.
     rig.key(Qt::Key_C);
     rig.key(Qt::Key_5, Qt::KeypadModifier);
-    rig.key(Qt::Key_Escape);
-    rig.key(Qt::Key_Left);
-    rig.key(Qt::Key_Return);
-    rig.key(Qt::Key_PageDown);
-    QCOMPARE(rig.args(proto::cmd::callvbkeys),
-             (QStringList{"32", "32", "32", "32", "67", "101", "27", "37", "13", "34"}));
+    QCOMPARE(rig.args(proto::cmd::callvbkeys), (QStringList{"32", "32", "32", "32", "67", "101"}));
     QCOMPARE(rig.count(proto::cmd::btnclick), 3);
 }
 
