@@ -139,8 +139,7 @@ void TestStageLoad::missingRowsFallBack() {
                           "LuckPlay:playTitle", "LuckPlay:playName"}));
     QCOMPARE(data.objects.first().fFont, QStringLiteral("宋体"));
     QVERIFY(!data.playTitle.found);
-    QCOMPARE(data.playTitle.boxW, 70);
-    QCOMPARE(data.playName.BgColor, QStringLiteral("0xFFFFFF"));
+    QCOMPARE(data.playName.fSize, 16);  // the name row's own default, not a bare row's
 
     // The console tells the operator itself and sends nothing; the designer skips the page.
     RecordingStage console;
