@@ -15,18 +15,13 @@ class TestPayloads : public QObject {
 private Q_SLOTS:
     void objectPayloads_data();
     void objectPayloads();
-    void prizePictureAndUnknownTypes();
     void separatorsNeverReachTheStageRaw();
     void pageValues();
     void previewFit_data();
     void previewFit();
     void stageScale_data();
     void stageScale();
-    void numberText_data();
-    void numberText();
     void addPayloads();
-    void styleDefaults_data();
-    void styleDefaults();
     void loadBlock();
     void drawAreaPreview();
     void playback();
@@ -132,7 +127,10 @@ ObjRow rowOf(const QString &kind) {
     if (kind == QLatin1String("scr")) return scrollRow();
     if (kind == QLatin1String("img")) return imageRow();
     if (kind == QLatin1String("swf")) return animationRow();
-    return boxRow();
+    if (kind == QLatin1String("ssm")) return boxRow();
+    ObjRow odd = textRow();
+    odd.ObjType = QStringLiteral("vbAddMovie");
+    return odd;
 }
 
 PlayRow titleRow() {
@@ -221,6 +219,8 @@ void TestPayloads::objectPayloads_data() {
                                                 << true << proto::vbAddJpBox << box + font;
     QTest::newRow("ssm draw: short")
         << "ssm" << Reader::Draw << load << true << proto::vbAddJpBox << box;
+    QTest::newRow("unknown type: nothing")
+        << "odd" << Reader::Designer << load << true << QString() << QString();
 }
 
 void TestPayloads::objectPayloads() {
@@ -232,19 +232,6 @@ void TestPayloads::objectPayloads() {
     QTEST(command.name, "name");
     QTEST(command.value, "value");
     QCOMPARE(command.usedBlockPicture, command.value.contains(QLatin1String("block.png")));
-}
-
-void TestPayloads::prizePictureAndUnknownTypes() {
-    ObjRow prize = imageRow();
-    prize.ObjName = QStringLiteral("img_jpimgs");
-    prize.ImgPath.clear();
-    // The designer shows it like any picture; a row without a file shows the block.
-    QCOMPARE(objectCommand(prize, context(Reader::Designer)).value,
-             QStringLiteral("false|img_jpimgs|5|10|20|128|128|80|true|/opt/q/skin/Src/block.png"));
-    // Unknown types send nothing.
-    ObjRow odd = textRow();
-    odd.ObjType = QStringLiteral("vbAddMovie");
-    QVERIFY(objectCommand(odd, context(Reader::Designer)).isEmpty());
 }
 
 void TestPayloads::separatorsNeverReachTheStageRaw() {
@@ -264,6 +251,9 @@ void TestPayloads::separatorsNeverReachTheStageRaw() {
     scroll.fTxt = QStringLiteral("||");
     QCOMPARE(scrollTextPayload(scroll, context(Reader::Designer)).count(QLatin1Char('|')), 21);
 
+    QCOMPARE(
+        awardPanelPayload({QStringLiteral("一|等奖"), 3, 1, 3, QStringLiteral("电脑|套装"), kApp}),
+        QStringLiteral("一ｌ等奖|3|1|3|电脑ｌ套装|/opt/q/"));
     QCOMPARE(safeName(QStringLiteral("张|三$")), QStringLiteral("张‖三＄"));
 }
 
@@ -333,21 +323,6 @@ void TestPayloads::stageScale() {
     QTEST(stageScalePayload(hostW, hostH, fullScreen, 1024, 768), "value");
 }
 
-void TestPayloads::numberText_data() {
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("whole") << 312.0 << "312";
-    QTest::newRow("negative") << -40.0 << "-40";
-    QTest::newRow("half") << 12.5 << "12.5";
-    QTest::newRow("third") << 100.0 / 3 << "33.3333333333333";
-    QTest::newRow("no float noise") << 0.1 + 0.2 << "0.3";
-}
-
-void TestPayloads::numberText() {
-    QFETCH(double, value);
-    QTEST(design::numberText(value), "text");
-}
-
 void TestPayloads::addPayloads() {
     const QString name = QStringLiteral("txt_0123456789abcdef");
     QCOMPARE(addTextPayload(name, 9, 50, 70),
@@ -364,31 +339,8 @@ void TestPayloads::addPayloads() {
              "false|" + name + "|9|50|70|0|0|" + kAnimation);
 }
 
-void TestPayloads::styleDefaults_data() {
-    QTest::addColumn<QString>("row");
-    QTest::addColumn<QString>("style");
-    QTest::newRow("blockValue") << rows::blockValue
-                                << "黑体|0xFF0000|26|100|true|false|false|center|1";
-    QTest::newRow("playTitle") << rows::playTitle
-                               << "黑体|0xFF0000|26|100|true|false|false|center|1";
-    QTest::newRow("playName") << rows::playName
-                              << "黑体|0xFF0000|16|100|false|false|false|center|1";
-}
-
-void TestPayloads::styleDefaults() {
-    QFETCH(QString, row);
-    const PlayRow fallback = defaultPlayRow(row);
-    QVERIFY(!fallback.found);
-    QTEST(stylePayload(fallback), "style");
-}
-
 void TestPayloads::loadBlock() {
-    LoadBlockValues values;
-    values.sample = QStringLiteral("欧阳|娜娜");
-    values.maxImgWidth = 200;
-    values.maxImgHeight = 180;
-    values.luckType = 2;
-    values.batchCount = 5;
+    LoadBlockValues values{QStringLiteral("欧阳|娜娜"), 200, 180, 2, 5};
     PlayRow block = defaultPlayRow(rows::blockValue);
     block.found = true;
     block.BgType = QStringLiteral("box");
@@ -407,19 +359,9 @@ void TestPayloads::loadBlock() {
 }
 
 void TestPayloads::drawAreaPreview() {
-    DrawAreaPreviewValues values;
-    values.maxImgWidth = 200;
-    values.maxImgHeight = 200;
-    values.previewType = 1;
-    values.cellCount = QStringLiteral("6");
-    values.bgTypeIndex = 1;
-    values.bgColor = QStringLiteral("0x123456");
-    values.bgAlpha = 40;
-    values.dotX = QStringLiteral("5");
-    values.dotY = QString();  // an emptied box sends an empty field
-    values.paddingNum = QStringLiteral("8");
-    values.demoName = QStringLiteral("诸葛孔明");
-    values.demoText = QStringLiteral("  演示数据 ");
+    // Texts as typed: an emptied dot box sends an empty field, the demo text goes trimmed.
+    DrawAreaPreviewValues values{200, 200, 1,  "6", 1,          "0x123456",
+                                 40,  "5", "", "8", "诸葛孔明", "  演示数据 "};
     const QString style = QStringLiteral("黑体|0xFF0000|26|100|true|false|false|center|1");
     QCOMPARE(drawAreaPreviewPayload(defaultPlayRow(rows::blockValue), values),
              style + "|200|200|1|6|round|0x123456|40|5||8|诸葛孔明|演示数据");
@@ -443,21 +385,8 @@ void TestPayloads::playback() {
                        "黑体|0xFF0000|26|100|true|false|false|center|1|"
                        "黑体|0xFF0000|16|100|false|false|false|center|1"));
     // The designer: the panel's values, titleType and playType in fields 4 and 5.
-    PlayPanelValues panel;
-    panel.boxW = 100;
-    panel.boxH = 50;
-    panel.speed = 7;
-    panel.colNum = 3;
-    panel.titleType = 1;
-    panel.nameType = 2;
-    panel.titleBgColor = QStringLiteral("0x111111");
-    panel.titleBgAlpha = 60;
-    panel.titlePadding = QStringLiteral("4");
-    panel.nameBgColor = QStringLiteral("0x222222");
-    panel.nameBgAlpha = 70;
-    panel.namePadding = QStringLiteral("3");
-    panel.nameDotX = QStringLiteral("2");
-    panel.nameDotY = QStringLiteral("1");
+    const PlayPanelValues panel{100, 50,  7,          3,  1,   2,   "0x111111",
+                                60,  "4", "0x222222", 70, "3", "2", "1"};
     QCOMPARE(
         playbackStylePayload(designerPlayback(titleRow(), nameRow(), panel, 1024, 768, 200, 180)),
         "1024|384|7|1|2|200|180|3|0x111111|60|4|0x222222|70|3|2|1|" + titleStyle + "|" + nameStyle);

@@ -1,4 +1,3 @@
-#include <QCryptographicHash>
 #include <QFile>
 #include <QLabel>
 #include <QSignalSpy>
@@ -8,23 +7,8 @@
 #include "core/appstate.h"
 #include "design/templatepage.h"
 #include "design/view/templaterestoredialog.h"
+#include "support/filebytes.h"
 #include "support/tempprogramfolder.h"
-
-namespace {
-
-QByteArray digest(const QString &file) {
-    QFile f(file);
-    f.open(QIODevice::ReadOnly);
-    return QCryptographicHash::hash(f.readAll(), QCryptographicHash::Md5);
-}
-
-void spoil(const QString &file) {
-    QFile f(file);
-    f.open(QIODevice::Append);
-    f.write("edited");
-}
-
-}  // namespace
 
 class TestTemplateRestore : public QObject {
     Q_OBJECT
@@ -50,8 +34,8 @@ void TestTemplateRestore::restore() {
     const QString jsk = design::templatePath(folder.path(), name);
     const QString bak = folder.path(QStringLiteral("skin/bak/")) + name + QStringLiteral(".jsk");
     appState().skinFile = jsk;
-    spoil(jsk);
-    const QByteArray edited = digest(jsk);
+    writeFile(jsk, readFile(jsk) + "edited");
+    const QByteArray edited = fileDigest(jsk);
     if (!withFactoryCopy) QVERIFY(QFile::remove(bak));
 
     TemplateRestoreDialog dialog;
@@ -69,10 +53,10 @@ void TestTemplateRestore::restore() {
     QCOMPARE(status->text(), notice);
     QCOMPARE(status->styleSheet().contains(QStringLiteral("220,0,0")), !withFactoryCopy);
     if (withFactoryCopy) {
-        QCOMPARE(digest(jsk), digest(bak));
-        QCOMPARE(digest(appState().skinTmpConnStr), digest(bak));
+        QCOMPARE(fileDigest(jsk), fileDigest(bak));
+        QCOMPARE(fileDigest(appState().skinTmpConnStr), fileDigest(bak));
     } else {
-        QCOMPARE(digest(jsk), edited);
+        QCOMPARE(fileDigest(jsk), edited);
     }
 }
 

@@ -98,6 +98,7 @@ void TestBuiltInSounds::realPlayerReadsTheChime() {
     music.setVolume(MusicPlayer::kSilence);
     QTRY_VERIFY_WITH_TIMEOUT(music.duration() > 2.0, 5000);
     QVERIFY(music.duration() < 2.5);
+    QCOMPARE(music.state(), 0);
     music.setPosition(99);
     QTRY_COMPARE(music.position(), music.duration());
 }

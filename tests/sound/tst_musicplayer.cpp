@@ -18,17 +18,14 @@ private Q_SLOTS:
     void init();
     void volume_data();
     void volume();
-    void aNewFileStartsAtFullVolume();
     void stateNumbering();
-    void playWithoutFileDoesNothing();
     void playAfterTheEndRewinds();
     void positionIsClamped_data();
     void positionIsClamped();
     void positionBeforeTheLengthIsKnown();
     void secondFileStopsTheFirst();
-    void unreadableFileIsSilent();
+    void nothingToPlayIsSilent();
     void releasingStopsTheSound();
-    void qtBackendWithoutSoundCard();
 
 private:
     FakeMedia *m_media = nullptr;
@@ -61,15 +58,6 @@ void TestMusicPlayer::volume() {
     QVERIFY(qAbs(m_media->last()->volume - linear) < 1e-5f);
 }
 
-void TestMusicPlayer::aNewFileStartsAtFullVolume() {
-    MusicPlayer music;
-    music.setFileName(kSong);
-    music.setVolume(-10000);
-    music.setFileName(kChime);
-    QCOMPARE(music.volume(), 0);
-    QCOMPARE(m_media->last()->volume, 1.0f);
-}
-
 void TestMusicPlayer::stateNumbering() {
     MusicPlayer music;
     QSignalSpy states(&music, &MusicPlayer::stateChanged);
@@ -85,19 +73,11 @@ void TestMusicPlayer::stateNumbering() {
     music.play();
     music.stop();
     QCOMPARE(music.state(), 0);
-    QCOMPARE(states.size(), 4);
     QList<int> seen;
     for (const QList<QVariant> &signal : states)
         seen << signal.at(0).toInt();
     QCOMPARE(seen, (QList<int>{1, 2, 1, 0}));
     QCOMPARE(ends.size(), 0);
-}
-
-void TestMusicPlayer::playWithoutFileDoesNothing() {
-    MusicPlayer music;
-    music.play();
-    QCOMPARE(music.state(), 0);
-    QVERIFY(!m_media->last()->calls.contains(QStringLiteral("play")));
 }
 
 void TestMusicPlayer::playAfterTheEndRewinds() {
@@ -157,6 +137,7 @@ void TestMusicPlayer::positionBeforeTheLengthIsKnown() {
 void TestMusicPlayer::secondFileStopsTheFirst() {
     MusicPlayer music;
     music.setFileName(kSong);
+    music.setVolume(-10000);
     music.play();
     FakeMediaBackend *player = m_media->last();
     player->calls.clear();
@@ -164,10 +145,15 @@ void TestMusicPlayer::secondFileStopsTheFirst() {
     QCOMPARE(player->calls.first(), QStringLiteral("load ") + kChime);
     QCOMPARE(music.state(), 0);
     QCOMPARE(music.fileName(), kChime);
+    // A new file starts at full volume.
+    QCOMPARE(music.volume(), 0);
+    QCOMPARE(player->volume, 1.0f);
 }
 
-void TestMusicPlayer::unreadableFileIsSilent() {
+void TestMusicPlayer::nothingToPlayIsSilent() {
     MusicPlayer music;
+    music.play();  // no file yet
+    QVERIFY(!m_media->last()->calls.contains(QStringLiteral("play")));
     music.setFileName(QStringLiteral("/nowhere/missing.mp3"));
     QCOMPARE(music.duration(), 0.0);
     music.play();
@@ -184,19 +170,6 @@ void TestMusicPlayer::releasingStopsTheSound() {
     player->calls.clear();
     delete music;
     QVERIFY(player.isNull());
-}
-
-void TestMusicPlayer::qtBackendWithoutSoundCard() {
-    // The real player must neither fail nor block on a machine without an audio device.
-    setMediaBackendFactory({});
-    MusicPlayer music;
-    music.setFileName(QStringLiteral("/nowhere/missing.wav"));
-    music.setVolume(-10000);
-    music.play();
-    QTest::qWait(200);
-    QCOMPARE(music.duration(), 0.0);
-    music.stop();
-    QCOMPARE(music.state(), 0);
 }
 
 QTEST_MAIN(TestMusicPlayer)

@@ -48,8 +48,7 @@ class TestMusicSettingsDialog : public QObject {
 private Q_SLOTS:
     void init();
     void cleanup() { m_folder.reset(); }
-    void loadShowsStoredFiles();
-    void rowEnabling();
+    void loadShowsStoredFilesAndEnablesRows();
     void choosingAFile();
     void listening();
     void saving_data();
@@ -80,7 +79,7 @@ void TestMusicSettingsDialog::init() {
     m_media = installFakeMedia();
 }
 
-void TestMusicSettingsDialog::loadShowsStoredFiles() {
+void TestMusicSettingsDialog::loadShowsStoredFilesAndEnablesRows() {
     writeFile(music("bg.mp3"), "bg");
     store(music::Background, "bg.mp3", true);
     store(music::Start, "no", true);
@@ -99,15 +98,7 @@ void TestMusicSettingsDialog::loadShowsStoredFiles() {
     }
     QVERIFY(Row(form, music::Start).enabled->isChecked());
     QVERIFY(!Row(form, music::Luck).enabled->isChecked());
-}
 
-void TestMusicSettingsDialog::rowEnabling() {
-    writeFile(music("bg.mp3"), "bg");
-    store(music::Background, "bg.mp3", true);
-    store(music::Start, "no", true);
-    store(music::Luck, "no", false);
-    MusicSettingsDialog form;
-    const Row background(form, music::Background);
     const Row start(form, music::Start);
     const Row win(form, music::Luck);
     // On with a file: everything but stop; on without one: nothing to try.
@@ -179,37 +170,32 @@ void TestMusicSettingsDialog::listening() {
 }
 
 void TestMusicSettingsDialog::saving_data() {
-    QTest::addColumn<QString>("row");     // as the keys of config.ini name it
-    QTest::addColumn<QString>("stored");  // the row's file before
+    QTest::addColumn<QString>("row");     // as the keys of config.ini name it; it holds old.mp3
     QTest::addColumn<QString>("chosen");  // a file outside, or empty for no new choice
     QTest::addColumn<QString>("expectedKey");
     QTest::addColumn<QByteArray>("expectedBytes");  // of Music/<expectedKey>
-    QTest::addColumn<bool>("oldFileKept");
-    const auto row = [](const char *tag, const char *slot, const char *stored, const char *chosen,
-                        const char *key, const char *bytes, bool oldKept) {
-        QTest::newRow(tag) << slot << stored << chosen << key << QByteArray(bytes) << oldKept;
-    };
-    const char *const background = "Bg", *const start = "Start";
-    row("new file replaces the old", background, "old.mp3", "new.mp3", "new.mp3", "new", false);
-    row("unchanged row copies nothing", background, "old.mp3", "", "old.mp3", "old", true);
-    row("same name from elsewhere", background, "old.mp3", "old.mp3", "old.mp3", "new", true);
-    row("second row replaces its file", start, "old.mp3", "new.mp3", "new.mp3", "new", false);
-    row("first choice", background, "no", "new.mp3", "new.mp3", "new", false);
+    QTest::newRow("unchanged row copies nothing") << "Bg"
+                                                  << ""
+                                                  << "old.mp3" << QByteArray("old");
+    QTest::newRow("same name from elsewhere") << "Bg"
+                                              << "old.mp3"
+                                              << "old.mp3" << QByteArray("new");
+    QTest::newRow("second row replaces its file") << "Start"
+                                                  << "new.mp3"
+                                                  << "new.mp3" << QByteArray("new");
 }
 
 void TestMusicSettingsDialog::saving() {
     QFETCH(QString, row);
     const int slot = row == QLatin1String("Bg") ? music::Background : music::Start;
-    QFETCH(QString, stored);
     QFETCH(QString, chosen);
     QFETCH(QString, expectedKey);
     QFETCH(QByteArray, expectedBytes);
-    QFETCH(bool, oldFileKept);
-    if (stored != "no") writeFile(music(stored), "old");
+    writeFile(music("old.mp3"), "old");
     store(music::Background, "no", true);
     store(music::Start, "no", true);
     store(music::Play, "no", true);
-    store(slot, stored, true);
+    store(slot, "old.mp3", true);
     MusicSettingsDialog form;
     if (!chosen.isEmpty()) {
         m_ui->files.enqueue(writeFile(outside(chosen), "new"));
@@ -223,8 +209,7 @@ void TestMusicSettingsDialog::saving() {
     QCOMPARE(form.result(), int(QDialog::Accepted));
     QCOMPARE(key(qPrintable(row + "MusicFile")), expectedKey);
     QCOMPARE(readFile(music(expectedKey)), expectedBytes);
-    if (stored != "no" && stored != expectedKey)
-        QCOMPARE(QFile::exists(music(stored)), oldFileKept);
+    QCOMPARE(QFile::exists(music("old.mp3")), expectedKey == "old.mp3");
     QCOMPARE(key(qPrintable("is" + row + "Music")), QStringLiteral("1"));
     QCOMPARE(key("isPlayMusic"), QStringLiteral("0"));
     QCOMPARE(key("PlayMusicFile"), QStringLiteral("no"));

@@ -61,11 +61,7 @@ public:
         return out;
     }
     bool waitFor(const QString &command, int timeoutMs = 5000, int atLeast = 1) {
-        QElapsedTimer clock;
-        clock.start();
-        while (count(command) < atLeast && clock.elapsed() < timeoutMs)
-            QTest::qWait(10);
-        return count(command) >= atLeast;
+        return QTest::qWaitFor([&] { return count(command) >= atLeast; }, timeoutMs);
     }
 
     QVariant call(const char *function, const QVariant &arg = QVariant()) {
@@ -82,29 +78,13 @@ public:
     void key(int qtKey, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QKeyEvent press(QEvent::KeyPress, qtKey, modifiers);
         QObject *target = stage.usesWindow() ? static_cast<QObject *>(stage.quickWindow())
-                                             : static_cast<QObject *>(stage.widget());
-        if (!stage.usesWindow())
-            target = stage.widget()->findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+                                             : stage.widget()->findChild<QWidget *>(
+                                                   QString(), Qt::FindDirectChildrenOnly);
         QCoreApplication::sendEvent(target, &press);
         QCoreApplication::processEvents();
     }
 
     // --- the draw screen's side, as literal payloads of the 16:9 factory template ----------
-
-    static QString textObject(const QString &name, int depth, int x, int y, const QString &text,
-                              int size, const QString &colour, const QString &align,
-                              bool bold = true, int shadow = 1) {
-        return QStringLiteral(
-                   "false|%1|%2|%3|%4|100|0x000000|0|0|box|%5|黑体|%6|%7|%8|false|false|0|%9|%10")
-            .arg(name)
-            .arg(depth)
-            .arg(x)
-            .arg(y)
-            .arg(text, colour)
-            .arg(size)
-            .arg(bold ? proto::trueText : proto::falseText, align)
-            .arg(shadow);
-    }
 
     // The reply to asok: background, keys, objects, award, as DrawWindow sends them.
     void pushTemplate(const QString &photos = QString(), int luckDelay = 0) {
@@ -114,22 +94,17 @@ public:
         // start and stop share the space bar; then C, Z, O, P, L, M, F.
         send(proto::setAsKeys, QStringLiteral("32|32|67|90|79|80|76|77|70"));
         send(proto::ClsPage, proto::yes);
-        send(proto::vbAddTxt,
-             textObject(QStringLiteral("txt_zbt"), 1, 660, 40, QStringLiteral("2026年度盛典"), 80,
-                        QStringLiteral("0xFFE08A"), QStringLiteral("center")));
-        send(proto::vbAddTxt,
-             textObject(QStringLiteral("txt_fbt"), 2, 820, 150, QStringLiteral("幸运大抽奖"), 40,
-                        QStringLiteral("0xFFF4D6"), QStringLiteral("center"), false));
-        send(proto::vbAddTxt,
-             textObject(QStringLiteral("txt_jxname"), 3, 96, 250, QStringLiteral("$Name2"), 56,
-                        QStringLiteral("0xFFE08A"), QStringLiteral("left")));
-        send(proto::vbAddTxt,
-             textObject(QStringLiteral("txt_jpname"), 4, 96, 336, QStringLiteral("奖品：$Name1"),
-                        34, QStringLiteral("0xFFFFFF"), QStringLiteral("left"), false, 0));
-        send(proto::vbAddTxt,
-             textObject(QStringLiteral("txt_jpinfo"), 5, 96, 392,
-                        QStringLiteral("名额 $1 名，剩余 $2 名"), 28, QStringLiteral("0xFFF4D6"),
-                        QStringLiteral("left"), false, 0));
+        // name|depth|x|y, text, colour|size|bold, align|shadow of the five texts.
+        const QStringList texts[] = {
+            {"txt_zbt|1|660|40", "2026年度盛典", "0xFFE08A|80|true", "center|1"},
+            {"txt_fbt|2|820|150", "幸运大抽奖", "0xFFF4D6|40|false", "center|1"},
+            {"txt_jxname|3|96|250", "$Name2", "0xFFE08A|56|true", "left|1"},
+            {"txt_jpname|4|96|336", "奖品：$Name1", "0xFFFFFF|34|false", "left|0"},
+            {"txt_jpinfo|5|96|392", "名额 $1 名，剩余 $2 名", "0xFFF4D6|28|false", "left|0"}};
+        for (const QStringList &t : texts)
+            send(proto::vbAddTxt,
+                 QStringLiteral("false|%1|100|0x000000|0|0|box|%2|黑体|%3|false|false|0|%4")
+                     .arg(t[0], t[1], t[2], t[3]));
         send(proto::vbAddJpBox, QStringLiteral("ssm_vornex|600|240|1224|700|7"));
         send(proto::vbAddStxt,
              QStringLiteral("false|scr_luckls|8|0|96|990|1728|56|0x000000|30|round|8||100|黑体|"

@@ -7,7 +7,6 @@ class TestSmallMovies : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void previewDialogue();
     void previewTakesTheShortForms();
     void viewerShowsAndClears();
 };
@@ -37,7 +36,7 @@ void pushConsoleTemplate(StageRig &rig) {
 
 }  // namespace
 
-void TestSmallMovies::previewDialogue() {
+void TestSmallMovies::previewTakesTheShortForms() {
     StageRig rig(QStringLiteral("preview.qml"), QmlStage::Host::Automatic, QSize(480, 270));
     QVERIFY2(rig.loaded, qPrintable(rig.stage.errors().join('\n')));
     QVERIFY(!rig.stage.usesWindow());
@@ -45,12 +44,6 @@ void TestSmallMovies::previewDialogue() {
     QCOMPARE(rig.count(proto::cmd::startskin), 0);
     rig.send(proto::getIsOk, proto::yes);
     QCOMPARE(rig.count(proto::cmd::startskin), 1);
-}
-
-void TestSmallMovies::previewTakesTheShortForms() {
-    StageRig rig(QStringLiteral("preview.qml"), QmlStage::Host::Automatic, QSize(480, 270));
-    QVERIFY(rig.waitFor(proto::cmd::asload));
-    rig.send(proto::getIsOk, proto::yes);
     pushConsoleTemplate(rig);
     rig.send(proto::vbSetScale, QStringLiteral("13.3854166666667"));
     QCOMPARE(rig.call("stageScale").toList(), (QVariantList{0.133854166666667, 0.133854166666667}));

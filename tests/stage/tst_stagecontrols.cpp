@@ -14,14 +14,12 @@ private Q_SLOTS:
     void programCallsPressTheButtons_data();
     void programCallsPressTheButtons();
     void keysStartAndStopAndAreReported();
-    void barRestsAndWakes();
     void barStaysUnderThePointerAndTakesClicksWhenFaded();
     void buttonsKeepTheirPlaces();
     void idleStageTellsTheKeysUntilTheFirstDraw();
     void pictureModeShowsEachParticipantsPhoto();
     void paradeOfThreeAwards();
     void paradePausesAndCanBeCancelled();
-    void paradeWithNoAwardEnds();
 
 private:
     QTemporaryDir m_photos;
@@ -120,25 +118,8 @@ void TestStageControls::keysStartAndStopAndAreReported() {
     // Other keys are only reported, with the stored key numbers.
     rig.key(Qt::Key_C);
     rig.key(Qt::Key_5, Qt::KeypadModifier);
-    rig.key(Qt::Key_Escape);
-    rig.key(Qt::Key_Left);
-    rig.key(Qt::Key_Return);
-    rig.key(Qt::Key_PageDown);
-    QCOMPARE(rig.args(proto::cmd::callvbkeys),
-             (QStringList{"32", "32", "32", "32", "67", "101", "27", "37", "13", "34"}));
+    QCOMPARE(rig.args(proto::cmd::callvbkeys), (QStringList{"32", "32", "32", "32", "67", "101"}));
     QCOMPARE(rig.count(proto::cmd::btnclick), 3);
-}
-
-void TestStageControls::barRestsAndWakes() {
-    StageRig rig(QStringLiteral("stage.qml"));
-    QVERIFY(rig.startUp());
-    QVERIFY(rig.stage.root()->property("barAwake").toBool());
-    rig.stage.root()->setProperty("restMs", 150);
-    rig.key(Qt::Key_A);  // restarts the rest timer with the short interval
-    QTRY_VERIFY_WITH_TIMEOUT(!rig.stage.root()->property("barAwake").toBool(), 3000);
-    QTest::mouseMove(rig.stage.quickWindow(), QPoint(400, 300));
-    QTest::mouseMove(rig.stage.quickWindow(), QPoint(420, 310));
-    QTRY_VERIFY_WITH_TIMEOUT(rig.stage.root()->property("barAwake").toBool(), 2000);
 }
 
 namespace {
@@ -183,6 +164,10 @@ void TestStageControls::barStaysUnderThePointerAndTakesClicksWhenFaded() {
     QVERIFY(barAwake(rig));
     QTest::mouseMove(window, QPoint(400, 300));
     QTest::mouseMove(window, QPoint(404, 303));
+    QTRY_VERIFY_WITH_TIMEOUT(!barAwake(rig), 3000);
+    // A move anywhere wakes it; left alone it rests again.
+    QTest::mouseMove(window, QPoint(420, 310));
+    QTRY_VERIFY(barAwake(rig));
     QTRY_VERIFY_WITH_TIMEOUT(!barAwake(rig), 3000);
     // The operator clicks where the faded button is: the click counts.
     QTest::mouseClick(window, Qt::LeftButton, {}, start);
@@ -262,6 +247,10 @@ void TestStageControls::paradeOfThreeAwards() {
     QCOMPARE(rig.count(proto::cmd::luckplaystop), 1);
     QCOMPARE(rig.count(proto::cmd::callLoadPlay), 3);
     QVERIFY(!rig.callList("visibleButtons").isEmpty());
+    // The host found no award to show: it only switches the bar and asks to scroll.
+    rig.send(proto::changBtn, proto::buttons::luckplay);
+    rig.send(proto::vbStartScroll, proto::yes);
+    QCOMPARE(rig.count(proto::cmd::luckplaystop), 2);
 }
 
 void TestStageControls::paradePausesAndCanBeCancelled() {
@@ -283,15 +272,6 @@ void TestStageControls::paradePausesAndCanBeCancelled() {
     rig.send(proto::vbCallPlay, proto::no);
     QCOMPARE(rig.count(proto::cmd::luckplaystop), 1);
     QCOMPARE(rig.count(proto::cmd::btnclick), 0);
-}
-
-// The host found no award to show: it only switches the bar and asks to scroll.
-void TestStageControls::paradeWithNoAwardEnds() {
-    StageRig rig(QStringLiteral("stage.qml"));
-    QVERIFY(rig.startUp());
-    rig.send(proto::changBtn, proto::buttons::luckplay);
-    rig.send(proto::vbStartScroll, proto::yes);
-    QVERIFY(rig.waitFor(proto::cmd::luckplaystop, 3000));
 }
 
 QTEST_MAIN(TestStageControls)

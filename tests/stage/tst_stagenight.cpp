@@ -1,5 +1,5 @@
 // The draw screen on the real movie as an operator meets it on the night: a projector beside
-// the desk, a winner who gave up, an award with a bar in its name, a program not set up yet.
+// the desk, a winner who gave up, a program not set up yet.
 
 #include <QComboBox>
 #include <QScreen>
@@ -21,7 +21,6 @@ private Q_SLOTS:
     void wizardOffersTheScreensByNameAndSize();
     void giveUpRightAfterABatchLands();
     void windowModeIsARealWindowThatKeepsTheKeyboard();
-    void aBarInAnAwardNameStaysInItsField();
     void anEmptyProgramSaysWhatIsMissing();
 };
 
@@ -131,17 +130,6 @@ void TestStageNight::windowModeIsARealWindowThatKeepsTheKeyboard() {
     QVERIFY(s.click(proto::btn::btnScreenF));
     QTRY_COMPARE(s.form->geometry(), hall);
     QTRY_COMPARE(QGuiApplication::focusWindow(), static_cast<QWindow *>(s.stage()->quickWindow()));
-}
-
-void TestStageNight::aBarInAnAwardNameStaysInItsField() {
-    LiveScreen s;
-    QVERIFY(s.started);
-    s.folder.addUsers({QStringLiteral("张伟")});
-    s.folder.addAward(QStringLiteral("一|等奖"), 3, 1, 1, 0, 0, 0, QStringLiteral("电脑|套装"));
-    QVERIFY(s.open());
-    QCOMPARE(objectText(s, QStringLiteral("txt_jxname")), QStringLiteral("一ｌ等奖"));
-    QCOMPARE(objectText(s, QStringLiteral("txt_jpname")), QStringLiteral("奖品：电脑ｌ套装"));
-    QCOMPARE(objectText(s, QStringLiteral("txt_jpinfo")), QStringLiteral("名额 3 名，剩余 3 名"));
 }
 
 void TestStageNight::anEmptyProgramSaysWhatIsMissing() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QCryptographicHash>
 #include <QFile>
 #include <QString>
 
@@ -15,4 +16,9 @@ inline QString writeFile(const QString &path, const QByteArray &bytes) {
 inline QByteArray readFile(const QString &path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// What a file holds, short: two files with the same digest hold the same bytes.
+inline QByteArray fileDigest(const QString &path) {
+    return QCryptographicHash::hash(readFile(path), QCryptographicHash::Md5);
 }
