@@ -214,6 +214,8 @@ void TestImportDialogs::textDialogOpensOnAppendOnlyOverARoster() {
     QCOMPARE(labelText(form, "resultLabel"), QStringLiteral("共导入数据4条，屏蔽重复数据1条"));
     QCOMPARE(logText(form, "duplicatesEdit"), QStringLiteral("重复数据：张三,研发部"));
     QCOMPARE(rosterRows(m_folder->db()).size(), empty ? 4 : 5);
+    QVERIFY(
+        rosterRows(m_folder->db()).contains(QStringLiteral("%1|张三|研发部|7").arg(empty ? 1 : 2)));
 }
 
 void TestImportDialogs::closeDuringImportAsks_data() {

@@ -103,7 +103,6 @@ private Q_SLOTS:
     void shrinkRule();
     void settlesPictures();
     void excelImportMergesAndRefusesDuplicates();
-    void textImportFromFile();
     void photoImportStagesPictures();
     void numberGeneratorReplacesRoster();
     void cancelLeavesRosterAsItWas_data();
@@ -321,22 +320,6 @@ void TestRosterImport::excelImportMergesAndRefusesDuplicates() {
     QCOMPARE(rows.first().section(QLatin1Char('/'), 0, 0), QStringLiteral("张三-"));
     QVERIFY(
         rows.first().endsWith(QStringLiteral("10001-研发部-13800138000-2023-05-08-12.5-10002-")));
-}
-
-void TestRosterImport::textImportFromFile() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    QStringList lines;
-    QString error;
-    QVERIFY(TxtImport::readLines(fixture(QStringLiteral("gb18030-crlf.txt")), &lines, &error));
-    TxtImport job(lines, QStringLiteral(","), true);
-    QCOMPARE(job.runToEnd(), RosterImport::Outcome::Finished);
-    QCOMPARE(job.imported(), 4);
-    QCOMPARE(job.duplicates(), 1);
-    QCOMPARE(job.log(), QStringLiteral("\n重复数据：张三,研发部"));
-    QCOMPARE(dumpRoster(folder.db()).first().section(QLatin1Char('|'), 0, 5),
-             QStringLiteral("1|张三|研发部|Photos/U1.jpg|7|0"));
-    QCOMPARE(names(folder.db()).at(3), QStringLiteral("O'Brien/外联部"));
 }
 
 void TestRosterImport::photoImportStagesPictures() {
