@@ -10,6 +10,7 @@
 #include "core/profile.h"
 #include "core/settings.h"
 #include "core/store.h"
+#include "support/filebytes.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
@@ -100,58 +101,38 @@ QList<int> TestAwardBook::order() const {
 }
 
 void TestAwardBook::validation_data() {
-    QTest::addColumn<QStringList>("fields");  // name, slots, batches, prize, picture
-    QTest::addColumn<int>("rangeType");
-    QTest::addColumn<QString>("first");
-    QTest::addColumn<QString>("second");
+    QTest::addColumn<QString>("fields");  // name|slots|batches|prize|picture|range type|from|to
     QTest::addColumn<QString>("message");
     QTest::addColumn<AwardField>("field");
-    const auto row = [](const char *tag, const QStringList &fields, int rangeType,
-                        const char *first, const char *second, const char *message,
-                        AwardField field) {
-        QTest::newRow(tag) << fields << rangeType << QString::fromUtf8(first)
-                           << QString::fromUtf8(second) << QString::fromUtf8(message) << field;
+    using F = AwardField;
+    const auto row = [](const char *tag, const char *fields, const char *message, F field) {
+        QTest::newRow(tag) << QString(fields) << QString(message) << field;
     };
     // Each row breaks the rule it names and every later one: the first fault wins.
-    row("blank name", {"  ", "0", "0", "", "no"}, 4, "5", "5", "请输入奖项名称!",
-        AwardField::JxName);
-    row("no slots", {"一等奖", "0", "", "", "no"}, 4, "5", "5", "至少存在1个名额",
-        AwardField::JxNum);
-    row("empty slots", {"一等奖", "", "1", "P", "no"}, 0, "0", "0", "至少存在1个名额",
-        AwardField::JxNum);
-    row("32768 slots", {"一等奖", "32768", "0", "", "no"}, 4, "5", "5", "奖品名额最多为32767个",
-        AwardField::JxNum);
-    row("999999 slots", {"一等奖", "999999", "1", "P", "no"}, 0, "0", "0", "奖品名额最多为32767个",
-        AwardField::JxNum);
-    row("no batches", {"一等奖", "32767", "0", "", "no"}, 4, "5", "5", "至少存在1个抽奖批次",
-        AwardField::JxGroup);
-    row("32768 batches", {"一等奖", "3", "32768", "", "no"}, 4, "5", "5", "抽奖批次最多为32767次",
-        AwardField::JxGroup);
-    row("neither prize nor picture", {"一等奖", "3", "32767", " ", " no "}, 4, "5", "5",
-        "奖品名称和奖品图片不能同时为空", AwardField::JpName);
-    row("range equal", {"一等奖", "3", "1", "P", "no"}, 4, "5", "5", "区分编号范围值错误",
-        AwardField::RangeNum2);
-    row("range reversed", {"一等奖", "3", "1", "", "/p/a.png"}, 4, "9", "5", "区分编号范围值错误",
-        AwardField::RangeNum2);
-    row("range empty boxes", {"一等奖", "3", "1", "P", "no"}, 4, "", "", "区分编号范围值错误",
-        AwardField::RangeNum2);
-    row("range ok", {"一等奖", "3", "1", "P", "no"}, 4, "5", "6", "", AwardField::None);
-    row("type 1 ignores the second box", {"一等奖", "3", "1", "P", "no"}, 1, "9", "0", "",
-        AwardField::None);
-    row("picture without prize name", {"一等奖", "1", "5", "", "camre"}, 0, "0", "0", "",
-        AwardField::None);
-    row("batches above slots", {"一等奖", "2", "9", "P", "no"}, 0, "0", "0", "", AwardField::None);
+    row("blank name", "  |0|0||no|4|5|5", "请输入奖项名称!", F::JxName);
+    row("no slots", "一等奖|0|||no|4|5|5", "至少存在1个名额", F::JxNum);
+    row("empty slots", "一等奖||1|P|no|0|0|0", "至少存在1个名额", F::JxNum);
+    row("32768 slots", "一等奖|32768|0||no|4|5|5", "奖品名额最多为32767个", F::JxNum);
+    row("999999 slots", "一等奖|999999|1|P|no|0|0|0", "奖品名额最多为32767个", F::JxNum);
+    row("no batches", "一等奖|32767|0||no|4|5|5", "至少存在1个抽奖批次", F::JxGroup);
+    row("32768 batches", "一等奖|3|32768||no|4|5|5", "抽奖批次最多为32767次", F::JxGroup);
+    row("neither prize nor picture", "一等奖|3|32767| | no |4|5|5",
+        "奖品名称和奖品图片不能同时为空", F::JpName);
+    row("range equal", "一等奖|3|1|P|no|4|5|5", "区分编号范围值错误", F::RangeNum2);
+    row("range reversed", "一等奖|3|1||/p/a.png|4|9|5", "区分编号范围值错误", F::RangeNum2);
+    row("range empty boxes", "一等奖|3|1|P|no|4||", "区分编号范围值错误", F::RangeNum2);
+    row("range ok", "一等奖|3|1|P|no|4|5|6", "", F::None);
+    row("type 1 ignores the second box", "一等奖|3|1|P|no|1|9|0", "", F::None);
+    row("picture without prize name", "一等奖|1|5||camre|0|0|0", "", F::None);
+    row("batches above slots", "一等奖|2|9|P|no|0|0|0", "", F::None);
 }
 
 void TestAwardBook::validation() {
-    QFETCH(QStringList, fields);
-    QFETCH(int, rangeType);
-    QFETCH(QString, first);
-    QFETCH(QString, second);
+    QFETCH(QString, fields);
     QFETCH(QString, message);
     QFETCH(AwardField, field);
-    const AwardInput input{fields[0], fields[1], fields[2], fields[3], fields[4],
-                           true,      rangeType, first,     second};
+    const QStringList f = fields.split(QLatin1Char('|'));
+    const AwardInput input{f[0], f[1], f[2], f[3], f[4], true, f[5].toInt(), f[6], f[7]};
     const AwardFault fault = AwardBook::validate(input);
     QCOMPARE(fault.message, message);
     QCOMPARE(fault.field, field);
@@ -236,10 +217,8 @@ void TestAwardBook::deleteTwoAndRenumber() {
     const QString outsidePicture =
         QStringLiteral("../") + QFileInfo(outside.path()).fileName() + QStringLiteral("/prize.png");
     for (const QString &name : {QStringLiteral("Photos/JP2.png"), QStringLiteral("Photos/JP3.png"),
-                                QStringLiteral("Photos/U9.png"), outsidePicture}) {
-        QFile file(m_folder->path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-    }
+                                QStringLiteral("Photos/U9.png"), outsidePicture})
+        QVERIFY(!writeFile(m_folder->path(name), "x").isEmpty());
     const QStringList pictures{QStringLiteral("Photos\\JP2.png"), QStringLiteral("Photos/JP3.png"),
                                QStringLiteral("Photos/U9.png"), outsidePicture};
     for (int id = 2; id <= 5; ++id)
@@ -326,12 +305,15 @@ void TestAwardBook::addTakesNextIdAndOrder() {
     QVERIFY(book.remove({3}, nullptr));
     QCOMPARE(book.add(input, nullptr), 3);  // the highest ID gone, it returns
     QVERIFY(book.remove({1}, nullptr));
+    QDir().mkpath(m_folder->path(QStringLiteral("Photos")));
+    input.txtPhoto = writeFile(m_folder->path(QStringLiteral("prize.png")), "png");
     QCOMPARE(book.add(input, nullptr), 4);
     QCOMPARE(order(), (QList<int>{201, 302, 403}));
     const AwardRow row = *book.find(4);
     QCOMPARE((QList<int>{row.RangeType, row.RangeNum1, row.RangeNum2, row.isReLuck}),
              (QList<int>{2, 7, 0, 1}));
-    QCOMPARE(row.JPPhoto, QString());
+    QCOMPARE(row.JPPhoto, QStringLiteral("Photos/JP4.png"));
+    QCOMPARE(readFile(m_folder->path(row.JPPhoto)), QByteArray("png"));
 }
 
 void TestAwardBook::sixteenBitIds() {
@@ -351,48 +333,44 @@ void TestAwardBook::sixteenBitIds() {
 }
 
 void TestAwardBook::pictures_data() {
-    QTest::addColumn<QString>("state");
+    QTest::addColumn<QString>("state");  // "SRC": a file chosen outside Photos/
     QTest::addColumn<bool>("cameraFile");
     QTest::addColumn<QString>("stored");
+    QTest::addColumn<QByteArray>("content");  // of the stored file
     QTest::addColumn<QStringList>("present");
     QTest::addColumn<QStringList>("absent");
     QTest::addColumn<QString>("warning");
-    QTest::newRow("chosen file") << "SRC" << false << "Photos/JP1.png"
+    const QStringList gif{"Photos/JP1.gif"};
+    const QStringList jpg{"Photos/JP1.jpg"};
+    QTest::newRow("chosen file") << "SRC" << false << "Photos/JP1.png" << QByteArray("new png")
                                  << QStringList{"Photos/JP1.png", "Photos/JP1.jpg"} << QStringList{}
                                  << "";
-    QTest::newRow("unchanged picture") << "Photos/JP1.gif" << false << "Photos/JP1.gif"
-                                       << QStringList{"Photos/JP1.gif"} << QStringList{} << "";
+    QTest::newRow("unchanged") << gif[0] << false << gif[0] << QByteArray("old gif") << gif
+                               << QStringList{} << "";
     QTest::newRow("removed: only the jpg goes")
-        << "no" << false << "" << QStringList{"Photos/JP1.gif"} << QStringList{"Photos/JP1.jpg"}
-        << "";
-    QTest::newRow("camera") << "camre" << true << "Photos/JP1.jpg"
+        << "no" << false << "" << QByteArray() << gif << jpg << "";
+    QTest::newRow("camera") << "camre" << true << jpg[0] << QByteArray("camera")
                             << QStringList{"Photos/JP1.jpg", "Photos/camertemp.jpg"}
                             << QStringList{} << "";
     QTest::newRow("camera file missing")
-        << "camre" << false << "" << QStringList{"Photos/JP1.gif"} << QStringList{"Photos/JP1.jpg"}
-        << "因拍摄照片失败,照片保存未成功!";
+        << "camre" << false << "" << QByteArray() << gif << jpg << "因拍摄照片失败,照片保存未成功!";
 }
 
 void TestAwardBook::pictures() {
     QFETCH(QString, state);
     QFETCH(bool, cameraFile);
     QFETCH(QString, stored);
+    QFETCH(QByteArray, content);
     QFETCH(QStringList, present);
     QFETCH(QStringList, absent);
     QFETCH(QString, warning);
     addAwards(1);
     QDir().mkpath(m_folder->path(QStringLiteral("Photos")));
-    auto touch = [this](const QString &relative, const QByteArray &content) {
-        QFile file(m_folder->path(relative));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    };
-    touch(QStringLiteral("Photos/JP1.jpg"), "old jpg");
-    touch(QStringLiteral("Photos/JP1.gif"), "old gif");
-    touch(QStringLiteral("source.png"), "new png");
-    if (cameraFile) touch(QStringLiteral("Photos/camertemp.jpg"), "camera");
+    writeFile(m_folder->path(QStringLiteral("Photos/JP1.jpg")), "old jpg");
+    writeFile(m_folder->path(QStringLiteral("Photos/JP1.gif")), "old gif");
+    if (cameraFile) writeFile(m_folder->path(QStringLiteral("Photos/camertemp.jpg")), "camera");
     if (state == QLatin1String("SRC"))
-        state = m_folder->path(QStringLiteral("source.png"));
+        state = writeFile(m_folder->path(QStringLiteral("source.png")), "new png");
     else if (state.startsWith(QLatin1String("Photos/")))
         state = m_folder->path(state);
 
@@ -400,19 +378,12 @@ void TestAwardBook::pictures() {
     input.txtPhoto = state;
     QVERIFY(AwardBook(m_folder->db()).save(1, input, nullptr));
     QCOMPARE(AwardBook(m_folder->db()).find(1)->JPPhoto, stored);
+    if (!stored.isEmpty()) QCOMPARE(readFile(m_folder->path(stored)), content);
     for (const QString &file : present)
         QVERIFY2(QFile::exists(m_folder->path(file)), qPrintable(file));
     for (const QString &file : absent)
         QVERIFY2(!QFile::exists(m_folder->path(file)), qPrintable(file));
     QCOMPARE(m_ui->texts().join(QLatin1Char('/')), warning);
-    if (!stored.isEmpty()) {
-        QFile copy(m_folder->path(stored));
-        QVERIFY(copy.open(QIODevice::ReadOnly));
-        const QByteArray expected = cameraFile               ? "camera"
-                                    : state.endsWith(".gif") ? "old gif"
-                                                             : "new png";
-        QCOMPARE(copy.readAll(), expected);
-    }
 }
 
 QTEST_MAIN(TestAwardBook)

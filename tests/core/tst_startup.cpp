@@ -5,7 +5,6 @@
 
 #include "core/appstate.h"
 #include "core/programfolder.h"
-#include "core/settings.h"
 #include "core/startup.h"
 #include "core/store.h"
 #include "support/scriptedui.h"
@@ -22,7 +21,6 @@ private Q_SLOTS:
     void loadErrors();
     void missingStoreIsALoadErrorAndStaysMissing();
     void secondInstanceIsRefused();
-    void settingsWriterUpdatesFileAndMirror();
     void programFolderResolution();
 
 private:
@@ -97,20 +95,6 @@ void TestStartup::secondInstanceIsRefused() {
     m_ui->clear();
     QVERIFY(folder.start());
     QVERIFY(m_ui->records.isEmpty());
-}
-
-void TestStartup::settingsWriterUpdatesFileAndMirror() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    settings::write(QStringLiteral("selJxid"), 12);
-    settings::write(QStringLiteral("hideReStr"), QStringLiteral("某"));
-    QCOMPARE(appState().selJxid, qint16(12));
-    QCOMPARE(appState().hideReStr, QStringLiteral("某"));
-    shutDown();
-    resetAppState();
-    QVERIFY(folder.start());
-    QCOMPARE(appState().selJxid, qint16(12));
-    QCOMPARE(appState().hideReStr, QStringLiteral("某"));
 }
 
 void TestStartup::programFolderResolution() {

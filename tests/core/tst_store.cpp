@@ -14,7 +14,6 @@ private Q_SLOTS:
         QVERIFY(m_folder->start());
     }
     void cleanup() { m_folder.reset(); }
-    void nextIdLooksOnlyAtTheTopRow();
     void duplicates_data();
     void duplicates();
     void likePatternsEscapeWildcards();
@@ -25,18 +24,6 @@ private Q_SLOTS:
 private:
     std::unique_ptr<TempProgramFolder> m_folder;
 };
-
-void TestStore::nextIdLooksOnlyAtTheTopRow() {
-    const QString table = QStringLiteral("UserList");
-    const QString id = QStringLiteral("ID");
-    QCOMPARE(store::getNextID(table, id), 1);
-    m_folder->addUsers({"a", "b", "c"});
-    QCOMPARE(store::getNextID(table, id), 4);
-    store::exec(m_folder->db(), QStringLiteral("DELETE FROM UserList WHERE ID=3"));
-    QCOMPARE(store::getNextID(table, id), 3);
-    store::exec(m_folder->db(), QStringLiteral("DELETE FROM UserList WHERE ID=1"));
-    QCOMPARE(store::getNextID(table, id), 3);
-}
 
 void TestStore::duplicates_data() {
     QTest::addColumn<QStringList>("column2Value1Value2");

@@ -16,6 +16,7 @@
 #include "roster/view/textimportdialog.h"
 #include "roster/workbook.h"
 #include "support/childwidget.h"
+#include "support/filebytes.h"
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
@@ -78,11 +79,8 @@ void TestStoreLocks::heldAfterImportAndExport() {
     ScriptedUi *scripted = installScriptedUi();
     installRecordingStages();
     QTemporaryDir dir;
-    QFile text(dir.filePath(QStringLiteral("名单.txt")));
-    QVERIFY(text.open(QIODevice::WriteOnly));
-    text.write("丙,部门\n丁,部门\n");
-    text.close();
-    TextImportDialog import(text.fileName());
+    TextImportDialog import(
+        writeFile(dir.filePath(QStringLiteral("名单.txt")), "丙,部门\n丁,部门\n"));
     child<QPushButton>(import, "startButton")->click();
     import.waitForJob();
     QVERIFY(holdsStoreLocks());

@@ -6,13 +6,13 @@
 #include "core/store.h"
 #include "roster/rosterimport.h"
 #include "roster/rosterpage.h"
+#include "support/filebytes.h"
 #include "support/tempprogramfolder.h"
 
 namespace {
 
 bool touch(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write("x") == 1;
+    return !writeFile(path, "x").isEmpty();
 }
 
 void setPhoto(QSqlDatabase db, int id, const QString &photo) {

@@ -214,6 +214,8 @@ void TestImportDialogs::textDialogOpensOnAppendOnlyOverARoster() {
     QCOMPARE(labelText(form, "resultLabel"), QStringLiteral("共导入数据4条，屏蔽重复数据1条"));
     QCOMPARE(logText(form, "duplicatesEdit"), QStringLiteral("重复数据：张三,研发部"));
     QCOMPARE(rosterRows(m_folder->db()).size(), empty ? 4 : 5);
+    QVERIFY(
+        rosterRows(m_folder->db()).contains(QStringLiteral("%1|张三|研发部|7").arg(empty ? 1 : 2)));
 }
 
 void TestImportDialogs::closeDuringImportAsks_data() {
@@ -281,14 +283,11 @@ void TestImportDialogs::numberToolsPreviewAndQuestion() {
     QCOMPARE(rosterRows(m_folder->db()), QStringList{"1|甲||0"});
     m_ui->answers.enqueue(true);
     start->click();
-    QPushButton *ok = button(form, "okButton");
-    QVERIFY(!ok->isEnabled() || !form.isImporting());
     form.waitForJob();
     QCOMPARE(labelText(form, "resultLabel"), QStringLiteral("共导入80条，屏蔽20条"));
     QVERIFY(logText(form, "maskedCodesEdit")
                 .startsWith(QStringLiteral("屏蔽数据如下：\nST004E\nST013E\n")));
-    QVERIFY(ok->isEnabled());
-    QCOMPARE(rosterRows(m_folder->db()).first(), QStringLiteral("1|ST001E||0"));
+    QVERIFY(button(form, "okButton")->isEnabled());
 }
 
 void TestImportDialogs::blankFileChoiceStops() {

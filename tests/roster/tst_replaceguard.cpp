@@ -22,12 +22,10 @@ void TestReplaceGuard::countsParticipantsAndWins() {
     QVERIFY(roster::storedRecords(folder.db()).isEmpty());
     QVERIFY(!roster::importOpensOnAppend(folder.db()));
     const QList<int> ids = folder.addUsers({"甲", "乙", "丙"});
-    QVERIFY(store::exec(folder.db(), "UPDATE UserList SET JxID='|1||3|', UserStatus=3 WHERE ID=?",
-                        {ids[0]}));
-    QVERIFY(store::exec(folder.db(), "UPDATE UserList SET JxID='|2|', UserStatus=3 WHERE ID=?",
-                        {ids[1]}));
-    QVERIFY(store::exec(folder.db(), "UPDATE UserList SET JxID='无', UserStatus=1 WHERE ID=?",
-                        {ids[2]}));
+    const QList<QVariantList> wins{{"|1||3|", 3, ids[0]}, {"|2|", 3, ids[1]}, {"无", 1, ids[2]}};
+    for (const QVariantList &win : wins)
+        QVERIFY(
+            store::exec(folder.db(), "UPDATE UserList SET JxID=?, UserStatus=? WHERE ID=?", win));
     const roster::StoredRecords records = roster::storedRecords(folder.db());
     QCOMPARE(records.participants, 3);
     QCOMPARE(records.wins, 3);

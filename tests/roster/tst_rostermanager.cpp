@@ -84,8 +84,7 @@ private Q_SLOTS:
     }
     void cleanup() { m_folder.reset(); }
     void firstFillWaitsForViewer();
-    void fillsAtOnceWithoutViewer();
-    void fillsWhenRealViewerReports();
+    void fillsWithoutARecordingViewer();
     void pagesAreClamped_data();
     void pagesAreClamped();
     void sortModes_data();
@@ -121,15 +120,11 @@ void TestRosterManager::firstFillWaitsForViewer() {
     QCOMPARE(participants(form)->topLevelItem(1)->text(1), QStringLiteral("2"));
 }
 
-void TestRosterManager::fillsAtOnceWithoutViewer() {
+// Without a viewer the list fills at once; with the real one, when it reports.
+void TestRosterManager::fillsWithoutARecordingViewer() {
     m_folder->addUsers({"甲|一部"});
     setStageFactory([](QWidget *parent) { return std::make_unique<SilentStage>(parent); });
-    RosterManagerDialog form;
-    QCOMPARE(participants(form)->topLevelItemCount(), 1);
-}
-
-void TestRosterManager::fillsWhenRealViewerReports() {
-    m_folder->addUsers({"甲|一部"});
+    QCOMPARE(participants(RosterManagerDialog())->topLevelItemCount(), 1);
     setStageFactory({});
     RosterManagerDialog form;
     QTRY_COMPARE(participants(form)->topLevelItemCount(), 1);
@@ -385,19 +380,12 @@ void TestRosterManager::addUserRules() {
 void TestRosterManager::cameraMissing() {
     CameraCaptureDialog camera;
     QLabel *status = child<QLabel>(camera, "statusLabel");
-    QPushButton *capture = button(camera, "captureButton");
-    QCOMPARE(camera.windowTitle(), QStringLiteral("拍照"));
     QCOMPARE(status->text(), QStringLiteral("正在开启摄像头..."));
-    QVERIFY(!capture->isEnabled());
+    QVERIFY(!button(camera, "captureButton")->isEnabled());
     if (!QMediaDevices::defaultVideoInput().isNull()) QSKIP("this machine has a camera");
     QTRY_COMPARE(status->text(), QStringLiteral("打开摄像头失败..."));
-    QCOMPARE(capture->text(), QStringLiteral("拍照"));
-    QVERIFY(!capture->isEnabled());
-    camera.show();
-    QPushButton *cancel = button(camera, "cancelButton");
-    QCOMPARE(cancel->text(), QStringLiteral("取消"));
-    cancel->click();
-    QVERIFY(!camera.isVisible());
+    QVERIFY(!button(camera, "captureButton")->isEnabled());
+    button(camera, "cancelButton")->click();
     QCOMPARE(camera.result(), int(QDialog::Rejected));
 }
 

@@ -24,7 +24,6 @@ private Q_SLOTS:
     void realWorkbooks_data();
     void realWorkbooks();
     void inlineStringsAndSparseRows();
-    void limitReadsOnlyFirstRows();
     void unreadableFiles_data();
     void unreadableFiles();
     void demoWorkbooksShip_data();
@@ -115,6 +114,8 @@ void TestWorkbook::realWorkbooks() {
     QCOMPARE(
         QList<Row>(sheet.rows),
         (QList<Row>{{"名字", "备注"}, {"陈七", "行政部"}, {"陈七", "行政部"}, {"周八", "客服部"}}));
+    QVERIFY(book.readSheet(0, 2, &sheet, &error));  // the preview's first rows only
+    QCOMPARE(sheet.rows.size(), 2);
 }
 
 void TestWorkbook::inlineStringsAndSparseRows() {
@@ -132,18 +133,6 @@ void TestWorkbook::inlineStringsAndSparseRows() {
     QCOMPARE(sheet.rows.at(2).value(2), QStringLiteral("1.5e+20"));
     QCOMPARE(sheet.rows.at(3).value(1), QStringLiteral("TRUE"));
     QCOMPARE(sheet.rows.at(3).value(2), QStringLiteral("姓名"));
-}
-
-void TestWorkbook::limitReadsOnlyFirstRows() {
-    workbook::Workbook book;
-    QString error;
-    QVERIFY(book.open(fixture(QStringLiteral("libreoffice.xlsx")), &error));
-    workbook::Sheet sheet;
-    QVERIFY(book.readSheet(0, 4, &sheet, &error));
-    QCOMPARE(sheet.rows.size(), 4);
-    QVERIFY(book.open(fixture(QStringLiteral("libreoffice.xls")), &error));
-    QVERIFY(book.readSheet(0, 2, &sheet, &error));
-    QCOMPARE(sheet.rows.size(), 2);
 }
 
 void TestWorkbook::unreadableFiles_data() {
