@@ -169,8 +169,6 @@ void TestPrintWinners::printedPages_data() {
     QTest::addColumn<int>("rows");
     QTest::addColumn<int>("pages");
     QTest::newRow("49") << 49 << 1;
-    QTest::newRow("50") << 50 << 2;
-    QTest::newRow("51") << 51 << 2;
     QTest::newRow("111") << 111 << 3;
 }
 
