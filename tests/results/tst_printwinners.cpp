@@ -114,8 +114,6 @@ private Q_SLOTS:
     void cleanup() { setPrinterFactory({}); }
     void paging_data();
     void paging();
-    void footTexts_data();
-    void footTexts();
     void printedPages_data();
     void printedPages();
     void awardsInTheirOrderEachLatestFirstUnmasked();
@@ -143,28 +141,6 @@ void TestPrintWinners::paging() {
     QCOMPARE(printout::paginate(rows), pages);
 }
 
-void TestPrintWinners::footTexts_data() {
-    QTest::addColumn<bool>("withTime");
-    QTest::addColumn<bool>("lastPage");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("all winners") << false << false << QStringLiteral("当前第2页");
-    QTest::newRow("all winners, last page") << false << true << QStringLiteral("当前第2页");
-    QTest::newRow("batch, full page")
-        << true << false << QStringLiteral("当前第2页 打印时间∶2026-01-01 20:00:00");
-    QTest::newRow("batch, last page has two blanks")
-        << true << true << QStringLiteral("当前第2页  打印时间∶2026-01-01 20:00:00");
-}
-
-void TestPrintWinners::footTexts() {
-    QFETCH(bool, withTime);
-    QFETCH(bool, lastPage);
-    QFETCH(QString, text);
-    printout::Document document;
-    document.footWithTime = withTime;
-    document.printTime = QStringLiteral("2026-01-01 20:00:00");
-    QCOMPARE(printout::footText(document, 2, lastPage), text);
-}
-
 void TestPrintWinners::printedPages_data() {
     QTest::addColumn<int>("rows");
     QTest::addColumn<int>("pages");
@@ -172,7 +148,8 @@ void TestPrintWinners::printedPages_data() {
     QTest::newRow("111") << 111 << 3;
 }
 
-// Both printouts page the same way, and a page's rows follow on from the page before.
+// Both printouts page the same way, and a page's rows follow on from the page before; only the
+// batch's foot has the time, with two blanks before it on its last page.
 void TestPrintWinners::printedPages() {
     QFETCH(int, rows);
     QFETCH(int, pages);
@@ -187,6 +164,7 @@ void TestPrintWinners::printedPages() {
     QCOMPARE(printed.size(), pages);
     QCOMPARE(scripted->texts(), QStringList{QStringLiteral("打印完成!")});
     QCOMPARE(printed.last().at(printed.size() == 1 ? 1 : 0), kHead);  // the title on page 1 only
+    QCOMPARE(printed.first().last(), QStringLiteral("当前第1页"));
     QStringList ids;
     for (int id = 1; id <= rows; ++id)
         ids << QString::number(id);
@@ -196,7 +174,7 @@ void TestPrintWinners::printedPages() {
     QCOMPARE(opened, 2);
     if (rows <= 50) return;
     QCOMPARE(printed.at(1).at(1), QStringLiteral("51|一等奖|笔记本电脑|参与者51"));
-    QVERIFY(printed.at(1).last().startsWith(QStringLiteral("当前第2页 ")));
+    QVERIFY(printed.at(1).last().startsWith(QStringLiteral("当前第2页 打印时间∶")));
 }
 
 // Awards by their order, each award's latest winner first, names as stored even while the
