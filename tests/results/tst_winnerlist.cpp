@@ -49,7 +49,6 @@ private Q_SLOTS:
     void statusTexts_data();
     void statusTexts();
     void listShowsRowsAndTotals();
-    void exportAndPrintButtons();
 
 private:
     void setWins(qint64 id, const QVariant &jxId, const QVariant &status, const QString &time) {
@@ -150,11 +149,8 @@ void TestWinnerList::listShowsRowsAndTotals() {
         QCOMPARE(gaveUp->foreground(column).color(), QColor(98, 98, 98));
     dialog.resize(200, 300);
     QCOMPARE(dialog.width(), 420);
-}
 
-void TestWinnerList::exportAndPrintButtons() {
-    fillEvening();
-    WinnerListDialog dialog;
+    // Its buttons export and print that list.
     child<QPushButton>(dialog, "exportButton")->click();
     QCOMPARE(m_ui->last().kind, QStringLiteral("file"));
     QCOMPARE(m_ui->last().title, QStringLiteral("导出文件"));
