@@ -51,3 +51,12 @@ inline QTabWidget *tabs(MakeUpDrawDialog &dialog) {
 inline QAbstractButton *choice(EndOfDrawDialog &dialog, const char *name) {
     return child<QAbstractButton>(dialog, name);
 }
+// Fills the make-up dialog's page for an award nobody planned (name, slots, batches, prize) and
+// presses OK.
+inline void addNewAward(MakeUpDrawDialog &dialog, const QStringList &fields) {
+    tabs(dialog)->setCurrentIndex(1);
+    const char *names[] = {"awardNameEdit", "slotCountEdit", "batchCountEdit", "prizeNameEdit"};
+    for (int i = 0; i < 4; ++i)
+        edit(dialog, names[i])->setText(fields[i]);
+    button(dialog, "okButton")->click();
+}

@@ -1,4 +1,3 @@
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -66,7 +65,6 @@ void TestDrawMusic::loopsAndComesBackWhereItWasLeft() {
     Sounds sounds;
     draw::DrawMusic music;
     music.setSettings(sounds.settings(QStringLiteral("bsw")), sounds.win);
-    QSignalSpy started(&music, &draw::DrawMusic::started);
     music.startBackground();
     QCOMPARE(music.current(), sounds.bg);
     FakeMediaBackend *player = sounds.player();
@@ -88,7 +86,6 @@ void TestDrawMusic::loopsAndComesBackWhereItWasLeft() {
     player->finish();  // the background loops from its beginning
     QCOMPARE(player->position, qint64(0));
     QCOMPARE(player->current, MediaBackend::State::Playing);
-    QCOMPARE(started.count(), 6);
     // A background that plays already is left alone.
     player->calls.clear();
     music.backToBackground();

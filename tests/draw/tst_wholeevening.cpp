@@ -1,10 +1,4 @@
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QSqlQuery>
-#include <QTabWidget>
-#include <QTreeWidget>
 
 #include "chrome/style.h"
 #include "core/appstate.h"
@@ -35,30 +29,6 @@ QList<qint64> idList(const QString &joined) {
     for (const QString &id : joined.split(QLatin1Char(','), Qt::SkipEmptyParts))
         ids << id.toLongLong();
     return ids;
-}
-
-struct CsvRow {
-    QString award;
-    QString prize;
-    QString name;
-    QString part;
-};
-
-// The exported file as the operator opens it: UTF-8 with a BOM, lines ending in CR LF, no field
-// that needs quotes in this evening.
-bool readCsv(const QString &path, QList<CsvRow> *rows) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return false;
-    QByteArray bytes = file.readAll();
-    if (!bytes.startsWith("\xEF\xBB\xBF") || !bytes.endsWith("\r\n")) return false;
-    const QStringList lines = QString::fromUtf8(bytes.mid(3)).split(QStringLiteral("\r\n"));
-    if (lines.first() != QStringLiteral("序号,奖项名称,奖品成名,中奖名单,备注")) return false;
-    for (int i = 1; i < lines.size() - 1; ++i) {
-        const QStringList fields = lines[i].split(QLatin1Char(','));
-        if (fields.size() != 5 || fields[0] != QString::number(i)) return false;
-        rows->append({fields[1], fields[2], fields[3], fields[4]});
-    }
-    return true;
 }
 
 }  // namespace
@@ -158,12 +128,7 @@ void TestWholeEvening::fromFirstBatchToTheExport() {
     drawBatch(s, first, 2, 2);
     whenDialogOpens<MakeUpDrawDialog>(
         [&](MakeUpDrawDialog &dialog) {
-            tabs(dialog)->setCurrentIndex(1);
-            edit(dialog, "awardNameEdit")->setText(QStringLiteral("老板加码奖"));
-            edit(dialog, "slotCountEdit")->setText(QStringLiteral("3"));
-            edit(dialog, "batchCountEdit")->setText(QStringLiteral("1"));
-            edit(dialog, "prizeNameEdit")->setText(QStringLiteral("现金红包"));
-            button(dialog, "okButton")->click();
+            addNewAward(dialog, {u"老板加码奖"_s, "3", "1", u"现金红包"_s});
         },
         &opened);
     QVERIFY(s.click(proto::btn::btnAdd));
@@ -199,32 +164,34 @@ void TestWholeEvening::fromFirstBatchToTheExport() {
 
     // The file holds the store's winners: award by award in draw order, batch by batch, with
     // nobody who gave up.
-    QList<CsvRow> rows;
-    QVERIFY(readCsv(csv, &rows));
-    QCOMPARE(rows.size(), 20 + 10 + 2 + 3);
+    QFile file(csv);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QStringList lines =
+        QString::fromUtf8(file.readAll()).split(u"\r\n"_s, Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 1 + 20 + 10 + 2 + 3);
     QSqlQuery query(s.folder.db());
-    QVERIFY(
-        query.prepare(u"SELECT UserName, UserPart, UpdateTime, JxID FROM UserList "
-                      "WHERE UserStatus=3 ORDER BY UpdateTime, ID"_s));
-    QVERIFY(query.exec());
-    QHash<QString, QStringList> stored;  // name -> part, time, award marker
+    QVERIFY(query.exec(
+        u"SELECT UserName, UserPart, UpdateTime, JxID FROM UserList WHERE UserStatus=3"_s));
+    QHash<QString, QStringList> stored;  // name -> part, time, award markers
     while (query.next())
         stored.insert(
             query.value(0).toString(),
             {query.value(1).toString(), query.value(2).toString(), query.value(3).toString()});
-    const QList<int> awards = {third, second, first, bonus};
-    const QStringList awardNames = {u"三等奖"_s, u"二等奖"_s, u"一等奖"_s, u"老板加码奖"_s};
+    const QList<std::pair<int, QString>> awards = {{third, u"三等奖"_s},
+                                                   {second, u"二等奖"_s},
+                                                   {first, u"一等奖"_s},
+                                                   {bonus, u"老板加码奖"_s}};
     const QList<int> slotCounts = {20, 10, 2, 3};
-    for (int a = 0, row = 0; a < awards.size(); ++a) {
+    for (int a = 0, row = 1; a < awards.size(); ++a) {
         QString lastTime;
         for (int i = 0; i < slotCounts[a]; ++i, ++row) {
-            const CsvRow &line = rows[row];
-            QCOMPARE(line.award, awardNames[a]);
-            QVERIFY2(stored.contains(line.name), qPrintable(line.name));
-            QCOMPARE(stored[line.name].value(0), line.part);
-            QVERIFY(stored[line.name].value(1) >= lastTime);
-            QVERIFY(stored[line.name].value(2).contains(store::awardMarker(awards[a])));
-            lastTime = stored[line.name].value(1);
+            const QStringList fields = lines[row].split(',');  // number, award, prize, name, part
+            const QStringList winner = stored.value(fields[3]);
+            QCOMPARE(fields[1], awards[a].second);
+            QCOMPARE(fields[4], winner.value(0));
+            QVERIFY(winner.value(1) >= lastTime);
+            QVERIFY(winner.value(2).contains(store::awardMarker(awards[a].first)));
+            lastTime = winner.value(1);
         }
     }
     // The check written beside the list finds the evening's ten presses as drawn.
@@ -252,9 +219,8 @@ void TestWholeEvening::fromFirstBatchToTheExport() {
     QVERIFY2(report.holds(), qPrintable(draw::reportText(report)));
     QCOMPARE(report.presses.size(), size_t(11));
     QCOMPARE(report.unrevealedCount(), 0);
-    QVERIFY(title.endsWith(report.presses.front().session.toUpper().left(4) + ' ' +
-                           report.presses.front().session.toUpper().mid(4, 4) + ' ' +
-                           report.presses.front().session.toUpper().mid(8)));
+    const QString session = report.presses.front().session.toUpper();
+    QVERIFY(title.endsWith(session.left(4) + ' ' + session.mid(4, 4) + ' ' + session.mid(8)));
 }
 
 int main(int argc, char *argv[]) {

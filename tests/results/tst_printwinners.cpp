@@ -80,10 +80,6 @@ void installRecorder(const TempProgramFolder &folder, Printed *pages, int *opene
     });
 }
 
-void installNoPrinter() {
-    setPrinterFactory([]() -> std::unique_ptr<QPagedPaintDevice> { return nullptr; });
-}
-
 void win(TempProgramFolder &folder, int user, int award, const QString &time) {
     store::exec(
         folder.db(),
@@ -111,17 +107,33 @@ class TestPrintWinners : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { setPrinterFactory({}); }
+    // Each test prints from its own program folder to a printer that records the pages.
+    void init() {
+        m_folder = std::make_unique<TempProgramFolder>();
+        QVERIFY(m_folder->start());
+        m_ui = installScriptedUi();
+        m_printed.clear();
+        m_opened = 0;
+        installRecorder(*m_folder, &m_printed, &m_opened);
+    }
+    void cleanup() {
+        setPrinterFactory({});
+        m_folder.reset();
+    }
     void paging_data();
     void paging();
-    void footTexts_data();
-    void footTexts();
     void printedPages_data();
     void printedPages();
     void awardsInTheirOrderEachLatestFirstUnmasked();
     void noPrinterOffersPdf();
     void noAwardsIsRefused();
     void batchPrintout();
+
+private:
+    std::unique_ptr<TempProgramFolder> m_folder;
+    ScriptedUi *m_ui = nullptr;
+    Printed m_printed;
+    int m_opened = 0;
 };
 
 void TestPrintWinners::paging_data() {
@@ -143,144 +155,97 @@ void TestPrintWinners::paging() {
     QCOMPARE(printout::paginate(rows), pages);
 }
 
-void TestPrintWinners::footTexts_data() {
-    QTest::addColumn<bool>("withTime");
-    QTest::addColumn<bool>("lastPage");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("all winners") << false << false << QStringLiteral("当前第2页");
-    QTest::newRow("all winners, last page") << false << true << QStringLiteral("当前第2页");
-    QTest::newRow("batch, full page")
-        << true << false << QStringLiteral("当前第2页 打印时间∶2026-01-01 20:00:00");
-    QTest::newRow("batch, last page has two blanks")
-        << true << true << QStringLiteral("当前第2页  打印时间∶2026-01-01 20:00:00");
-}
-
-void TestPrintWinners::footTexts() {
-    QFETCH(bool, withTime);
-    QFETCH(bool, lastPage);
-    QFETCH(QString, text);
-    printout::Document document;
-    document.footWithTime = withTime;
-    document.printTime = QStringLiteral("2026-01-01 20:00:00");
-    QCOMPARE(printout::footText(document, 2, lastPage), text);
-}
-
 void TestPrintWinners::printedPages_data() {
     QTest::addColumn<int>("rows");
     QTest::addColumn<int>("pages");
     QTest::newRow("49") << 49 << 1;
-    QTest::newRow("50") << 50 << 2;
-    QTest::newRow("51") << 51 << 2;
     QTest::newRow("111") << 111 << 3;
 }
 
-// Both printouts page the same way, and a page's rows follow on from the page before.
+// Both printouts page the same way, and a page's rows follow on from the page before; only the
+// batch's foot has the time, with two blanks before it on its last page.
 void TestPrintWinners::printedPages() {
     QFETCH(int, rows);
     QFETCH(int, pages);
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    ScriptedUi *scripted = installScriptedUi();
-    const int award = awardWithWinners(folder, rows);
-    Printed printed;
-    int opened = 0;
-    installRecorder(folder, &printed, &opened);
+    const int award = awardWithWinners(*m_folder, rows);
     QVERIFY(printWinners(true));
-    QCOMPARE(printed.size(), pages);
-    QCOMPARE(scripted->texts(), QStringList{QStringLiteral("打印完成!")});
-    QCOMPARE(printed.last().at(printed.size() == 1 ? 1 : 0), kHead);  // the title on page 1 only
+    QCOMPARE(m_printed.size(), pages);
+    QCOMPARE(m_ui->texts(), QStringList{QStringLiteral("打印完成!")});
+    QCOMPARE(m_printed.last().at(m_printed.size() == 1 ? 1 : 0),
+             kHead);  // the title on page 1 only
+    QCOMPARE(m_printed.first().last(), QStringLiteral("当前第1页"));
     QStringList ids;
     for (int id = 1; id <= rows; ++id)
         ids << QString::number(id);
     QVERIFY(printBatch(ids.join(QLatin1Char(',')), award));
-    QCOMPARE(printed.size(), pages);
-    QCOMPARE(scripted->last().text, QStringLiteral("当前中奖名单打印完成!"));
-    QCOMPARE(opened, 2);
+    QCOMPARE(m_printed.size(), pages);
+    QCOMPARE(m_ui->last().text, QStringLiteral("当前中奖名单打印完成!"));
+    QCOMPARE(m_opened, 2);
     if (rows <= 50) return;
-    QCOMPARE(printed.at(1).at(1), QStringLiteral("51|一等奖|笔记本电脑|参与者51"));
-    QVERIFY(printed.at(1).last().startsWith(QStringLiteral("当前第2页 ")));
+    QCOMPARE(m_printed.at(1).at(1), QStringLiteral("51|一等奖|笔记本电脑|参与者51"));
+    QVERIFY(m_printed.at(1).last().startsWith(QStringLiteral("当前第2页 打印时间∶")));
 }
 
 // Awards by their order, each award's latest winner first, names as stored even while the
 // stage masks them; the batch lists its IDs in ID order and its foot has the time.
 void TestPrintWinners::awardsInTheirOrderEachLatestFirstUnmasked() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    installScriptedUi();
     appState().isHideName = 1;
     appState().title1 = QStringLiteral("年会抽奖");
-    const int second = folder.addAward(QStringLiteral("二等奖"), 3, 1, 1, 0, 0, 0, "平板");
-    const int first = folder.addAward(QStringLiteral("一等奖"), 3, 1, 1, 0, 0, 0, "笔记本");
-    store::exec(folder.db(), "UPDATE JPList SET OrderNum=3-ID");
-    const QList<int> ids = folder.addUsers({"张小明", "李四", "王五"});
-    win(folder, ids[0], first, QStringLiteral("2026-01-01 20:00:01"));
-    win(folder, ids[1], first, QStringLiteral("2026-01-01 20:00:09"));
-    win(folder, ids[2], second, QStringLiteral("2026-01-01 19:00:00"));
-    win(folder, ids[0], second, QStringLiteral("2026-01-01 19:00:05"));
-    Printed printed;
-    int opened = 0;
-    installRecorder(folder, &printed, &opened);
+    const int second = m_folder->addAward(QStringLiteral("二等奖"), 3, 1, 1, 0, 0, 0, "平板");
+    const int first = m_folder->addAward(QStringLiteral("一等奖"), 3, 1, 1, 0, 0, 0, "笔记本");
+    store::exec(m_folder->db(), "UPDATE JPList SET OrderNum=3-ID");
+    const QList<int> ids = m_folder->addUsers({"张小明", "李四", "王五"});
+    win(*m_folder, ids[0], first, QStringLiteral("2026-01-01 20:00:01"));
+    win(*m_folder, ids[1], first, QStringLiteral("2026-01-01 20:00:09"));
+    win(*m_folder, ids[2], second, QStringLiteral("2026-01-01 19:00:00"));
+    win(*m_folder, ids[0], second, QStringLiteral("2026-01-01 19:00:05"));
     QVERIFY(printWinners(false));
-    QCOMPARE(printed, (Printed{{"年会抽奖", kHead, "1|一等奖|笔记本|李四", "2|一等奖|笔记本|张小明",
-                                "3|二等奖|平板|张小明", "4|二等奖|平板|王五", "当前第1页"}}));
+    QCOMPARE(m_printed,
+             (Printed{{"年会抽奖", kHead, "1|一等奖|笔记本|李四", "2|一等奖|笔记本|张小明",
+                       "3|二等奖|平板|张小明", "4|二等奖|平板|王五", "当前第1页"}}));
     QVERIFY(printBatch(QStringLiteral("3, 1"), second));
-    QCOMPARE(printed.first().mid(2, 2),
+    QCOMPARE(m_printed.first().mid(2, 2),
              (QStringList{"1|二等奖|平板|张小明", "2|二等奖|平板|王五"}));
-    QVERIFY(printed.first().last().startsWith(QStringLiteral("当前第1页  打印时间∶")));
+    QVERIFY(m_printed.first().last().startsWith(QStringLiteral("当前第1页  打印时间∶")));
 }
 
 void TestPrintWinners::noPrinterOffersPdf() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    ScriptedUi *scripted = installScriptedUi();
-    awardWithWinners(folder, 3);
-    installNoPrinter();
+    awardWithWinners(*m_folder, 3);
+    setPrinterFactory([]() -> std::unique_ptr<QPagedPaintDevice> { return nullptr; });
 
     // Declining the file ends the job after the notice.
     QVERIFY(!printWinners(true));
-    QCOMPARE(scripted->texts(), QStringList{QStringLiteral("找不到打印机")});
-    QCOMPARE(scripted->records.first().title, QStringLiteral("警告"));
-    QCOMPARE(scripted->records.last().kind, QStringLiteral("file"));
+    QCOMPARE(m_ui->texts(), QStringList{QStringLiteral("找不到打印机")});
+    QCOMPARE(m_ui->records.first().title, QStringLiteral("警告"));
+    QCOMPARE(m_ui->records.last().kind, QStringLiteral("file"));
 
-    scripted->clear();
-    const QString path = folder.path(QStringLiteral("saved.pdf"));
-    scripted->files.enqueue(path);
+    m_ui->clear();
+    const QString path = m_folder->path(QStringLiteral("saved.pdf"));
+    m_ui->files.enqueue(path);
     QVERIFY(printWinners(true));
-    QCOMPARE(scripted->texts(),
+    QCOMPARE(m_ui->texts(),
              (QStringList{QStringLiteral("找不到打印机"), QStringLiteral("打印完成!")}));
     QCOMPARE(pdfPageCount(path), 1);
 }
 
 void TestPrintWinners::noAwardsIsRefused() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    ScriptedUi *scripted = installScriptedUi();
-    Printed printed;
-    int opened = 0;
-    installRecorder(folder, &printed, &opened);
     QVERIFY(!printWinners(true));
-    QCOMPARE(scripted->texts(), QStringList{QStringLiteral("没有奖项无法打印!")});
-    QVERIFY(printed.isEmpty());
+    QCOMPARE(m_ui->texts(), QStringList{QStringLiteral("没有奖项无法打印!")});
+    QVERIFY(m_printed.isEmpty());
 }
 
 void TestPrintWinners::batchPrintout() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    ScriptedUi *scripted = installScriptedUi();
-    const int award = awardWithWinners(folder, 2);
-    Printed printed;
-    int opened = 0;
-    installRecorder(folder, &printed, &opened);
+    const int award = awardWithWinners(*m_folder, 2);
 
     // No batch yet: refused before the printer is looked at.
     QVERIFY(!printBatch(QString(), award));
-    QCOMPARE(scripted->texts(), QStringList{QStringLiteral("找不到当前获奖名单!")});
-    QCOMPARE(opened, 0);
+    QCOMPARE(m_ui->texts(), QStringList{QStringLiteral("找不到当前获奖名单!")});
+    QCOMPARE(m_opened, 0);
 
-    scripted->clear();
+    m_ui->clear();
     QVERIFY(!printBatch(QStringLiteral("1,2"), award + 10));
-    QCOMPARE(scripted->texts(), QStringList{QStringLiteral("没有奖项无法打印!")});
-    QCOMPARE(opened, 1);
+    QCOMPARE(m_ui->texts(), QStringList{QStringLiteral("没有奖项无法打印!")});
+    QCOMPARE(m_opened, 1);
 }
 
 QTEST_MAIN(TestPrintWinners)
