@@ -2778,16 +2778,6 @@ Group no. out of range, set to 0: line %1</translation>
         <source>奖项编号已到上限32767,不能再增加奖项!</source>
         <translation>Award numbers have reached 32767, no more awards can be added!</translation>
     </message>
-    <message>
-        <source>重要提示∶
-确认要清空所有中奖记录,复原至初始状态么?</source>
-        <translation>Important:
-Clear all the winners and go back to the start?</translation>
-    </message>
-    <message>
-        <source>已恢复至初始抽奖状态!</source>
-        <translation>Back to the start of the draw!</translation>
-    </message>
 </context>
 <context>
     <name>draw::DrawEngine</name>

@@ -26,16 +26,6 @@ bool isParticipantPhotoName(const QString &fileName) {
     return pattern.match(fileName).hasMatch();
 }
 
-int clearUserPhotos(const QString &folder) {
-    QDir dir(folder);
-    int removed = 0;
-    const QStringList files = dir.entryList(QDir::Files | QDir::Hidden | QDir::System);
-    for (const QString &name : files) {
-        if (isParticipantPhotoName(name) && dir.remove(name)) ++removed;
-    }
-    return removed;
-}
-
 QString ownedFile(const QString &appPath, const QString &folder, const QString &storedPath) {
     const QString relative = normalizeSlashes(storedPath.trimmed());
     if (relative.isEmpty() || QDir::isAbsolutePath(relative)) return QString();

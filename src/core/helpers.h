@@ -12,10 +12,6 @@ QString getExt(const QString &path);
 QString getFileName(const QString &path);
 // Whether a file name is one the program gives a participant's photo: "U<ID>" and an extension.
 bool isParticipantPhotoName(const QString &fileName);
-// Deletes every participant's photo file of folder (see isParticipantPhotoName); prize pictures
-// ("JP<ID>..."), the camera's picture and the operator's own files stay. Returns the number
-// removed.
-int clearUserPhotos(const QString &folder);
 // The file a stored path names when the program owns it: a path relative to appPath ("/" or "\")
 // that stays inside appPath + folder once "." and ".." are resolved and linked folders followed.
 // Empty for an empty or absolute path and for one that leads anywhere else: such files are the

@@ -74,19 +74,4 @@ bool clearAllWins(QSqlDatabase db) {
     return true;
 }
 
-bool oneKeyReset(QSqlDatabase db, const QString &progressText,
-                 const WinnerExporter &exportWinners) {
-    if (progressText == QStringLiteral("0%")) return clearAllWins(db);
-    if (!ui().question(QCoreApplication::translate(
-                           "draw", "重要提示∶\n确认要清空所有中奖记录,复原至初始状态么?"),
-                       titles::warning))
-        return false;
-    const QString snapshot = historySnapshotPath(appState().appPath, QDateTime::currentDateTime());
-    if (!exportWinners || !exportWinners(snapshot)) return false;
-    if (!clearAllWins(db)) return false;
-    ui().message(QCoreApplication::translate("draw", "已恢复至初始抽奖状态!"),
-                 MsgStyle::Information, titles::notice);
-    return true;
-}
-
 }  // namespace draw

@@ -34,9 +34,4 @@ using WinnerExporter = std::function<bool(const QString &path)>;
 // first one (selJxid 0, in memory and config.ini).
 bool clearAllWins(QSqlDatabase db);
 
-// The one-key reset of the console. With some progress shown (anything but "0%") it asks, saves
-// a snapshot through `exportWinners`, clears and confirms; at "0%" it clears silently. Returns
-// true when the wins were cleared. A snapshot that cannot be written leaves the wins in place.
-bool oneKeyReset(QSqlDatabase db, const QString &progressText, const WinnerExporter &exportWinners);
-
 }  // namespace draw
