@@ -351,14 +351,26 @@ void Replay::checkStore(QSqlDatabase store) {
         }
     }
     // All winners of one batch carry its time: anybody else with that time and award was
-    // stored without being in the logged batch.
+    // stored without being in the logged batch. A person's time is that of their latest win, so
+    // somebody logged in another batch of that second who won this award in an earlier logged
+    // batch is accounted for.
+    std::map<QString, std::set<qint64>> loggedAt;
+    std::set<std::pair<qint64, int>> loggedWins;
+    for (const Batch &batch : m_batches) {
+        loggedAt[batch.storedAt].insert(batch.winners.begin(), batch.winners.end());
+        for (qint64 id : batch.live)
+            loggedWins.insert({id, batch.awardId});
+    }
     for (const auto &[key, members] : groups) {
         std::set<qint64> logged;
         for (size_t i : members)
             logged.insert(m_batches[i].winners.begin(), m_batches[i].winners.end());
         const auto [from, to] = byTime.equal_range(key.second);
         for (auto it = from; it != to; ++it) {
-            if (logged.count(it->second) || !stored[it->second].standing.holds(key.first)) continue;
+            const qint64 id = it->second;
+            const bool earlierWin =
+                loggedAt[key.second].count(id) && loggedWins.count({id, key.first});
+            if (logged.count(id) || earlierWin || !stored[id].standing.holds(key.first)) continue;
             for (size_t i : members)
                 problem(m_batches[i].verdict,
                         QCoreApplication::translate("verifier", "库中这一批多出了未记录的中奖者 %1")
