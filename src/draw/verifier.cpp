@@ -365,11 +365,11 @@ void Replay::checkStore(QSqlDatabase store) {
         std::set<qint64> logged;
         for (size_t i : members)
             logged.insert(m_batches[i].winners.begin(), m_batches[i].winners.end());
+        const std::set<qint64> &loggedThatSecond = loggedAt[key.second];
         const auto [from, to] = byTime.equal_range(key.second);
         for (auto it = from; it != to; ++it) {
             const qint64 id = it->second;
-            const bool earlierWin =
-                loggedAt[key.second].count(id) && loggedWins.count({id, key.first});
+            const bool earlierWin = loggedThatSecond.count(id) && loggedWins.count({id, key.first});
             if (logged.count(id) || earlierWin || !stored[id].standing.holds(key.first)) continue;
             for (size_t i : members)
                 problem(m_batches[i].verdict,
