@@ -41,36 +41,34 @@ class TestEnglish : public QObject {
 
 private Q_SLOTS:
     void initTestCase() { QVERIFY(language::install(language::Language::English)); }
-    void init();
-    void windowShowsNoChinese_data();
-    void windowShowsNoChinese();
+
+    void init() {
+        m_folder = std::make_unique<TempProgramFolder>();
+        QVERIFY(m_folder->start());
+        installScriptedUi();
+        installFakeMedia();
+        installRecordingStages();
+    }
+
+    void windowShowsNoChinese_data() {
+        QTest::addColumn<QByteArray>("window");
+        for (const char *window :
+             {"winner list", "music", "hotkeys", "console", "console awards page", "roster manager",
+              "award manager", "add participant"})
+            QTest::newRow(window) << QByteArray(window);
+    }
+
+    void windowShowsNoChinese() {
+        QFETCH(QByteArray, window);
+        const std::unique_ptr<QWidget> shown(openWindow(window));
+        shown->show();
+        QVERIFY(QTest::qWaitForWindowExposed(shown.get()));
+        verifyNoChinese(shownTexts(*shown));
+    }
 
 private:
     std::unique_ptr<TempProgramFolder> m_folder;
 };
-
-void TestEnglish::init() {
-    m_folder = std::make_unique<TempProgramFolder>();
-    QVERIFY(m_folder->start());
-    installScriptedUi();
-    installFakeMedia();
-    installRecordingStages();
-}
-
-void TestEnglish::windowShowsNoChinese_data() {
-    QTest::addColumn<QByteArray>("window");
-    for (const char *window : {"winner list", "music", "hotkeys", "console", "console awards page",
-                               "roster manager", "award manager", "add participant"})
-        QTest::newRow(window) << QByteArray(window);
-}
-
-void TestEnglish::windowShowsNoChinese() {
-    QFETCH(QByteArray, window);
-    const std::unique_ptr<QWidget> shown(openWindow(window));
-    shown->show();
-    QVERIFY(QTest::qWaitForWindowExposed(shown.get()));
-    verifyNoChinese(shownTexts(*shown));
-}
 
 QTEST_MAIN(TestEnglish)
 #include "tst_english.moc"

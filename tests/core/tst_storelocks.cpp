@@ -52,12 +52,72 @@ class TestStoreLocks : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() {
+        m_folder = std::make_unique<TempProgramFolder>();
+        QVERIFY(m_folder->start());
+        m_folder->addUsers({"甲", "乙"});
+        QVERIFY(holdsStoreLocks());
+    }
     void cleanup() { m_folder.reset(); }
-    void heldAfterImportAndExport();
-    void heldAfterAFileDialogShowsTheProgramFolder();
-    void storeFilesAreNeverReadAsImports_data();
-    void storeFilesAreNeverReadAsImports();
+
+    void heldAfterImportAndExport() {
+        ScriptedUi *scripted = installScriptedUi();
+        installRecordingStages();
+        QTemporaryDir dir;
+        TextImportDialog import(
+            writeFile(dir.filePath(QStringLiteral("名单.txt")), "丙,部门\n丁,部门\n"));
+        child<QPushButton>(import, "startButton")->click();
+        import.waitForJob();
+        QVERIFY(holdsStoreLocks());
+
+        RosterManagerDialog manager;
+        manager.showParticipants(QString(), 1);
+        scripted->files.enqueue(m_folder->path("record/名单.csv"));
+        child<QPushButton>(manager, "exportButton")->click();
+        QCOMPARE(scripted->last().text, QStringLiteral("导出完毕"));
+        QVERIFY(holdsStoreLocks());
+    }
+
+    // A file dialog's model reads an icon and a type for each file of the folder it shows.
+    void heldAfterAFileDialogShowsTheProgramFolder() {
+        QFileDialog dialog(nullptr, QStringLiteral("导入Txt文件"), m_folder->path());
+        dialog.setOption(QFileDialog::DontUseNativeDialog);
+        dialog.setFilter(QDir::AllEntries | QDir::Hidden | QDir::System);
+        auto *model = dialog.findChild<QFileSystemModel *>();
+        QVERIFY(model);
+        QSignalSpy loaded(model, &QFileSystemModel::directoryLoaded);
+        dialog.show();
+        QVERIFY(loaded.count() > 0 || loaded.wait());
+        const QModelIndex folder = model->index(m_folder->path());
+        QTRY_VERIFY(model->rowCount(folder) > 3);
+        const auto everyTypeKnown = [&] {
+            for (int row = 0; row < model->rowCount(folder); ++row)
+                if (model->index(row, 2, folder).data().toString().isEmpty()) return false;
+            return true;
+        };
+        QTRY_VERIFY(everyTypeKnown());
+        QVERIFY(holdsStoreLocks());
+    }
+
+    void storeFilesAreNeverReadAsImports_data() {
+        QTest::addColumn<QString>("file");
+        QTest::newRow("store") << "quellio.db";
+        QTest::newRow("log") << "quellio.db-wal";
+        QTest::newRow("shared memory") << "quellio.db-shm";
+    }
+
+    void storeFilesAreNeverReadAsImports() {
+        QFETCH(QString, file);
+        const QString path = m_folder->path(file);
+        QVERIFY(QFile::exists(path));
+        QString error;
+        workbook::Workbook book;
+        QVERIFY(!book.open(path, &error));
+        QVERIFY(!error.isEmpty());
+        QStringList lines;
+        QVERIFY(!TxtImport::readLines(path, &lines, &error));
+        QVERIFY(holdsStoreLocks());
+    }
 
 private:
     // The store's read lock on its file and the write-ahead log's lock on its shared memory.
@@ -67,72 +127,6 @@ private:
     }
     std::unique_ptr<TempProgramFolder> m_folder;
 };
-
-void TestStoreLocks::init() {
-    m_folder = std::make_unique<TempProgramFolder>();
-    QVERIFY(m_folder->start());
-    m_folder->addUsers({"甲", "乙"});
-    QVERIFY(holdsStoreLocks());
-}
-
-void TestStoreLocks::heldAfterImportAndExport() {
-    ScriptedUi *scripted = installScriptedUi();
-    installRecordingStages();
-    QTemporaryDir dir;
-    TextImportDialog import(
-        writeFile(dir.filePath(QStringLiteral("名单.txt")), "丙,部门\n丁,部门\n"));
-    child<QPushButton>(import, "startButton")->click();
-    import.waitForJob();
-    QVERIFY(holdsStoreLocks());
-
-    RosterManagerDialog manager;
-    manager.showParticipants(QString(), 1);
-    scripted->files.enqueue(m_folder->path("record/名单.csv"));
-    child<QPushButton>(manager, "exportButton")->click();
-    QCOMPARE(scripted->last().text, QStringLiteral("导出完毕"));
-    QVERIFY(holdsStoreLocks());
-}
-
-// A file dialog's model reads an icon and a type for each file of the folder it shows.
-void TestStoreLocks::heldAfterAFileDialogShowsTheProgramFolder() {
-    QFileDialog dialog(nullptr, QStringLiteral("导入Txt文件"), m_folder->path());
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setFilter(QDir::AllEntries | QDir::Hidden | QDir::System);
-    auto *model = dialog.findChild<QFileSystemModel *>();
-    QVERIFY(model);
-    QSignalSpy loaded(model, &QFileSystemModel::directoryLoaded);
-    dialog.show();
-    QVERIFY(loaded.count() > 0 || loaded.wait());
-    const QModelIndex folder = model->index(m_folder->path());
-    QTRY_VERIFY(model->rowCount(folder) > 3);
-    const auto everyTypeKnown = [&] {
-        for (int row = 0; row < model->rowCount(folder); ++row)
-            if (model->index(row, 2, folder).data().toString().isEmpty()) return false;
-        return true;
-    };
-    QTRY_VERIFY(everyTypeKnown());
-    QVERIFY(holdsStoreLocks());
-}
-
-void TestStoreLocks::storeFilesAreNeverReadAsImports_data() {
-    QTest::addColumn<QString>("file");
-    QTest::newRow("store") << "quellio.db";
-    QTest::newRow("log") << "quellio.db-wal";
-    QTest::newRow("shared memory") << "quellio.db-shm";
-}
-
-void TestStoreLocks::storeFilesAreNeverReadAsImports() {
-    QFETCH(QString, file);
-    const QString path = m_folder->path(file);
-    QVERIFY(QFile::exists(path));
-    QString error;
-    workbook::Workbook book;
-    QVERIFY(!book.open(path, &error));
-    QVERIFY(!error.isEmpty());
-    QStringList lines;
-    QVERIFY(!TxtImport::readLines(path, &lines, &error));
-    QVERIFY(holdsStoreLocks());
-}
 
 QTEST_MAIN(TestStoreLocks)
 #include "tst_storelocks.moc"

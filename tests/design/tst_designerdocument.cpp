@@ -57,138 +57,129 @@ struct Workbench {
 class TestDesignerDocument : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void objectOfEachKind_data();
-    void objectOfEachKind();
-    void saveLitByDigestAndUndoneToTheSameBytes();
-    void positionThatIsNotANumber();
-    void systemObjectsAreHiddenNotDeleted();
-    void pictureDeletedOnlyWhenNoRowNamesIt();
-    void colourKeepsSixDigits_data();
-    void colourKeepsSixDigits();
+    void objectOfEachKind_data() {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<bool>("sized");  // text objects keep no size
+        const auto row = [](const char *kind, const char *command, bool sized) {
+            QTest::newRow(kind) << kind << command << sized;
+        };
+        row("txt", "vbAddTxt", false);
+        row("scr", "vbAddStxt", true);
+        row("img", "vbAddImg", true);
+        row("swf", "vbAddSwf", true);
+    }
+
+    // Add, move and resize, hide, re-layer and delete, each checked against the stored row.
+    void objectOfEachKind() {
+        QFETCH(QString, kind);
+        QFETCH(QString, command);
+        QFETCH(bool, sized);
+        Workbench bench;
+        const QString name = bench.add(kind);
+        QCOMPARE(name.size(), 20);
+        QCOMPARE(bench.column(name, "ObjType").toString(), command);
+        QCOMPARE(bench.column(name, "ObjX").toInt(), 50);
+        QCOMPARE(bench.stage.names().value(0), command);
+        QCOMPARE(bench.doc->insertionPoint(), QPoint(70, 70));
+
+        QVERIFY(bench.doc->storeGeometry(name, "312", "140", "220", "90"));
+        QCOMPARE(bench.column(name, "ObjX").toInt(), 312);
+        QCOMPARE(bench.column(name, "ObjY").toInt(), 140);
+        QCOMPARE(bench.column(name, "ObjW").toInt(), sized ? 220 : kind == "scr" ? 280 : 0);
+
+        const int depth = bench.column(name, "ObjDepth").toInt();
+        QVERIFY(!bench.doc->moveDepth(name, true));  // the newest object is on top
+        QVERIFY(bench.doc->moveDepth(name, false));
+        QCOMPARE(bench.column(name, "ObjDepth").toInt(), depth - 1);
+        QVERIFY(bench.stage.values(proto::resetAsDepth).value(0).startsWith(name + "|"));
+
+        bench.doc->setVisible(name, false);
+        QCOMPARE(bench.column(name, "isVisible").toInt(), 0);
+        QCOMPARE(bench.stage.values(proto::delObj).value(0), name);
+        bench.doc->setVisible(name, true);
+
+        QCOMPARE(bench.doc->deleteObject(name), design::DeleteOutcome::Deleted);
+        QVERIFY(!bench.column(name, "ObjName").isValid());
+        // A picture's file goes only when the deletion is saved.
+        QCOMPARE(bench.doc->removedFiles().size(), kind == "img" || kind == "swf" ? 1 : 0);
+    }
+
+    void saveLitByDigestAndUndoneToTheSameBytes() {
+        Workbench bench;
+        QVERIFY(!bench.doc->isModified());
+        const QString name = bench.doc->addText();
+        bench.doc->storeGeometry(name, "400", "300", "0", "0");
+        QVERIFY(bench.doc->isModified());
+        bench.stage.clear();
+        bench.doc->undoStack()->undo();
+        bench.doc->undoStack()->undo();
+        QVERIFY(!bench.doc->isModified());
+        QVERIFY(!bench.column(name, "ObjName").isValid());
+        QVERIFY(bench.stage.names().contains(proto::ClsPage));  // the stage was reloaded
+        bench.doc->undoStack()->redo();
+        bench.doc->undoStack()->redo();
+        QCOMPARE(bench.column(name, "ObjX").toInt(), 400);
+        QVERIFY(bench.doc->isModified());
+        QVERIFY(bench.doc->save());
+        QVERIFY(!bench.doc->isModified());
+    }
+
+    void positionThatIsNotANumber() {
+        Workbench bench;
+        QVERIFY(!bench.doc->storeGeometry("txt_zbt", "NaN?", "10", "1", "1"));
+        QCOMPARE(bench.ui->last().text, QStringLiteral("坐标数据错误,非数字类型"));
+        QCOMPARE(bench.column("txt_zbt", "ObjX").toInt(), 660);
+        QVERIFY(!bench.doc->isModified());
+    }
+
+    void systemObjectsAreHiddenNotDeleted() {
+        Workbench bench;
+        QCOMPARE(bench.doc->deleteObject("txt_jpinfo"), design::DeleteOutcome::Hidden);
+        QCOMPARE(bench.column("txt_jpinfo", "isVisible").toInt(), 0);
+        QCOMPARE(bench.doc->deleteObject("ssm_vornex"), design::DeleteOutcome::Refused);
+        QCOMPARE(bench.ui->last().text, QStringLiteral("系统变量不能删除!"));
+        QCOMPARE(bench.column("ssm_vornex", "isVisible").toInt(), 1);
+    }
+
+    // An undone deletion puts the picture back in use: saving must not take its file.
+    void pictureDeletedOnlyWhenNoRowNamesIt() {
+        Workbench bench;
+        const QString name = bench.doc->addImage(bench.picture());
+        const QString file = bench.folder.path() + bench.column(name, "ImgPath").toString();
+        bench.doc->save();
+        bench.doc->deleteObject(name);
+        bench.doc->undoStack()->undo();
+        bench.doc->save();
+        QVERIFY(QFile::exists(file));
+        bench.doc->deleteObject(name);
+        bench.doc->save();
+        QVERIFY(!QFile::exists(file));
+
+        const QString added = bench.doc->addImage(bench.picture());
+        const QString addedFile = bench.folder.path() + bench.column(added, "ImgPath").toString();
+        bench.doc->discard();
+        QVERIFY(!QFile::exists(addedFile));
+    }
+
+    void colourKeepsSixDigits_data() {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("written");
+        const auto row = [](const char *tag, const char *stored, const char *written) {
+            QTest::newRow(tag) << stored << written;
+        };
+        row("leading zeros", "0x0000FF", "0x0000FF");
+        row("short", "0xFF", "0x0000FF");
+        row("lower case", "0xfac996", "0xFAC996");
+        row("unreadable", "red", "0x000000");
+    }
+
+    void colourKeepsSixDigits() {
+        QFETCH(QString, stored);
+        QFETCH(QString, written);
+        QCOMPARE(design::colorText(design::colorFromText(stored)), written);
+    }
 };
-
-void TestDesignerDocument::objectOfEachKind_data() {
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<bool>("sized");  // text objects keep no size
-    const auto row = [](const char *kind, const char *command, bool sized) {
-        QTest::newRow(kind) << kind << command << sized;
-    };
-    row("txt", "vbAddTxt", false);
-    row("scr", "vbAddStxt", true);
-    row("img", "vbAddImg", true);
-    row("swf", "vbAddSwf", true);
-}
-
-// Add, move and resize, hide, re-layer and delete, each checked against the stored row.
-void TestDesignerDocument::objectOfEachKind() {
-    QFETCH(QString, kind);
-    QFETCH(QString, command);
-    QFETCH(bool, sized);
-    Workbench bench;
-    const QString name = bench.add(kind);
-    QCOMPARE(name.size(), 20);
-    QCOMPARE(bench.column(name, "ObjType").toString(), command);
-    QCOMPARE(bench.column(name, "ObjX").toInt(), 50);
-    QCOMPARE(bench.stage.names().value(0), command);
-    QCOMPARE(bench.doc->insertionPoint(), QPoint(70, 70));
-
-    QVERIFY(bench.doc->storeGeometry(name, "312", "140", "220", "90"));
-    QCOMPARE(bench.column(name, "ObjX").toInt(), 312);
-    QCOMPARE(bench.column(name, "ObjY").toInt(), 140);
-    QCOMPARE(bench.column(name, "ObjW").toInt(), sized ? 220 : kind == "scr" ? 280 : 0);
-
-    const int depth = bench.column(name, "ObjDepth").toInt();
-    QVERIFY(!bench.doc->moveDepth(name, true));  // the newest object is on top
-    QVERIFY(bench.doc->moveDepth(name, false));
-    QCOMPARE(bench.column(name, "ObjDepth").toInt(), depth - 1);
-    QVERIFY(bench.stage.values(proto::resetAsDepth).value(0).startsWith(name + "|"));
-
-    bench.doc->setVisible(name, false);
-    QCOMPARE(bench.column(name, "isVisible").toInt(), 0);
-    QCOMPARE(bench.stage.values(proto::delObj).value(0), name);
-    bench.doc->setVisible(name, true);
-
-    QCOMPARE(bench.doc->deleteObject(name), design::DeleteOutcome::Deleted);
-    QVERIFY(!bench.column(name, "ObjName").isValid());
-    // A picture's file goes only when the deletion is saved.
-    QCOMPARE(bench.doc->removedFiles().size(), kind == "img" || kind == "swf" ? 1 : 0);
-}
-
-void TestDesignerDocument::saveLitByDigestAndUndoneToTheSameBytes() {
-    Workbench bench;
-    QVERIFY(!bench.doc->isModified());
-    const QString name = bench.doc->addText();
-    bench.doc->storeGeometry(name, "400", "300", "0", "0");
-    QVERIFY(bench.doc->isModified());
-    bench.stage.clear();
-    bench.doc->undoStack()->undo();
-    bench.doc->undoStack()->undo();
-    QVERIFY(!bench.doc->isModified());
-    QVERIFY(!bench.column(name, "ObjName").isValid());
-    QVERIFY(bench.stage.names().contains(proto::ClsPage));  // the stage was reloaded
-    bench.doc->undoStack()->redo();
-    bench.doc->undoStack()->redo();
-    QCOMPARE(bench.column(name, "ObjX").toInt(), 400);
-    QVERIFY(bench.doc->isModified());
-    QVERIFY(bench.doc->save());
-    QVERIFY(!bench.doc->isModified());
-}
-
-void TestDesignerDocument::positionThatIsNotANumber() {
-    Workbench bench;
-    QVERIFY(!bench.doc->storeGeometry("txt_zbt", "NaN?", "10", "1", "1"));
-    QCOMPARE(bench.ui->last().text, QStringLiteral("坐标数据错误,非数字类型"));
-    QCOMPARE(bench.column("txt_zbt", "ObjX").toInt(), 660);
-    QVERIFY(!bench.doc->isModified());
-}
-
-void TestDesignerDocument::systemObjectsAreHiddenNotDeleted() {
-    Workbench bench;
-    QCOMPARE(bench.doc->deleteObject("txt_jpinfo"), design::DeleteOutcome::Hidden);
-    QCOMPARE(bench.column("txt_jpinfo", "isVisible").toInt(), 0);
-    QCOMPARE(bench.doc->deleteObject("ssm_vornex"), design::DeleteOutcome::Refused);
-    QCOMPARE(bench.ui->last().text, QStringLiteral("系统变量不能删除!"));
-    QCOMPARE(bench.column("ssm_vornex", "isVisible").toInt(), 1);
-}
-
-// An undone deletion puts the picture back in use: saving must not take its file.
-void TestDesignerDocument::pictureDeletedOnlyWhenNoRowNamesIt() {
-    Workbench bench;
-    const QString name = bench.doc->addImage(bench.picture());
-    const QString file = bench.folder.path() + bench.column(name, "ImgPath").toString();
-    bench.doc->save();
-    bench.doc->deleteObject(name);
-    bench.doc->undoStack()->undo();
-    bench.doc->save();
-    QVERIFY(QFile::exists(file));
-    bench.doc->deleteObject(name);
-    bench.doc->save();
-    QVERIFY(!QFile::exists(file));
-
-    const QString added = bench.doc->addImage(bench.picture());
-    const QString addedFile = bench.folder.path() + bench.column(added, "ImgPath").toString();
-    bench.doc->discard();
-    QVERIFY(!QFile::exists(addedFile));
-}
-
-void TestDesignerDocument::colourKeepsSixDigits_data() {
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QString>("written");
-    const auto row = [](const char *tag, const char *stored, const char *written) {
-        QTest::newRow(tag) << stored << written;
-    };
-    row("leading zeros", "0x0000FF", "0x0000FF");
-    row("short", "0xFF", "0x0000FF");
-    row("lower case", "0xfac996", "0xFAC996");
-    row("unreadable", "red", "0x000000");
-}
-
-void TestDesignerDocument::colourKeepsSixDigits() {
-    QFETCH(QString, stored);
-    QFETCH(QString, written);
-    QCOMPARE(design::colorText(design::colorFromText(stored)), written);
-}
 
 QTEST_MAIN(TestDesignerDocument)
 #include "tst_designerdocument.moc"

@@ -107,200 +107,191 @@ struct RecordedDesigner {
 class TestDesignerWindow : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void dragSnapResizeKeysAndUndo();
-    void restyleReachesTheDrawStage();
-    void panelsReachThePreviewsAndTheFontPick();
-    void shortSelectionReport();
-    void restoreFromTheFactoryCopy();
-    void closeAsksOnlyWhenChanged_data();
-    void closeAsksOnlyWhenChanged();
-    void consoleOpensTheDesigner();
-};
+    void dragSnapResizeKeysAndUndo() {
+        LiveDesigner d;
+        QVERIFY2(d.open(), qPrintable(d.stage().errors().join('\n')));
+        const QByteArray original = fileDigest(d.window->document().workingFile());
 
-void TestDesignerWindow::dragSnapResizeKeysAndUndo() {
-    LiveDesigner d;
-    QVERIFY2(d.open(), qPrintable(d.stage().errors().join('\n')));
-    const QByteArray original = fileDigest(d.window->document().workingFile());
+        // The award name dropped 4 px off the column the other texts share snaps onto an edge, with
+        // a guide on it while held.
+        QVariant guide;
+        d.drag({110, 270}, {114, 300}, [&] { guide = d.stage().root()->property("guideX"); });
+        QCOMPARE(d.window->selectedObject(), design::sysobj::txt_jxname);
+        const int x = d.stored("txt_jxname", "ObjX").toInt();
+        const int w = d.info("txt_jxname").value("width").toInt();
+        QVERIFY2(QList<int>({x, x + w / 2, x + w}).contains(guide.toInt()),
+                 qPrintable(
+                     QStringLiteral("guide %1, object %2 + %3").arg(guide.toInt()).arg(x).arg(w)));
+        QVERIFY(x != 100);
+        QVERIFY(d.stored("txt_jxname", "ObjY").toInt() > 250);
+        QVERIFY(saveLit(*d.window));
 
-    // The award name dropped 4 px off the column the other texts share snaps onto an edge, with
-    // a guide on it while held.
-    QVariant guide;
-    d.drag({110, 270}, {114, 300}, [&] { guide = d.stage().root()->property("guideX"); });
-    QCOMPARE(d.window->selectedObject(), design::sysobj::txt_jxname);
-    const int x = d.stored("txt_jxname", "ObjX").toInt();
-    const int w = d.info("txt_jxname").value("width").toInt();
-    QVERIFY2(
-        QList<int>({x, x + w / 2, x + w}).contains(guide.toInt()),
-        qPrintable(QStringLiteral("guide %1, object %2 + %3").arg(guide.toInt()).arg(x).arg(w)));
-    QVERIFY(x != 100);
-    QVERIFY(d.stored("txt_jxname", "ObjY").toInt() > 250);
-    QVERIFY(saveLit(*d.window));
+        // The draw area's bottom-right handle resizes it.
+        const QVariantMap area = d.info("ssm_vornex");
+        d.drag({600 + 100, 240 + 100}, {600 + 100, 240 + 100});  // select it
+        d.drag({600 + 1224, 240 + 700}, {600 + 1124, 240 + 650});
+        QCOMPARE(d.stored("ssm_vornex", "ObjW").toInt(), 1124);
+        QCOMPARE(d.stored("ssm_vornex", "ObjH").toInt(), 650);
+        QCOMPARE(area.value("x").toInt(), 600);
 
-    // The draw area's bottom-right handle resizes it.
-    const QVariantMap area = d.info("ssm_vornex");
-    d.drag({600 + 100, 240 + 100}, {600 + 100, 240 + 100});  // select it
-    d.drag({600 + 1224, 240 + 700}, {600 + 1124, 240 + 650});
-    QCOMPARE(d.stored("ssm_vornex", "ObjW").toInt(), 1124);
-    QCOMPARE(d.stored("ssm_vornex", "ObjH").toInt(), 650);
-    QCOMPARE(area.value("x").toInt(), 600);
+        QWidget *surface = d.window->findChild<QQuickWidget *>();
+        QTest::keyClick(surface, Qt::Key_Right);
+        QTest::keyClick(surface, Qt::Key_Down, Qt::ShiftModifier);
+        QCOMPARE(d.stored("ssm_vornex", "ObjX").toInt(), 601);
+        QCOMPARE(d.stored("ssm_vornex", "ObjY").toInt(), 250);
+        QTRY_COMPARE(d.info("ssm_vornex").value("x").toInt(), 601);
 
-    QWidget *surface = d.window->findChild<QQuickWidget *>();
-    QTest::keyClick(surface, Qt::Key_Right);
-    QTest::keyClick(surface, Qt::Key_Down, Qt::ShiftModifier);
-    QCOMPARE(d.stored("ssm_vornex", "ObjX").toInt(), 601);
-    QCOMPARE(d.stored("ssm_vornex", "ObjY").toInt(), 250);
-    QTRY_COMPARE(d.info("ssm_vornex").value("x").toInt(), 601);
+        for (int i = 0; i < 4; ++i)
+            QTest::keyClick(d.window.get(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(fileDigest(d.window->document().workingFile()), original);
+        QVERIFY(!saveLit(*d.window));
+        QTest::keyClick(d.window.get(), Qt::Key_Y, Qt::ControlModifier);
+        QCOMPARE(d.stored("txt_jxname", "ObjX").toInt(), x);
+        QVERIFY(saveLit(*d.window));
 
-    for (int i = 0; i < 4; ++i)
-        QTest::keyClick(d.window.get(), Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(fileDigest(d.window->document().workingFile()), original);
-    QVERIFY(!saveLit(*d.window));
-    QTest::keyClick(d.window.get(), Qt::Key_Y, Qt::ControlModifier);
-    QCOMPARE(d.stored("txt_jxname", "ObjX").toInt(), x);
-    QVERIFY(saveLit(*d.window));
-
-    const QString added = d.window->document().addText();
-    QTRY_COMPARE(d.window->selectedObject(), added);
-    QTest::keyClick(surface, Qt::Key_Delete);
-    QVERIFY(!d.stored(added, "ObjName").isValid());
-    QTRY_VERIFY(d.info(added).isEmpty());
-}
-
-// Open on the 16:9 template, restyle it, save, and the draw screen shows the new look.
-void TestDesignerWindow::restyleReachesTheDrawStage() {
-    LiveDesigner d;
-    d.live.folder.addUsers({QStringLiteral("张三"), QStringLiteral("李四")});
-    d.live.folder.addAward(QStringLiteral("一等奖"), 1, 1);
-    QVERIFY(d.open());
-
-    bool opened = false;
-    whenDialogOpens<TextObjectDialog>(
-        [](TextObjectDialog &dialog) {
-            child<QTextEdit>(dialog, "contentEdit")->setPlainText("本轮：$Name2");
-            child<QPushButton>(dialog, "colorButton")->click();
-            child<QPushButton>(dialog, "okButton")->click();
-        },
-        &opened);
-    d.live.ui->colors.enqueue(QColor(0x12, 0x34, 0x56));
-    d.window->editObject(design::sysobj::txt_jxname);
-    QVERIFY(opened);
-    QCOMPARE(d.stored("txt_jxname", "fColor").toString(), QStringLiteral("0x123456"));
-
-    QImage picture(64, 48, QImage::Format_RGB32);
-    picture.fill(Qt::yellow);
-    const QString file = d.live.folder.path("logo.png");
-    picture.save(file);
-    d.live.ui->files.enqueue(file);
-    child<QPushButton>(*d.window, "addImageButton")->click();
-    const QString logo = d.window->selectedObject();
-    QVERIFY(logo.startsWith("img_"));
-
-    QSignalSpy saved(&events(), &Events::templateSaved);
-    d.window->findChild<QAction *>(QStringLiteral("saveAction"))->trigger();
-    QCOMPARE(saved.size(), 1);
-    d.window->close();
-
-    appState().skinConnStr = templateFile(d.live.folder);
-    QVERIFY(d.live.open());
-    QObject *draw = d.live.stage()->root();
-    QVERIFY(callMovie(draw, "objectNames").toStringList().contains(logo));
-    QVERIFY(callMovie(draw, "objectText", design::sysobj::txt_jxname)
-                .toString()
-                .startsWith(QStringLiteral("本轮：")));
-}
-
-void TestDesignerWindow::panelsReachThePreviewsAndTheFontPick() {
-    RecordedDesigner d;
-    auto *tabs = d.window->findChild<QTabWidget *>(QStringLiteral("tabs"));
-    tabs->setCurrentIndex(1);
-    auto *dotX = d.window->findChild<QLineEdit *>(QStringLiteral("dotXEdit"));
-    dotX->setText(QStringLiteral("33"));
-    QCOMPARE(d.lastFields(proto::vbLuckBox).value(16), QStringLiteral("33"));
-    Q_EMIT dotX->editingFinished();
-    QCOMPARE(d.stored("LuckPlay", "blockValue", "DotX").toInt(), 33);
-
-    bool opened = false;
-    whenDialogOpens<DrawFontDialog>(
-        [](DrawFontDialog &dialog) {
-            child<QComboBox>(dialog, "sizeCombo")->setCurrentText("86px");
-            child<QPushButton>(dialog, "okButton")->click();
-        },
-        &opened);
-    d.window->findChild<QPushButton *>(QStringLiteral("fontButton"))->click();
-    QVERIFY(opened);
-    QCOMPARE(d.stored("LuckPlay", "blockValue", "fSize").toInt(), 86);
-    QCOMPARE(d.lastFields(proto::vbLuckBox).value(2), QStringLiteral("86"));
-    d.window->activateWindow();
-    QTRY_VERIFY(d.window->isActiveWindow());
-    QTest::keyClick(d.window.get(), Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(d.stored("LuckPlay", "blockValue", "fSize").toInt(), 44);
-
-    tabs->setCurrentIndex(2);
-    d.window->findChild<QSlider *>(QStringLiteral("boxWSlider"))->setValue(100);
-    QCOMPARE(d.stored("LuckPlay", "playTitle", "boxW").toInt(), 100);
-    QCOMPARE(d.lastFields(proto::vbLuckPlay).value(0), QStringLiteral("1920"));
-    d.window->findChild<QCheckBox *>(QStringLiteral("scrollCheck"))->click();
-    QCOMPARE(d.stage().values(proto::vbStartScroll).last(), QStringLiteral("yes|5"));
-}
-
-void TestDesignerWindow::shortSelectionReport() {
-    RecordedDesigner d;
-    d.stage().reply(proto::cmd::selObj, QStringLiteral("txt_zbt|1|2|3|4|5"));
-    d.stage().reply(proto::cmd::selObj, QStringLiteral("txt_fbt|1|2|3|4"));
-    QCOMPARE(d.ui->last().text, QStringLiteral("参数传递错误,数组数量少于5"));
-    QCOMPARE(d.window->selectedObject(), design::sysobj::txt_zbt);
-}
-
-void TestDesignerWindow::restoreFromTheFactoryCopy() {
-    RecordedDesigner d;
-    d.window->document().addText();
-    d.window->save();
-    const QString backup = d.folder.path("skin/bak/") + kTemplate + QStringLiteral(".jsk");
-    QVERIFY(fileDigest(templateFile(d.folder)) != fileDigest(backup));
-    d.ui->answers.enqueue(true);
-    d.window->restoreTemplate();
-    QCOMPARE(fileDigest(d.window->document().workingFile()), fileDigest(backup));
-    QVERIFY(!saveLit(*d.window));
-    QVERIFY(d.stage().names().contains(proto::ClsPage));
-}
-
-void TestDesignerWindow::closeAsksOnlyWhenChanged_data() {
-    QTest::addColumn<bool>("change");
-    QTest::addColumn<bool>("answer");
-    QTest::newRow("unchanged") << false << false;
-    QTest::newRow("changed, kept") << true << true;
-    QTest::newRow("changed, dropped") << true << false;
-}
-
-void TestDesignerWindow::closeAsksOnlyWhenChanged() {
-    QFETCH(bool, change);
-    QFETCH(bool, answer);
-    RecordedDesigner d;
-    const QByteArray before = fileDigest(templateFile(d.folder));
-    if (change) d.window->document().addText();
-    d.ui->answers.enqueue(answer);
-    d.window->close();
-    QCOMPARE(d.ui->texts().contains(QStringLiteral("是否保存修改内容?")), change);
-    QCOMPARE(fileDigest(templateFile(d.folder)) != before, change && answer);
-    QVERIFY(!QFile::exists(d.folder.path("skin/sdb.tmp")));
-}
-
-void TestDesignerWindow::consoleOpensTheDesigner() {
-    TempProgramFolder folder;
-    installScriptedUi();
-    installRecordingStages();
-    folder.start();
-    {
-        TemplatePanel panel;
-        for (QPushButton *button : panel.findChildren<QPushButton *>())
-            if (button->text() == QStringLiteral("编辑模板")) button->click();
-        QPointer<DesignerWindow> designer = panel.findChild<DesignerWindow *>();
-        QVERIFY(designer);
-        QVERIFY(QFile::exists(folder.path("skin/sdb.tmp")));
-        designer->close();
+        const QString added = d.window->document().addText();
+        QTRY_COMPARE(d.window->selectedObject(), added);
+        QTest::keyClick(surface, Qt::Key_Delete);
+        QVERIFY(!d.stored(added, "ObjName").isValid());
+        QTRY_VERIFY(d.info(added).isEmpty());
     }
-    setStageFactory({});
-}
+
+    // Open on the 16:9 template, restyle it, save, and the draw screen shows the new look.
+    void restyleReachesTheDrawStage() {
+        LiveDesigner d;
+        d.live.folder.addUsers({QStringLiteral("张三"), QStringLiteral("李四")});
+        d.live.folder.addAward(QStringLiteral("一等奖"), 1, 1);
+        QVERIFY(d.open());
+
+        bool opened = false;
+        whenDialogOpens<TextObjectDialog>(
+            [](TextObjectDialog &dialog) {
+                child<QTextEdit>(dialog, "contentEdit")->setPlainText("本轮：$Name2");
+                child<QPushButton>(dialog, "colorButton")->click();
+                child<QPushButton>(dialog, "okButton")->click();
+            },
+            &opened);
+        d.live.ui->colors.enqueue(QColor(0x12, 0x34, 0x56));
+        d.window->editObject(design::sysobj::txt_jxname);
+        QVERIFY(opened);
+        QCOMPARE(d.stored("txt_jxname", "fColor").toString(), QStringLiteral("0x123456"));
+
+        QImage picture(64, 48, QImage::Format_RGB32);
+        picture.fill(Qt::yellow);
+        const QString file = d.live.folder.path("logo.png");
+        picture.save(file);
+        d.live.ui->files.enqueue(file);
+        child<QPushButton>(*d.window, "addImageButton")->click();
+        const QString logo = d.window->selectedObject();
+        QVERIFY(logo.startsWith("img_"));
+
+        QSignalSpy saved(&events(), &Events::templateSaved);
+        d.window->findChild<QAction *>(QStringLiteral("saveAction"))->trigger();
+        QCOMPARE(saved.size(), 1);
+        d.window->close();
+
+        appState().skinConnStr = templateFile(d.live.folder);
+        QVERIFY(d.live.open());
+        QObject *draw = d.live.stage()->root();
+        QVERIFY(callMovie(draw, "objectNames").toStringList().contains(logo));
+        QVERIFY(callMovie(draw, "objectText", design::sysobj::txt_jxname)
+                    .toString()
+                    .startsWith(QStringLiteral("本轮：")));
+    }
+
+    void panelsReachThePreviewsAndTheFontPick() {
+        RecordedDesigner d;
+        auto *tabs = d.window->findChild<QTabWidget *>(QStringLiteral("tabs"));
+        tabs->setCurrentIndex(1);
+        auto *dotX = d.window->findChild<QLineEdit *>(QStringLiteral("dotXEdit"));
+        dotX->setText(QStringLiteral("33"));
+        QCOMPARE(d.lastFields(proto::vbLuckBox).value(16), QStringLiteral("33"));
+        Q_EMIT dotX->editingFinished();
+        QCOMPARE(d.stored("LuckPlay", "blockValue", "DotX").toInt(), 33);
+
+        bool opened = false;
+        whenDialogOpens<DrawFontDialog>(
+            [](DrawFontDialog &dialog) {
+                child<QComboBox>(dialog, "sizeCombo")->setCurrentText("86px");
+                child<QPushButton>(dialog, "okButton")->click();
+            },
+            &opened);
+        d.window->findChild<QPushButton *>(QStringLiteral("fontButton"))->click();
+        QVERIFY(opened);
+        QCOMPARE(d.stored("LuckPlay", "blockValue", "fSize").toInt(), 86);
+        QCOMPARE(d.lastFields(proto::vbLuckBox).value(2), QStringLiteral("86"));
+        d.window->activateWindow();
+        QTRY_VERIFY(d.window->isActiveWindow());
+        QTest::keyClick(d.window.get(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(d.stored("LuckPlay", "blockValue", "fSize").toInt(), 44);
+
+        tabs->setCurrentIndex(2);
+        d.window->findChild<QSlider *>(QStringLiteral("boxWSlider"))->setValue(100);
+        QCOMPARE(d.stored("LuckPlay", "playTitle", "boxW").toInt(), 100);
+        QCOMPARE(d.lastFields(proto::vbLuckPlay).value(0), QStringLiteral("1920"));
+        d.window->findChild<QCheckBox *>(QStringLiteral("scrollCheck"))->click();
+        QCOMPARE(d.stage().values(proto::vbStartScroll).last(), QStringLiteral("yes|5"));
+    }
+
+    void shortSelectionReport() {
+        RecordedDesigner d;
+        d.stage().reply(proto::cmd::selObj, QStringLiteral("txt_zbt|1|2|3|4|5"));
+        d.stage().reply(proto::cmd::selObj, QStringLiteral("txt_fbt|1|2|3|4"));
+        QCOMPARE(d.ui->last().text, QStringLiteral("参数传递错误,数组数量少于5"));
+        QCOMPARE(d.window->selectedObject(), design::sysobj::txt_zbt);
+    }
+
+    void restoreFromTheFactoryCopy() {
+        RecordedDesigner d;
+        d.window->document().addText();
+        d.window->save();
+        const QString backup = d.folder.path("skin/bak/") + kTemplate + QStringLiteral(".jsk");
+        QVERIFY(fileDigest(templateFile(d.folder)) != fileDigest(backup));
+        d.ui->answers.enqueue(true);
+        d.window->restoreTemplate();
+        QCOMPARE(fileDigest(d.window->document().workingFile()), fileDigest(backup));
+        QVERIFY(!saveLit(*d.window));
+        QVERIFY(d.stage().names().contains(proto::ClsPage));
+    }
+
+    void closeAsksOnlyWhenChanged_data() {
+        QTest::addColumn<bool>("change");
+        QTest::addColumn<bool>("answer");
+        QTest::newRow("unchanged") << false << false;
+        QTest::newRow("changed, kept") << true << true;
+        QTest::newRow("changed, dropped") << true << false;
+    }
+
+    void closeAsksOnlyWhenChanged() {
+        QFETCH(bool, change);
+        QFETCH(bool, answer);
+        RecordedDesigner d;
+        const QByteArray before = fileDigest(templateFile(d.folder));
+        if (change) d.window->document().addText();
+        d.ui->answers.enqueue(answer);
+        d.window->close();
+        QCOMPARE(d.ui->texts().contains(QStringLiteral("是否保存修改内容?")), change);
+        QCOMPARE(fileDigest(templateFile(d.folder)) != before, change && answer);
+        QVERIFY(!QFile::exists(d.folder.path("skin/sdb.tmp")));
+    }
+
+    void consoleOpensTheDesigner() {
+        TempProgramFolder folder;
+        installScriptedUi();
+        installRecordingStages();
+        folder.start();
+        {
+            TemplatePanel panel;
+            for (QPushButton *button : panel.findChildren<QPushButton *>())
+                if (button->text() == QStringLiteral("编辑模板")) button->click();
+            QPointer<DesignerWindow> designer = panel.findChild<DesignerWindow *>();
+            QVERIFY(designer);
+            QVERIFY(QFile::exists(folder.path("skin/sdb.tmp")));
+            designer->close();
+        }
+        setStageFactory({});
+    }
+};
 
 int main(int argc, char *argv[]) {
     return runOnProjector<TestDesignerWindow>(argc, argv);

@@ -32,68 +32,65 @@ class TestDrawEnglish : public QObject {
 
 private Q_SLOTS:
     void initTestCase() { QVERIFY(language::install(language::Language::English)); }
-    void drawStageSpeaksEnglish();
-    void windowShowsNoChinese_data();
-    void windowShowsNoChinese();
-};
 
-// The draw window's own widgets and the movie's fixed words: the bar, the key hint, the guard.
-void TestDrawEnglish::drawStageSpeaksEnglish() {
-    LiveScreen s;
-    QVERIFY(s.started);
-    appState().title1 = QStringLiteral("Gala");
-    s.folder.addUsers({QStringLiteral("Ann"), QStringLiteral("Bob"), QStringLiteral("Cy")});
-    s.folder.addAward(QStringLiteral("First"), 1, 1);
-    QVERIFY2(s.open(), qPrintable(s.stageErrors()));
+    // The draw window's own widgets and the movie's fixed words: the bar, the key hint, the guard.
+    void drawStageSpeaksEnglish() {
+        LiveScreen s;
+        QVERIFY(s.started);
+        appState().title1 = QStringLiteral("Gala");
+        s.folder.addUsers({QStringLiteral("Ann"), QStringLiteral("Bob"), QStringLiteral("Cy")});
+        s.folder.addAward(QStringLiteral("First"), 1, 1);
+        QVERIFY2(s.open(), qPrintable(s.stageErrors()));
 
-    const QStringList bar = barTexts(s.stage()->root());
-    QVERIFY(bar.contains(QStringLiteral("Start")));
-    verifyNoChinese(bar);
-    const QString hint = s.stage()->root()->property("keyHint").toString();
-    QVERIFY(hint.startsWith(QStringLiteral("Press ")));
-    verifyNoChinese({hint});
+        const QStringList bar = barTexts(s.stage()->root());
+        QVERIFY(bar.contains(QStringLiteral("Start")));
+        verifyNoChinese(bar);
+        const QString hint = s.stage()->root()->property("keyHint").toString();
+        QVERIFY(hint.startsWith(QStringLiteral("Press ")));
+        verifyNoChinese({hint});
 
-    s.key(Qt::Key_Space);
-    QVERIFY(s.waitState(draw::Running, 3000));
-    s.key(Qt::Key_Space);
-    QVERIFY(s.stopGuardPanel()->isVisible());
-    verifyNoChinese(shownTexts(*s.form));
-    const std::unique_ptr<QWidget> end(new EndOfDrawDialog(s.engine()));
-    verifyNoChinese(shownTexts(*end));
-}
-
-void TestDrawEnglish::windowShowsNoChinese_data() {
-    QTest::addColumn<QByteArray>("window");
-    QTest::newRow("designer") << QByteArray("designer");
-    QTest::newRow("give up") << QByteArray("give up");
-    QTest::newRow("make up") << QByteArray("make up");
-}
-
-void TestDrawEnglish::windowShowsNoChinese() {
-    QFETCH(QByteArray, window);
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    installScriptedUi();
-    QList<QPointer<RecordingStage>> &stages = installRecordingStages();
-    folder.addAward(QStringLiteral("First"), 3, 1);
-    std::unique_ptr<QWidget> shown;
-    if (window == "designer") {
-        const QString name = QStringLiteral("通用模板（16:9)");
-        design::copyToWorkingFile(folder.path(), name);
-        appState().skinFile = design::templatePath(folder.path(), name);
-        shown = std::make_unique<DesignerWindow>();
-        stages.last()->reply(proto::cmd::loadok);
-    } else if (window == "give up") {
-        shown = std::make_unique<GiveUpDialog>();
-    } else {
-        shown = std::make_unique<MakeUpDrawDialog>();
+        s.key(Qt::Key_Space);
+        QVERIFY(s.waitState(draw::Running, 3000));
+        s.key(Qt::Key_Space);
+        QVERIFY(s.stopGuardPanel()->isVisible());
+        verifyNoChinese(shownTexts(*s.form));
+        const std::unique_ptr<QWidget> end(new EndOfDrawDialog(s.engine()));
+        verifyNoChinese(shownTexts(*end));
     }
-    shown->show();
-    QVERIFY(QTest::qWaitForWindowExposed(shown.get()));
-    verifyNoChinese(shownTexts(*shown));
-    shown.reset();
-    setStageFactory({});
-}
+
+    void windowShowsNoChinese_data() {
+        QTest::addColumn<QByteArray>("window");
+        QTest::newRow("designer") << QByteArray("designer");
+        QTest::newRow("give up") << QByteArray("give up");
+        QTest::newRow("make up") << QByteArray("make up");
+    }
+
+    void windowShowsNoChinese() {
+        QFETCH(QByteArray, window);
+        TempProgramFolder folder;
+        QVERIFY(folder.start());
+        installScriptedUi();
+        QList<QPointer<RecordingStage>> &stages = installRecordingStages();
+        folder.addAward(QStringLiteral("First"), 3, 1);
+        std::unique_ptr<QWidget> shown;
+        if (window == "designer") {
+            const QString name = QStringLiteral("通用模板（16:9)");
+            design::copyToWorkingFile(folder.path(), name);
+            appState().skinFile = design::templatePath(folder.path(), name);
+            shown = std::make_unique<DesignerWindow>();
+            stages.last()->reply(proto::cmd::loadok);
+        } else if (window == "give up") {
+            shown = std::make_unique<GiveUpDialog>();
+        } else {
+            shown = std::make_unique<MakeUpDrawDialog>();
+        }
+        shown->show();
+        QVERIFY(QTest::qWaitForWindowExposed(shown.get()));
+        verifyNoChinese(shownTexts(*shown));
+        shown.reset();
+        setStageFactory({});
+    }
+};
 
 int main(int argc, char *argv[]) {
     return runOnProjector<TestDrawEnglish>(argc, argv);

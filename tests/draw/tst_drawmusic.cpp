@@ -45,124 +45,119 @@ class TestDrawMusic : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void winSoundIsTheOperatorsOrTheChime();
-    void loopsAndComesBackWhereItWasLeft();
-    void whatFollowsAMoment_data();
-    void whatFollowsAMoment();
-    void muteAndMinimiseHoldForEveryFile();
-};
+    void winSoundIsTheOperatorsOrTheChime() {
+        music::Settings settings;
+        QCOMPARE(draw::winSoundPath(settings, QStringLiteral("/party/")),
+                 QStringLiteral("/party/sys/win.wav"));
+        settings[music::Luck].path = QStringLiteral("/party/Music/gong.wav");
+        QCOMPARE(draw::winSoundPath(settings, QStringLiteral("/party/")),
+                 QStringLiteral("/party/Music/gong.wav"));
+    }
 
-void TestDrawMusic::winSoundIsTheOperatorsOrTheChime() {
-    music::Settings settings;
-    QCOMPARE(draw::winSoundPath(settings, QStringLiteral("/party/")),
-             QStringLiteral("/party/sys/win.wav"));
-    settings[music::Luck].path = QStringLiteral("/party/Music/gong.wav");
-    QCOMPARE(draw::winSoundPath(settings, QStringLiteral("/party/")),
-             QStringLiteral("/party/Music/gong.wav"));
-}
+    void loopsAndComesBackWhereItWasLeft() {
+        Sounds sounds;
+        draw::DrawMusic music;
+        music.setSettings(sounds.settings(QStringLiteral("bsw")), sounds.win);
+        music.startBackground();
+        QCOMPARE(music.current(), sounds.bg);
+        FakeMediaBackend *player = sounds.player();
+        QCOMPARE(player->current, MediaBackend::State::Playing);
+        player->position = 12400;
 
-void TestDrawMusic::loopsAndComesBackWhereItWasLeft() {
-    Sounds sounds;
-    draw::DrawMusic music;
-    music.setSettings(sounds.settings(QStringLiteral("bsw")), sounds.win);
-    music.startBackground();
-    QCOMPARE(music.current(), sounds.bg);
-    FakeMediaBackend *player = sounds.player();
-    QCOMPARE(player->current, MediaBackend::State::Playing);
-    player->position = 12400;
+        music.playStartSound();
+        QCOMPARE(music.current(), sounds.start);
+        player->finish();  // the start sound loops
+        QCOMPARE(music.current(), sounds.start);
+        QCOMPARE(player->position, qint64(0));
+        QCOMPARE(player->current, MediaBackend::State::Playing);
 
-    music.playStartSound();
-    QCOMPARE(music.current(), sounds.start);
-    player->finish();  // the start sound loops
-    QCOMPARE(music.current(), sounds.start);
-    QCOMPARE(player->position, qint64(0));
-    QCOMPARE(player->current, MediaBackend::State::Playing);
+        music.playWinSound();
+        QCOMPARE(music.current(), sounds.win);
+        player
+            ->finish();  // the chime ends: back to the background, at the whole second it was left
+        QCOMPARE(music.current(), sounds.bg);
+        QCOMPARE(player->position, qint64(12000));
+        player->finish();  // the background loops from its beginning
+        QCOMPARE(player->position, qint64(0));
+        QCOMPARE(player->current, MediaBackend::State::Playing);
+        // A background that plays already is left alone.
+        player->calls.clear();
+        music.backToBackground();
+        music.endParade();
+        QVERIFY(player->calls.isEmpty());
+    }
 
-    music.playWinSound();
-    QCOMPARE(music.current(), sounds.win);
-    player->finish();  // the chime ends: back to the background, at the whole second it was left
-    QCOMPARE(music.current(), sounds.bg);
-    QCOMPARE(player->position, qint64(12000));
-    player->finish();  // the background loops from its beginning
-    QCOMPARE(player->position, qint64(0));
-    QCOMPARE(player->current, MediaBackend::State::Playing);
-    // A background that plays already is left alone.
-    player->calls.clear();
-    music.backToBackground();
-    music.endParade();
-    QVERIFY(player->calls.isEmpty());
-}
+    void whatFollowsAMoment_data() {
+        QTest::addColumn<QString>("on");
+        QTest::addColumn<QString>("moment");
+        QTest::addColumn<QString>("playing");  // the letter of the sound playing after it, or "-"
+        QTest::newRow("win sound") << u"bw"_s << u"win"_s << u"w"_s;
+        QTest::newRow("no win sound: the background") << u"b"_s << u"win"_s << u"b"_s;
+        QTest::newRow("no win sound, no background: silence") << u"s"_s << u"win"_s << u"-"_s;
+        QTest::newRow("win file missing: start goes on") << u"swx"_s << u"win"_s << u"s"_s;
+        QTest::newRow("start sound off: what plays goes on") << u"w"_s << u"start"_s << u"w"_s;
+        QTest::newRow("parade music") << u"bp"_s << u"parade"_s << u"p"_s;
+        QTest::newRow("parade over: the background") << u"bp"_s << u"paradeEnd"_s << u"b"_s;
+        QTest::newRow("parade over, no background: silence") << u"p"_s << u"paradeEnd"_s << u"-"_s;
+        QTest::newRow("after a cancel: the background") << u"bw"_s << u"back"_s << u"b"_s;
+        QTest::newRow("cancel, no background: what plays goes on") << u"w"_s << u"back"_s << u"w"_s;
+    }
 
-void TestDrawMusic::whatFollowsAMoment_data() {
-    QTest::addColumn<QString>("on");
-    QTest::addColumn<QString>("moment");
-    QTest::addColumn<QString>("playing");  // the letter of the sound playing after it, or "-"
-    QTest::newRow("win sound") << u"bw"_s << u"win"_s << u"w"_s;
-    QTest::newRow("no win sound: the background") << u"b"_s << u"win"_s << u"b"_s;
-    QTest::newRow("no win sound, no background: silence") << u"s"_s << u"win"_s << u"-"_s;
-    QTest::newRow("win file missing: start goes on") << u"swx"_s << u"win"_s << u"s"_s;
-    QTest::newRow("start sound off: what plays goes on") << u"w"_s << u"start"_s << u"w"_s;
-    QTest::newRow("parade music") << u"bp"_s << u"parade"_s << u"p"_s;
-    QTest::newRow("parade over: the background") << u"bp"_s << u"paradeEnd"_s << u"b"_s;
-    QTest::newRow("parade over, no background: silence") << u"p"_s << u"paradeEnd"_s << u"-"_s;
-    QTest::newRow("after a cancel: the background") << u"bw"_s << u"back"_s << u"b"_s;
-    QTest::newRow("cancel, no background: what plays goes on") << u"w"_s << u"back"_s << u"w"_s;
-}
+    // Each moment starts from the start sound, or the win sound when the start sound is off.
+    void whatFollowsAMoment() {
+        QFETCH(QString, on);
+        QFETCH(QString, moment);
+        QFETCH(QString, playing);
+        Sounds sounds;
+        draw::DrawMusic music;
+        music.setSettings(sounds.settings(on), sounds.win);
+        if (on.contains('x')) QFile::remove(sounds.win);
+        music.playStartSound();
+        if (!on.contains('s')) music.playWinSound();
+        if (moment == QLatin1String("win")) music.playWinSound();
+        if (moment == QLatin1String("start")) music.playStartSound();
+        if (moment == QLatin1String("parade")) music.playParadeMusic();
+        if (moment == QLatin1String("paradeEnd")) {
+            music.playParadeMusic();
+            music.endParade();
+        }
+        if (moment == QLatin1String("back")) music.backToBackground();
+        const QHash<QString, QString> files = {
+            {"b", sounds.bg}, {"s", sounds.start}, {"w", sounds.win}, {"p", sounds.parade}};
+        if (playing == QLatin1String("-")) {
+            // Also when the player still reports the end of what it was told to stop.
+            sounds.player()->finish();
+            QVERIFY(sounds.player()->current != MediaBackend::State::Playing);
+        } else {
+            QCOMPARE(music.current(), files.value(playing));
+            QCOMPARE(sounds.player()->current, MediaBackend::State::Playing);
+        }
+    }
 
-// Each moment starts from the start sound, or the win sound when the start sound is off.
-void TestDrawMusic::whatFollowsAMoment() {
-    QFETCH(QString, on);
-    QFETCH(QString, moment);
-    QFETCH(QString, playing);
-    Sounds sounds;
-    draw::DrawMusic music;
-    music.setSettings(sounds.settings(on), sounds.win);
-    if (on.contains('x')) QFile::remove(sounds.win);
-    music.playStartSound();
-    if (!on.contains('s')) music.playWinSound();
-    if (moment == QLatin1String("win")) music.playWinSound();
-    if (moment == QLatin1String("start")) music.playStartSound();
-    if (moment == QLatin1String("parade")) music.playParadeMusic();
-    if (moment == QLatin1String("paradeEnd")) {
+    // The mute and the minimised window hold across the change of file.
+    void muteAndMinimiseHoldForEveryFile() {
+        Sounds sounds;
+        draw::DrawMusic music;
+        music.setSettings(sounds.settings(u"bsp"_s), sounds.win);
+        music.startBackground();
+        music.setMuted(true);
+        music.playStartSound();
+        QCOMPARE(sounds.player()->volume, 0.0f);
+        music.setMuted(false);
+        QCOMPARE(sounds.player()->volume, 1.0f);
+        music.setMinimised(true);
+        QCOMPARE(sounds.player()->current, MediaBackend::State::Paused);
+        music.setMinimised(false);
+        QCOMPARE(sounds.player()->current, MediaBackend::State::Playing);
+        // A parade that ended in silence stays silent when the window comes back.
+        music.setSettings(sounds.settings(u"p"_s), sounds.win);
         music.playParadeMusic();
         music.endParade();
+        music.setMinimised(true);
+        music.setMinimised(false);
+        QCOMPARE(sounds.player()->current, MediaBackend::State::Stopped);
     }
-    if (moment == QLatin1String("back")) music.backToBackground();
-    const QHash<QString, QString> files = {
-        {"b", sounds.bg}, {"s", sounds.start}, {"w", sounds.win}, {"p", sounds.parade}};
-    if (playing == QLatin1String("-")) {
-        // Also when the player still reports the end of what it was told to stop.
-        sounds.player()->finish();
-        QVERIFY(sounds.player()->current != MediaBackend::State::Playing);
-    } else {
-        QCOMPARE(music.current(), files.value(playing));
-        QCOMPARE(sounds.player()->current, MediaBackend::State::Playing);
-    }
-}
-
-// The mute and the minimised window hold across the change of file.
-void TestDrawMusic::muteAndMinimiseHoldForEveryFile() {
-    Sounds sounds;
-    draw::DrawMusic music;
-    music.setSettings(sounds.settings(u"bsp"_s), sounds.win);
-    music.startBackground();
-    music.setMuted(true);
-    music.playStartSound();
-    QCOMPARE(sounds.player()->volume, 0.0f);
-    music.setMuted(false);
-    QCOMPARE(sounds.player()->volume, 1.0f);
-    music.setMinimised(true);
-    QCOMPARE(sounds.player()->current, MediaBackend::State::Paused);
-    music.setMinimised(false);
-    QCOMPARE(sounds.player()->current, MediaBackend::State::Playing);
-    // A parade that ended in silence stays silent when the window comes back.
-    music.setSettings(sounds.settings(u"p"_s), sounds.win);
-    music.playParadeMusic();
-    music.endParade();
-    music.setMinimised(true);
-    music.setMinimised(false);
-    QCOMPARE(sounds.player()->current, MediaBackend::State::Stopped);
-}
+};
 
 QTEST_MAIN(TestDrawMusic)
 #include "tst_drawmusic.moc"

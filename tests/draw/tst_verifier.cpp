@@ -105,108 +105,105 @@ class TestVerifier : public QObject {
 
 private Q_SLOTS:
     void init() { m_ui = installScriptedUi(); }
-    void eveningHoldsBeforeAndAfterTheReveal();
-    void tamperingFailsExactlyThatPress_data();
-    void tamperingFailsExactlyThatPress();
-    void pressNotLoggedIsNotDrawn();
+
+    void eveningHoldsBeforeAndAfterTheReveal() {
+        Evening evening;
+        QVERIFY(evening.run());
+        // As after a crash: nothing revealed, every press still checked by its logged seed.
+        draw::VerifyReport report = evening.verify();
+        QVERIFY2(report.holds(), qPrintable(draw::reportText(report)));
+        QCOMPARE(report.presses.size(), size_t(4));
+        QCOMPARE(report.unrevealedCount(), 4);
+
+        const QString secret = evening.engine->secret().hex();
+        evening.engine.reset();
+        report = evening.verify();
+        QVERIFY2(report.holds(), qPrintable(draw::reportText(report)));
+        QCOMPARE(report.unrevealedCount(), 0);
+        QCOMPARE(field(evening.logLines().last(), "secret"), secret);
+    }
+
+    void tamperingFailsExactlyThatPress_data() {
+        QTest::addColumn<Tamper>("tamper");
+        QTest::addColumn<quint64>("press");
+        // Edits a forger numbers and hashes again are found by what the lines say.
+        QTest::newRow("a winner edited") << Tamper([](Evening &, QStringList &lines) {
+            QString &line = lines[lineOf(lines, "press", 4)];
+            QStringList winners = field(line, "winners").split(',');
+            winners[0] = QString::number(winners[0].toLongLong() % 40 + 1);
+            line = withField(line, "winners", winners.join(','));
+            rechain(lines);
+        }) << quint64(4);
+        QTest::newRow("last winner dropped, count lowered")
+            << Tamper([](Evening &, QStringList &lines) {
+                   for (const QString kind : {"press", "record"}) {
+                       QString &line = lines[lineOf(lines, kind, 4)];
+                       QStringList winners = field(line, "winners").split(',');
+                       winners.removeLast();
+                       line = withField(line, "winners", winners.join(','));
+                       if (kind == QLatin1String("press"))
+                           line = withField(line, "batch", QString::number(winners.size()));
+                   }
+                   rechain(lines);
+               })
+            << quint64(4);
+        QTest::newRow("a seed changed") << Tamper([](Evening &, QStringList &lines) {
+            QString &line = lines[lineOf(lines, "press", 1)];
+            line = withField(line, "seed",
+                             draw::seedText(field(line, "seed").toULongLong(nullptr, 16) ^ 1));
+            rechain(lines);
+        }) << quint64(1);
+        QTest::newRow("the roster behind a press changed") << Tamper([](Evening &e, QStringList &) {
+            const QString hash = field(e.logLines().first(), "roster");
+            QFile file(draw::rosterFilePath(e.folder.path(), hash));
+            file.open(QIODevice::ReadWrite);
+            QByteArray bytes = file.readAll();
+            const QByteArray entry = QByteArray::number(e.fiveHolder) + ",5\n";
+            bytes.replace(entry, QByteArray::number(e.fiveHolder) + ",6\n");
+            file.seek(0);
+            file.write(bytes);
+        }) << quint64(3);
+        // Lines removed or moved break the chain where they were.
+        QTest::newRow("a line removed") << Tamper([](Evening &, QStringList &lines) {
+            lines.removeAt(lineOf(lines, "press", 3));
+        }) << quint64(3);
+        QTest::newRow("two lines swapped") << Tamper([](Evening &, QStringList &lines) {
+            lines.swapItemsAt(lineOf(lines, "press", 3), lineOf(lines, "record", 3));
+        }) << quint64(3);
+    }
+
+    void tamperingFailsExactlyThatPress() {
+        QFETCH(Tamper, tamper);
+        QFETCH(quint64, press);
+        Evening evening;
+        QVERIFY(evening.run());
+        evening.engine.reset();
+        QStringList lines = evening.logLines();
+        tamper(evening, lines);
+        evening.writeLog(lines);
+        const draw::VerifyReport report = evening.verify();
+        QVERIFY(!report.holds());
+        QVERIFY2(failedPresses(report) == QList<quint64>{press},
+                 qPrintable(draw::reportText(report)));
+    }
+
+    // Decision: the log is the proof, so a press it cannot hold does not happen.
+    void pressNotLoggedIsNotDrawn() {
+        Evening evening;
+        QVERIFY(evening.started);
+        evening.folder.addUsers({"甲", "乙"});
+        const int award = evening.folder.addAward(QStringLiteral("一等奖"), 1, 1);
+        QVERIFY(QDir().mkpath(draw::auditLogPath(evening.folder.path())));  // unwritable: a folder
+        QVERIFY(evening.engine->loadAward(award, true));
+        QCOMPARE(evening.engine->pressStart(), draw::DrawEngine::StartOutcome::NotLogged);
+        QCOMPARE(m_ui->last().text, QStringLiteral("无法写入抽奖记录,本次抽奖未进行!"));
+        QVERIFY(evening.stage.values(proto::vbndluck).isEmpty());
+        QCOMPARE(evening.engine->state(), int(draw::Idle));
+    }
 
 private:
     ScriptedUi *m_ui = nullptr;
 };
-
-void TestVerifier::eveningHoldsBeforeAndAfterTheReveal() {
-    Evening evening;
-    QVERIFY(evening.run());
-    // As after a crash: nothing revealed, every press still checked by its logged seed.
-    draw::VerifyReport report = evening.verify();
-    QVERIFY2(report.holds(), qPrintable(draw::reportText(report)));
-    QCOMPARE(report.presses.size(), size_t(4));
-    QCOMPARE(report.unrevealedCount(), 4);
-
-    const QString secret = evening.engine->secret().hex();
-    evening.engine.reset();
-    report = evening.verify();
-    QVERIFY2(report.holds(), qPrintable(draw::reportText(report)));
-    QCOMPARE(report.unrevealedCount(), 0);
-    QCOMPARE(field(evening.logLines().last(), "secret"), secret);
-}
-
-void TestVerifier::tamperingFailsExactlyThatPress_data() {
-    QTest::addColumn<Tamper>("tamper");
-    QTest::addColumn<quint64>("press");
-    // Edits a forger numbers and hashes again are found by what the lines say.
-    QTest::newRow("a winner edited") << Tamper([](Evening &, QStringList &lines) {
-        QString &line = lines[lineOf(lines, "press", 4)];
-        QStringList winners = field(line, "winners").split(',');
-        winners[0] = QString::number(winners[0].toLongLong() % 40 + 1);
-        line = withField(line, "winners", winners.join(','));
-        rechain(lines);
-    }) << quint64(4);
-    QTest::newRow("last winner dropped, count lowered")
-        << Tamper([](Evening &, QStringList &lines) {
-               for (const QString kind : {"press", "record"}) {
-                   QString &line = lines[lineOf(lines, kind, 4)];
-                   QStringList winners = field(line, "winners").split(',');
-                   winners.removeLast();
-                   line = withField(line, "winners", winners.join(','));
-                   if (kind == QLatin1String("press"))
-                       line = withField(line, "batch", QString::number(winners.size()));
-               }
-               rechain(lines);
-           })
-        << quint64(4);
-    QTest::newRow("a seed changed") << Tamper([](Evening &, QStringList &lines) {
-        QString &line = lines[lineOf(lines, "press", 1)];
-        line = withField(line, "seed",
-                         draw::seedText(field(line, "seed").toULongLong(nullptr, 16) ^ 1));
-        rechain(lines);
-    }) << quint64(1);
-    QTest::newRow("the roster behind a press changed") << Tamper([](Evening &e, QStringList &) {
-        const QString hash = field(e.logLines().first(), "roster");
-        QFile file(draw::rosterFilePath(e.folder.path(), hash));
-        file.open(QIODevice::ReadWrite);
-        QByteArray bytes = file.readAll();
-        const QByteArray entry = QByteArray::number(e.fiveHolder) + ",5\n";
-        bytes.replace(entry, QByteArray::number(e.fiveHolder) + ",6\n");
-        file.seek(0);
-        file.write(bytes);
-    }) << quint64(3);
-    // Lines removed or moved break the chain where they were.
-    QTest::newRow("a line removed")
-        << Tamper([](Evening &, QStringList &lines) { lines.removeAt(lineOf(lines, "press", 3)); })
-        << quint64(3);
-    QTest::newRow("two lines swapped") << Tamper([](Evening &, QStringList &lines) {
-        lines.swapItemsAt(lineOf(lines, "press", 3), lineOf(lines, "record", 3));
-    }) << quint64(3);
-}
-
-void TestVerifier::tamperingFailsExactlyThatPress() {
-    QFETCH(Tamper, tamper);
-    QFETCH(quint64, press);
-    Evening evening;
-    QVERIFY(evening.run());
-    evening.engine.reset();
-    QStringList lines = evening.logLines();
-    tamper(evening, lines);
-    evening.writeLog(lines);
-    const draw::VerifyReport report = evening.verify();
-    QVERIFY(!report.holds());
-    QVERIFY2(failedPresses(report) == QList<quint64>{press}, qPrintable(draw::reportText(report)));
-}
-
-// Decision: the log is the proof, so a press it cannot hold does not happen.
-void TestVerifier::pressNotLoggedIsNotDrawn() {
-    Evening evening;
-    QVERIFY(evening.started);
-    evening.folder.addUsers({"甲", "乙"});
-    const int award = evening.folder.addAward(QStringLiteral("一等奖"), 1, 1);
-    QVERIFY(QDir().mkpath(draw::auditLogPath(evening.folder.path())));  // unwritable: a folder
-    QVERIFY(evening.engine->loadAward(award, true));
-    QCOMPARE(evening.engine->pressStart(), draw::DrawEngine::StartOutcome::NotLogged);
-    QCOMPARE(m_ui->last().text, QStringLiteral("无法写入抽奖记录,本次抽奖未进行!"));
-    QVERIFY(evening.stage.values(proto::vbndluck).isEmpty());
-    QCOMPARE(evening.engine->state(), int(draw::Idle));
-}
 
 QTEST_MAIN(TestVerifier)
 #include "tst_verifier.moc"

@@ -30,99 +30,93 @@ class TestExportWinners : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void quoting_data();
-    void quoting();
-    void writesAwardsInOrderAndWinnersByTime();
-    void noAwardsIsRefused();
-    void defaultFileIsUnderRecord();
+    void quoting_data() {
+        QTest::addColumn<QStringList>("fields");
+        QTest::addColumn<QByteArray>("line");
+        QTest::newRow("plain") << QStringList{"1", "一等奖", "张三"} << QByteArray("1,一等奖,张三");
+        QTest::newRow("empty fields") << QStringList{"", "", ""} << QByteArray(",,");
+        QTest::newRow("comma") << QStringList{"O'Brien, Jr."} << QByteArray("\"O'Brien, Jr.\"");
+        QTest::newRow("quote") << QStringList{"说\"好\""} << QByteArray("\"说\"\"好\"\"\"");
+        QTest::newRow("line feed") << QStringList{"a\nb", "x"} << QByteArray("\"a\nb\",x");
+        QTest::newRow("carriage return") << QStringList{"a\rb"} << QByteArray("\"a\rb\"");
+        QTest::newRow("bar and dollar stay") << QStringList{"a|b$c"} << QByteArray("a|b$c");
+    }
+
+    void quoting() {
+        QFETCH(QStringList, fields);
+        QFETCH(QByteArray, line);
+        QCOMPARE(results::csvLine(fields), line);
+    }
+
+    void writesAwardsInOrderAndWinnersByTime() {
+        TempProgramFolder folder;
+        QVERIFY(folder.start());
+        ScriptedUi *scripted = installScriptedUi();
+        const int second = folder.addAward(QStringLiteral("二等奖"), 5, 1, 1, 0, 0, 0,
+                                           QStringLiteral("平板, 电脑"));
+        const int first =
+            folder.addAward(QStringLiteral("一等奖"), 5, 1, 1, 0, 0, 0, QStringLiteral("笔记本"));
+        folder.addAward(QStringLiteral("特等奖"), 1, 1);
+        store::exec(folder.db(),
+                    "UPDATE JPList SET OrderNum=CASE ID WHEN ? THEN 1 WHEN ? THEN 2 ELSE 3 END",
+                    {first, second});
+        const QList<int> users =
+            folder.addUsers({QStringLiteral("张三|研发部"), QStringLiteral("李\"四\"|市场部"),
+                             QStringLiteral("王五|销售,一组"), QStringLiteral("赵六|行政部")});
+        const QString a1 = store::awardMarker(first);
+        const QString a2 = store::awardMarker(second);
+        win(folder.db(), users[0], a1 + a2, QStringLiteral("2026-01-01 20:00:05"));
+        win(folder.db(), users[1], a1, QStringLiteral("2026-01-01 20:00:01"));
+        win(folder.db(), users[2], a2, QStringLiteral("2026-01-01 19:00:00"));
+        win(folder.db(), users[3], a1, QStringLiteral("2026-01-01 20:00:01"));
+
+        const QString path = folder.path(QStringLiteral("out.csv"));
+        QFile::remove(path);
+        QCOMPARE(exportWinners(path, true), path);
+        const QByteArray expected = kHeader + QStringLiteral(
+                                                  "1,一等奖,笔记本,\"李\"\"四\"\"\",市场部\r\n"
+                                                  "2,一等奖,笔记本,赵六,行政部\r\n"
+                                                  "3,一等奖,笔记本,张三,研发部\r\n"
+                                                  "4,二等奖,\"平板, 电脑\",王五,\"销售,一组\"\r\n"
+                                                  "5,二等奖,\"平板, 电脑\",张三,研发部\r\n")
+                                                  .toUtf8();
+        QCOMPARE(readAll(path), expected);
+        QCOMPARE(scripted->last().text, path + QStringLiteral("\n导出名单完毕!!"));
+        QCOMPARE(scripted->last().title, QStringLiteral("提示"));
+
+        // A second export overwrites the file and, without showDone, says nothing.
+        scripted->clear();
+        win(folder.db(), users[0], QString(), QString());
+        QCOMPARE(exportWinners(path, false), path);
+        QVERIFY(scripted->records.isEmpty());
+        QVERIFY(readAll(path).size() < expected.size());
+    }
+
+    void noAwardsIsRefused() {
+        TempProgramFolder folder;
+        QVERIFY(folder.start());
+        ScriptedUi *scripted = installScriptedUi();
+        const QString path = folder.path(QStringLiteral("none.csv"));
+        QVERIFY(exportWinners(path, true).isEmpty());
+        QCOMPARE(scripted->texts(), QStringList{QStringLiteral("没有奖项导出失败!")});
+        QCOMPARE(scripted->last().title, QStringLiteral("警告"));
+        QVERIFY(!QFile::exists(path));
+    }
+
+    // Without a chosen file the list goes under record/; without winners it is the header alone.
+    void defaultFileIsUnderRecord() {
+        TempProgramFolder folder;
+        QVERIFY(folder.start());
+        installScriptedUi();
+        const QDateTime time(QDate(2026, 3, 4), QTime(9, 5));
+        QCOMPARE(results::defaultExportPath(time),
+                 folder.path(QStringLiteral("record/中奖记录20263495.csv")));
+        folder.addAward(QStringLiteral("一等奖"), 3, 1);
+        const QString written = exportWinners(QString(), false);
+        QVERIFY(written.startsWith(folder.path(QStringLiteral("record/中奖记录"))));
+        QCOMPARE(readAll(written), kHeader);
+    }
 };
-
-void TestExportWinners::quoting_data() {
-    QTest::addColumn<QStringList>("fields");
-    QTest::addColumn<QByteArray>("line");
-    QTest::newRow("plain") << QStringList{"1", "一等奖", "张三"} << QByteArray("1,一等奖,张三");
-    QTest::newRow("empty fields") << QStringList{"", "", ""} << QByteArray(",,");
-    QTest::newRow("comma") << QStringList{"O'Brien, Jr."} << QByteArray("\"O'Brien, Jr.\"");
-    QTest::newRow("quote") << QStringList{"说\"好\""} << QByteArray("\"说\"\"好\"\"\"");
-    QTest::newRow("line feed") << QStringList{"a\nb", "x"} << QByteArray("\"a\nb\",x");
-    QTest::newRow("carriage return") << QStringList{"a\rb"} << QByteArray("\"a\rb\"");
-    QTest::newRow("bar and dollar stay") << QStringList{"a|b$c"} << QByteArray("a|b$c");
-}
-
-void TestExportWinners::quoting() {
-    QFETCH(QStringList, fields);
-    QFETCH(QByteArray, line);
-    QCOMPARE(results::csvLine(fields), line);
-}
-
-void TestExportWinners::writesAwardsInOrderAndWinnersByTime() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    ScriptedUi *scripted = installScriptedUi();
-    const int second =
-        folder.addAward(QStringLiteral("二等奖"), 5, 1, 1, 0, 0, 0, QStringLiteral("平板, 电脑"));
-    const int first =
-        folder.addAward(QStringLiteral("一等奖"), 5, 1, 1, 0, 0, 0, QStringLiteral("笔记本"));
-    folder.addAward(QStringLiteral("特等奖"), 1, 1);
-    store::exec(folder.db(),
-                "UPDATE JPList SET OrderNum=CASE ID WHEN ? THEN 1 WHEN ? THEN 2 ELSE 3 END",
-                {first, second});
-    const QList<int> users =
-        folder.addUsers({QStringLiteral("张三|研发部"), QStringLiteral("李\"四\"|市场部"),
-                         QStringLiteral("王五|销售,一组"), QStringLiteral("赵六|行政部")});
-    const QString a1 = store::awardMarker(first);
-    const QString a2 = store::awardMarker(second);
-    win(folder.db(), users[0], a1 + a2, QStringLiteral("2026-01-01 20:00:05"));
-    win(folder.db(), users[1], a1, QStringLiteral("2026-01-01 20:00:01"));
-    win(folder.db(), users[2], a2, QStringLiteral("2026-01-01 19:00:00"));
-    win(folder.db(), users[3], a1, QStringLiteral("2026-01-01 20:00:01"));
-
-    const QString path = folder.path(QStringLiteral("out.csv"));
-    QFile::remove(path);
-    QCOMPARE(exportWinners(path, true), path);
-    const QByteArray expected = kHeader + QStringLiteral(
-                                              "1,一等奖,笔记本,\"李\"\"四\"\"\",市场部\r\n"
-                                              "2,一等奖,笔记本,赵六,行政部\r\n"
-                                              "3,一等奖,笔记本,张三,研发部\r\n"
-                                              "4,二等奖,\"平板, 电脑\",王五,\"销售,一组\"\r\n"
-                                              "5,二等奖,\"平板, 电脑\",张三,研发部\r\n")
-                                              .toUtf8();
-    QCOMPARE(readAll(path), expected);
-    QCOMPARE(scripted->last().text, path + QStringLiteral("\n导出名单完毕!!"));
-    QCOMPARE(scripted->last().title, QStringLiteral("提示"));
-
-    // A second export overwrites the file and, without showDone, says nothing.
-    scripted->clear();
-    win(folder.db(), users[0], QString(), QString());
-    QCOMPARE(exportWinners(path, false), path);
-    QVERIFY(scripted->records.isEmpty());
-    QVERIFY(readAll(path).size() < expected.size());
-}
-
-void TestExportWinners::noAwardsIsRefused() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    ScriptedUi *scripted = installScriptedUi();
-    const QString path = folder.path(QStringLiteral("none.csv"));
-    QVERIFY(exportWinners(path, true).isEmpty());
-    QCOMPARE(scripted->texts(), QStringList{QStringLiteral("没有奖项导出失败!")});
-    QCOMPARE(scripted->last().title, QStringLiteral("警告"));
-    QVERIFY(!QFile::exists(path));
-}
-
-// Without a chosen file the list goes under record/; without winners it is the header alone.
-void TestExportWinners::defaultFileIsUnderRecord() {
-    TempProgramFolder folder;
-    QVERIFY(folder.start());
-    installScriptedUi();
-    const QDateTime time(QDate(2026, 3, 4), QTime(9, 5));
-    QCOMPARE(results::defaultExportPath(time),
-             folder.path(QStringLiteral("record/中奖记录20263495.csv")));
-    folder.addAward(QStringLiteral("一等奖"), 3, 1);
-    const QString written = exportWinners(QString(), false);
-    QVERIFY(written.startsWith(folder.path(QStringLiteral("record/中奖记录"))));
-    QCOMPARE(readAll(written), kHeader);
-}
 
 QTEST_MAIN(TestExportWinners)
 #include "tst_exportwinners.moc"

@@ -83,328 +83,317 @@ private Q_SLOTS:
         m_ui = installScriptedUi();
     }
     void cleanup() { m_folder.reset(); }
-    void firstFillWaitsForViewer();
-    void fillsWithoutARecordingViewer();
-    void pagesAreClamped_data();
-    void pagesAreClamped();
-    void sortModes_data();
-    void sortModes();
-    void countersAndStatusWords();
-    void saveKeepsWinAndRefusesDuplicates();
-    void savePictureStates();
-    void deleteTickedRemovesPhotos();
-    void batchDistinctionNumber_data();
-    void batchDistinctionNumber();
-    void exportsShownPage();
-    void addUserRules();
-    void cameraMissing();
-    void cameraSaveHandsOver();
+
+    void firstFillWaitsForViewer() {
+        m_folder->addUsers({"甲|一部", "乙|二部"});
+        auto &stages = installRecordingStages();
+        RosterManagerDialog form;
+        QCOMPARE(stages.last()->movie, m_folder->path("sys/viewer.qml"));
+        QCOMPARE(participants(form)->topLevelItemCount(), 0);
+        stages.last()->reply(QStringLiteral("other"), QStringLiteral("yes"));
+        QCOMPARE(participants(form)->topLevelItemCount(), 0);
+        stages.last()->reply(proto::cmd::loadok, QStringLiteral("yes"));
+        QCOMPARE(participants(form)->topLevelItemCount(), 2);
+        // The row count equals the table's, so the last row is selected and loaded.
+        QCOMPARE(edit(form, "nameEdit")->text(), QStringLiteral("乙"));
+        QCOMPARE(participants(form)->topLevelItem(1)->text(1), QStringLiteral("2"));
+    }
+
+    // Without a viewer the list fills at once; with the real one, when it reports.
+    void fillsWithoutARecordingViewer() {
+        m_folder->addUsers({"甲|一部"});
+        setStageFactory([](QWidget *parent) { return std::make_unique<SilentStage>(parent); });
+        QCOMPARE(participants(RosterManagerDialog())->topLevelItemCount(), 1);
+        setStageFactory({});
+        RosterManagerDialog form;
+        QTRY_COMPARE(participants(form)->topLevelItemCount(), 1);
+        QCOMPARE(edit(form, "nameEdit")->text(), QStringLiteral("甲"));
+    }
+
+    void pagesAreClamped_data() {
+        QTest::addColumn<QString>("search");
+        QTest::addColumn<int>("page");
+        QTest::addColumn<int>("shownPage");
+        QTest::addColumn<int>("pageCount");
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<int>("total");
+        QTest::newRow("first") << "" << 1 << 1 << 3 << 1000 << 2500;
+        QTest::newRow("last") << "" << 3 << 3 << 3 << 500 << 2500;
+        QTest::newRow("beyond") << "" << 9 << 3 << 3 << 500 << 2500;
+        QTest::newRow("below") << "" << 0 << 1 << 3 << 1000 << 2500;
+        QTest::newRow("search from page 3") << "人1" << 3 << 2 << 2 << 111 << 1111;
+        QTest::newRow("no hits") << "无此人" << 3 << 3 << 0 << 0 << 0;
+        QTest::newRow("wildcards are text") << "%" << 1 << 1 << 0 << 0 << 0;
+    }
+
+    void pagesAreClamped() {
+        QFETCH(QString, search);
+        QFETCH(int, page);
+        QFETCH(int, shownPage);
+        QFETCH(int, pageCount);
+        QFETCH(int, rows);
+        QFETCH(int, total);
+        fillRoster(m_folder->db(), 2500);
+        auto form = openManager();
+        form->showParticipants(search, page);
+        QCOMPARE(participants(*form)->topLevelItemCount(), rows);
+        QCOMPARE(labelText(*form, "pageLabel"),
+                 QStringLiteral("当前第∶%1页/ 共%2页").arg(shownPage).arg(pageCount));
+        QCOMPARE(labelText(*form, "totalLabel"), QStringLiteral("总计人数：%1").arg(total));
+        QCOMPARE(button(*form, "previousPageButton")->isEnabled(), rows > 0 && shownPage > 1);
+        // A long roster selects no row, so the editor waits for a click before it can save.
+        QVERIFY(!button(*form, "saveButton")->isEnabled());
+        if (rows == 0) return;
+        participants(*form)->setCurrentItem(participants(*form)->topLevelItem(0));
+        QVERIFY(button(*form, "saveButton")->isEnabled());
+    }
+
+    void sortModes_data() {
+        QTest::addColumn<int>("sort");
+        QTest::addColumn<QStringList>("firstIds");
+        QTest::newRow("ID") << 0 << QStringList{"1", "2", "3"};
+        QTest::newRow("remark") << 1 << QStringList{"7", "14", "21"};
+        QTest::newRow("distinction number") << 2 << QStringList{"5", "10", "15"};
+        QTest::newRow("status") << 3 << QStringList{"3", "4", "5"};
+    }
+
+    void sortModes() {
+        QFETCH(int, sort);
+        QFETCH(QStringList, firstIds);
+        fillRoster(m_folder->db(), 2500);
+        roster::Page page;
+        QString error;
+        QVERIFY(roster::readPage(m_folder->db(), QString(), sort, 2, &page, &error));
+        QCOMPARE(page.rows.size(), 1000);
+        roster::Page first;
+        QVERIFY(roster::readPage(m_folder->db(), QString(), sort, 1, &first, &error));
+        QStringList ids;
+        for (int i = 0; i < 3; ++i)
+            ids << QString::number(first.rows.at(i).id);
+        QCOMPARE(ids, firstIds);
+        // Pages never overlap.
+        QSet<int> seen;
+        for (const auto &row : std::as_const(first.rows))
+            seen.insert(row.id);
+        for (const auto &row : std::as_const(page.rows))
+            QVERIFY(!seen.contains(row.id));
+    }
+
+    void countersAndStatusWords() {
+        fillRoster(m_folder->db(), 20);
+        auto form = openManager();
+        QCOMPARE(labelText(*form, "wonLabel"), QStringLiteral("已中奖人数：2"));
+        QCOMPARE(labelText(*form, "gaveUpLabel"), QStringLiteral("弃奖∶2"));
+        QCOMPARE(participants(*form)->topLevelItem(0)->text(5), QStringLiteral("已弃奖"));
+        QCOMPARE(participants(*form)->topLevelItem(0)->foreground(5).color(), QColor(255, 0, 0));
+        QCOMPARE(participants(*form)->topLevelItem(1)->text(5), QStringLiteral("已领奖"));
+        QCOMPARE(participants(*form)->topLevelItem(9)->text(5), QStringLiteral("已中奖"));
+        QCOMPARE(participants(*form)->topLevelItem(9)->foreground(5).color(), QColor(18, 118, 0));
+        QCOMPARE(participants(*form)->topLevelItem(2)->text(5), QString());
+        appState().selJxid = 4;
+        store::exec(m_folder->db(), "UPDATE UserList SET UserStatus=0");
+        form->showParticipants(QString(), 1);
+        QCOMPARE(appState().selJxid, qint16(0));
+    }
+
+    void saveKeepsWinAndRefusesDuplicates() {
+        m_folder->addUsers({"甲|一部|1", "乙|二部|2"});
+        store::exec(m_folder->db(), "UPDATE UserList SET UserStatus=3, JxID='|1|' WHERE ID=2");
+        auto form = openManager();
+        participants(*form)->setCurrentItem(participants(*form)->topLevelItem(1));
+        edit(*form, "nameEdit")->setText(QStringLiteral("甲"));
+        edit(*form, "remarkEdit")->setText(QStringLiteral("一部"));
+        button(*form, "saveButton")->click();
+        QCOMPARE(m_ui->last().text, QStringLiteral("名单重复,已经存在同样的人员信息"));
+        QCOMPARE(m_ui->last().title, QStringLiteral("编辑失败"));
+        edit(*form, "diffNumEdit")->setValidator(nullptr);
+        edit(*form, "diffNumEdit")->setText(QStringLiteral("x1"));
+        edit(*form, "remarkEdit")->setText(QStringLiteral("三部"));
+        button(*form, "saveButton")->click();
+        QCOMPARE(m_ui->last().text, QStringLiteral("“区分编号”只能填写数字"));
+        edit(*form, "diffNumEdit")->setText(QStringLiteral("12345678901"));
+        button(*form, "saveButton")->click();
+        QCOMPARE(m_ui->last().text, roster::kDiffNumTooLarge);
+        edit(*form, "diffNumEdit")->setText(QStringLiteral("9"));
+        edit(*form, "nameEdit")->setText(QStringLiteral("   "));
+        button(*form, "saveButton")->click();
+        QCOMPARE(m_ui->last().text, QStringLiteral("请输入抽奖名单!"));
+        edit(*form, "nameEdit")->setText(QStringLiteral("甲 "));
+        button(*form, "saveButton")->click();
+        QCOMPARE(m_ui->last().text, QStringLiteral("数据更新成功！"));
+        QCOMPARE(store::scalar(m_folder->db(),
+                               "SELECT UserName || '/' || UserPart || '/' || DiffNum || "
+                               "'/' || UserStatus || JxID FROM UserList WHERE ID=2")
+                     .toString(),
+                 QStringLiteral("甲 /三部/9/3|1|"));
+        // Saving a row unchanged is no duplicate of itself.
+        button(*form, "saveButton")->click();
+        QCOMPARE(m_ui->last().text, QStringLiteral("数据更新成功！"));
+        QCOMPARE(participants(*form)->currentItem()->text(1), QStringLiteral("2"));
+    }
+
+    void savePictureStates() {
+        m_folder->addUsers({"甲|一部"});
+        auto form = openManager();
+        QTemporaryDir dir;
+        const QString chosen = dir.filePath(QStringLiteral("face.png"));
+        QImage(20, 20, QImage::Format_RGB32).save(chosen);
+        edit(*form, "photoStateEdit")->setText(chosen);
+        button(*form, "saveButton")->click();
+        QCOMPARE(
+            store::scalar(m_folder->db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
+            QStringLiteral("Photos/U1.png"));
+        QVERIFY(QFile::exists(m_folder->path("Photos/U1.png")));
+        QCOMPARE(edit(*form, "photoStateEdit")->text(), QStringLiteral("yes"));
+        QImage(30, 30, QImage::Format_RGB32).save(m_folder->path("Photos/camertemp.jpg"));
+        edit(*form, "photoStateEdit")->setText(QStringLiteral("camre"));
+        button(*form, "saveButton")->click();
+        QCOMPARE(
+            store::scalar(m_folder->db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
+            QStringLiteral("Photos/U1.jpg"));
+        QCOMPARE(QImage(m_folder->path("Photos/U1.jpg")).size(), QSize(30, 30));
+        edit(*form, "photoStateEdit")->setText(QStringLiteral("no"));
+        button(*form, "saveButton")->click();
+        QCOMPARE(
+            store::scalar(m_folder->db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
+            QString());
+        QVERIFY(!QFile::exists(m_folder->path("Photos/U1.jpg")));
+        QVERIFY(QFile::exists(m_folder->path("Photos/camertemp.jpg")));
+    }
+
+    void deleteTickedRemovesPhotos() {
+        fillRoster(m_folder->db(), 1001);
+        store::exec(m_folder->db(),
+                    "UPDATE UserList SET UserPhoto='Photos/U1001.jpg' WHERE ID=1001");
+        QImage(5, 5, QImage::Format_RGB32).save(m_folder->path("Photos/U1001.jpg"));
+        auto form = openManager();
+        trigger(*form, "deleteAction");
+        QCOMPARE(m_ui->last().text, QStringLiteral("请勾选需要删除的名单!"));
+        form->showParticipants(QString(), 2);
+        trigger(*form, "tickAllAction");
+        QVERIFY(child<QCheckBox>(*form, "tickAllBox")->isChecked());
+        m_ui->answers.enqueue(false);
+        trigger(*form, "deleteAction");
+        QCOMPARE(m_ui->last().text, QStringLiteral("确认要删除选择的抽奖名单么?"));
+        QCOMPARE(store::scalar(m_folder->db(), "SELECT COUNT(*) FROM UserList").toInt(), 1001);
+        m_ui->answers.enqueue(true);
+        trigger(*form, "deleteAction");
+        QCOMPARE(store::scalar(m_folder->db(), "SELECT COUNT(*) FROM UserList").toInt(), 1000);
+        QVERIFY(!QFile::exists(m_folder->path("Photos/U1001.jpg")));
+        // The emptied last page clamps to the new last one.
+        QCOMPARE(labelText(*form, "pageLabel"), QStringLiteral("当前第∶1页/ 共1页"));
+    }
+
+    void batchDistinctionNumber_data() {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<int>("stored");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("number") << "42" << 42 << "数据更新成功！";
+        QTest::newRow("cancel") << "" << 1 << "请输入区分编号\n只能输入数字";
+        QTest::newRow("text") << "4a" << 1 << "您没输入正确的区分编号!";
+        QTest::newRow("beyond 32 bits") << "99999999999" << 1 << "您没输入正确的区分编号!";
+    }
+
+    void batchDistinctionNumber() {
+        QFETCH(QString, answer);
+        QFETCH(int, stored);
+        QFETCH(QString, message);
+        m_folder->addUsers({"甲|一部|1", "乙|二部|1"});
+        auto form = openManager();
+        button(*form, "setDiffNumButton")->click();
+        QCOMPARE(m_ui->last().text, QStringLiteral("请勾选需要设置区分编号的名单!"));
+        participants(*form)->topLevelItem(0)->setCheckState(0, Qt::Checked);
+        m_ui->inputs.enqueue(answer);
+        button(*form, "setDiffNumButton")->click();
+        QCOMPARE(m_ui->last().text, message);
+        QCOMPARE(store::scalar(m_folder->db(), "SELECT DiffNum FROM UserList WHERE ID=1").toInt(),
+                 stored);
+        QCOMPARE(store::scalar(m_folder->db(), "SELECT DiffNum FROM UserList WHERE ID=2").toInt(),
+                 1);
+    }
+
+    void exportsShownPage() {
+        m_folder->addUsers({"甲,乙|一部|3", "丙\"|二部"});
+        auto form = openManager();
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("out.csv"));
+        m_ui->files.enqueue(path);
+        button(*form, "exportButton")->click();
+        QCOMPARE(m_ui->last().text, QStringLiteral("导出完毕"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(),
+                 QByteArray("\xEF\xBB\xBF") +
+                     QStringLiteral("排序,抽奖名单(抽奖时滚动的内容),备注,照片,状态,区分编号\r\n"
+                                    "1,\"甲,乙\",一部,,,3\r\n2,\"丙\"\"\",二部,,,0\r\n")
+                         .toUtf8());
+        QVERIFY(button(*form, "exportButton")->isEnabled());
+    }
+
+    void addUserRules() {
+        m_folder->addUsers({"甲|一部"});
+        installRecordingStages();
+        AddParticipantDialog form;
+        QCOMPARE(edit(form, "diffNumEdit")->text(), QStringLiteral("0"));
+        QPushButton *add = button(form, "addButton");
+        add->click();
+        QCOMPARE(m_ui->last().text, QStringLiteral("请输入抽奖名单!"));
+        edit(form, "nameEdit")->setText(QStringLiteral(" 甲 "));
+        edit(form, "remarkEdit")->setText(QStringLiteral("一部"));
+        add->click();
+        QCOMPARE(m_ui->last().title, QStringLiteral("新增失败"));
+        QCOMPARE(form.result(), int(QDialog::Rejected));
+        edit(form, "remarkEdit")->setText(QStringLiteral("二部"));
+        edit(form, "diffNumEdit")->setText(QStringLiteral("12345678901"));
+        add->click();
+        QCOMPARE(m_ui->last().text, roster::kDiffNumTooLarge);
+        edit(form, "diffNumEdit")->setText(QString());
+        QImage(10, 10, QImage::Format_RGB32).save(m_folder->path("Photos/camertemp.jpg"));
+        edit(form, "photoStateEdit")->setText(QStringLiteral("camre"));
+        add->click();
+        QCOMPARE(form.result(), int(QDialog::Accepted));
+        QCOMPARE(form.addedId(), 2);
+        QCOMPARE(store::scalar(m_folder->db(),
+                               "SELECT UserName || '/' || UserPart || '/' || DiffNum || "
+                               "'/' || UserPhoto FROM UserList WHERE ID=2")
+                     .toString(),
+                 QStringLiteral("甲/二部/0/Photos/U2.jpg"));
+        QVERIFY(QFile::exists(m_folder->path("Photos/U2.jpg")));
+    }
+
+    void cameraMissing() {
+        CameraCaptureDialog camera;
+        QLabel *status = child<QLabel>(camera, "statusLabel");
+        QCOMPARE(status->text(), QStringLiteral("正在开启摄像头..."));
+        QVERIFY(!button(camera, "captureButton")->isEnabled());
+        if (!QMediaDevices::defaultVideoInput().isNull()) QSKIP("this machine has a camera");
+        QTRY_COMPARE(status->text(), QStringLiteral("打开摄像头失败..."));
+        QVERIFY(!button(camera, "captureButton")->isEnabled());
+        button(camera, "cancelButton")->click();
+        QCOMPARE(camera.result(), int(QDialog::Rejected));
+    }
+
+    void cameraSaveHandsOver() {
+        CameraCaptureDialog camera;
+        QImage frame(640, 480, QImage::Format_RGB32);
+        frame.fill(Qt::red);
+        camera.freeze(frame);
+        QPushButton *capture = button(camera, "captureButton");
+        QCOMPARE(capture->text(), QStringLiteral("保存"));
+        QCOMPARE(button(camera, "cancelButton")->text(), QStringLiteral("重拍"));
+        QString handed;
+        connect(&camera, &CameraCaptureDialog::saved, this,
+                [&handed](const QString &path) { handed = path; });
+        capture->click();
+        QCOMPARE(handed, m_folder->path("Photos/camertemp.jpg"));
+        QCOMPARE(QImage(handed).size(), QSize(640, 480));
+        QCOMPARE(camera.result(), int(QDialog::Accepted));
+    }
 
 private:
     std::unique_ptr<TempProgramFolder> m_folder;
     ScriptedUi *m_ui = nullptr;
 };
-
-void TestRosterManager::firstFillWaitsForViewer() {
-    m_folder->addUsers({"甲|一部", "乙|二部"});
-    auto &stages = installRecordingStages();
-    RosterManagerDialog form;
-    QCOMPARE(stages.last()->movie, m_folder->path("sys/viewer.qml"));
-    QCOMPARE(participants(form)->topLevelItemCount(), 0);
-    stages.last()->reply(QStringLiteral("other"), QStringLiteral("yes"));
-    QCOMPARE(participants(form)->topLevelItemCount(), 0);
-    stages.last()->reply(proto::cmd::loadok, QStringLiteral("yes"));
-    QCOMPARE(participants(form)->topLevelItemCount(), 2);
-    // The row count equals the table's, so the last row is selected and loaded.
-    QCOMPARE(edit(form, "nameEdit")->text(), QStringLiteral("乙"));
-    QCOMPARE(participants(form)->topLevelItem(1)->text(1), QStringLiteral("2"));
-}
-
-// Without a viewer the list fills at once; with the real one, when it reports.
-void TestRosterManager::fillsWithoutARecordingViewer() {
-    m_folder->addUsers({"甲|一部"});
-    setStageFactory([](QWidget *parent) { return std::make_unique<SilentStage>(parent); });
-    QCOMPARE(participants(RosterManagerDialog())->topLevelItemCount(), 1);
-    setStageFactory({});
-    RosterManagerDialog form;
-    QTRY_COMPARE(participants(form)->topLevelItemCount(), 1);
-    QCOMPARE(edit(form, "nameEdit")->text(), QStringLiteral("甲"));
-}
-
-void TestRosterManager::pagesAreClamped_data() {
-    QTest::addColumn<QString>("search");
-    QTest::addColumn<int>("page");
-    QTest::addColumn<int>("shownPage");
-    QTest::addColumn<int>("pageCount");
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<int>("total");
-    QTest::newRow("first") << "" << 1 << 1 << 3 << 1000 << 2500;
-    QTest::newRow("last") << "" << 3 << 3 << 3 << 500 << 2500;
-    QTest::newRow("beyond") << "" << 9 << 3 << 3 << 500 << 2500;
-    QTest::newRow("below") << "" << 0 << 1 << 3 << 1000 << 2500;
-    QTest::newRow("search from page 3") << "人1" << 3 << 2 << 2 << 111 << 1111;
-    QTest::newRow("no hits") << "无此人" << 3 << 3 << 0 << 0 << 0;
-    QTest::newRow("wildcards are text") << "%" << 1 << 1 << 0 << 0 << 0;
-}
-
-void TestRosterManager::pagesAreClamped() {
-    QFETCH(QString, search);
-    QFETCH(int, page);
-    QFETCH(int, shownPage);
-    QFETCH(int, pageCount);
-    QFETCH(int, rows);
-    QFETCH(int, total);
-    fillRoster(m_folder->db(), 2500);
-    auto form = openManager();
-    form->showParticipants(search, page);
-    QCOMPARE(participants(*form)->topLevelItemCount(), rows);
-    QCOMPARE(labelText(*form, "pageLabel"),
-             QStringLiteral("当前第∶%1页/ 共%2页").arg(shownPage).arg(pageCount));
-    QCOMPARE(labelText(*form, "totalLabel"), QStringLiteral("总计人数：%1").arg(total));
-    QCOMPARE(button(*form, "previousPageButton")->isEnabled(), rows > 0 && shownPage > 1);
-    // A long roster selects no row, so the editor waits for a click before it can save.
-    QVERIFY(!button(*form, "saveButton")->isEnabled());
-    if (rows == 0) return;
-    participants(*form)->setCurrentItem(participants(*form)->topLevelItem(0));
-    QVERIFY(button(*form, "saveButton")->isEnabled());
-}
-
-void TestRosterManager::sortModes_data() {
-    QTest::addColumn<int>("sort");
-    QTest::addColumn<QStringList>("firstIds");
-    QTest::newRow("ID") << 0 << QStringList{"1", "2", "3"};
-    QTest::newRow("remark") << 1 << QStringList{"7", "14", "21"};
-    QTest::newRow("distinction number") << 2 << QStringList{"5", "10", "15"};
-    QTest::newRow("status") << 3 << QStringList{"3", "4", "5"};
-}
-
-void TestRosterManager::sortModes() {
-    QFETCH(int, sort);
-    QFETCH(QStringList, firstIds);
-    fillRoster(m_folder->db(), 2500);
-    roster::Page page;
-    QString error;
-    QVERIFY(roster::readPage(m_folder->db(), QString(), sort, 2, &page, &error));
-    QCOMPARE(page.rows.size(), 1000);
-    roster::Page first;
-    QVERIFY(roster::readPage(m_folder->db(), QString(), sort, 1, &first, &error));
-    QStringList ids;
-    for (int i = 0; i < 3; ++i)
-        ids << QString::number(first.rows.at(i).id);
-    QCOMPARE(ids, firstIds);
-    // Pages never overlap.
-    QSet<int> seen;
-    for (const auto &row : std::as_const(first.rows))
-        seen.insert(row.id);
-    for (const auto &row : std::as_const(page.rows))
-        QVERIFY(!seen.contains(row.id));
-}
-
-void TestRosterManager::countersAndStatusWords() {
-    fillRoster(m_folder->db(), 20);
-    auto form = openManager();
-    QCOMPARE(labelText(*form, "wonLabel"), QStringLiteral("已中奖人数：2"));
-    QCOMPARE(labelText(*form, "gaveUpLabel"), QStringLiteral("弃奖∶2"));
-    QCOMPARE(participants(*form)->topLevelItem(0)->text(5), QStringLiteral("已弃奖"));
-    QCOMPARE(participants(*form)->topLevelItem(0)->foreground(5).color(), QColor(255, 0, 0));
-    QCOMPARE(participants(*form)->topLevelItem(1)->text(5), QStringLiteral("已领奖"));
-    QCOMPARE(participants(*form)->topLevelItem(9)->text(5), QStringLiteral("已中奖"));
-    QCOMPARE(participants(*form)->topLevelItem(9)->foreground(5).color(), QColor(18, 118, 0));
-    QCOMPARE(participants(*form)->topLevelItem(2)->text(5), QString());
-    appState().selJxid = 4;
-    store::exec(m_folder->db(), "UPDATE UserList SET UserStatus=0");
-    form->showParticipants(QString(), 1);
-    QCOMPARE(appState().selJxid, qint16(0));
-}
-
-void TestRosterManager::saveKeepsWinAndRefusesDuplicates() {
-    m_folder->addUsers({"甲|一部|1", "乙|二部|2"});
-    store::exec(m_folder->db(), "UPDATE UserList SET UserStatus=3, JxID='|1|' WHERE ID=2");
-    auto form = openManager();
-    participants(*form)->setCurrentItem(participants(*form)->topLevelItem(1));
-    edit(*form, "nameEdit")->setText(QStringLiteral("甲"));
-    edit(*form, "remarkEdit")->setText(QStringLiteral("一部"));
-    button(*form, "saveButton")->click();
-    QCOMPARE(m_ui->last().text, QStringLiteral("名单重复,已经存在同样的人员信息"));
-    QCOMPARE(m_ui->last().title, QStringLiteral("编辑失败"));
-    edit(*form, "diffNumEdit")->setValidator(nullptr);
-    edit(*form, "diffNumEdit")->setText(QStringLiteral("x1"));
-    edit(*form, "remarkEdit")->setText(QStringLiteral("三部"));
-    button(*form, "saveButton")->click();
-    QCOMPARE(m_ui->last().text, QStringLiteral("“区分编号”只能填写数字"));
-    edit(*form, "diffNumEdit")->setText(QStringLiteral("12345678901"));
-    button(*form, "saveButton")->click();
-    QCOMPARE(m_ui->last().text, roster::kDiffNumTooLarge);
-    edit(*form, "diffNumEdit")->setText(QStringLiteral("9"));
-    edit(*form, "nameEdit")->setText(QStringLiteral("   "));
-    button(*form, "saveButton")->click();
-    QCOMPARE(m_ui->last().text, QStringLiteral("请输入抽奖名单!"));
-    edit(*form, "nameEdit")->setText(QStringLiteral("甲 "));
-    button(*form, "saveButton")->click();
-    QCOMPARE(m_ui->last().text, QStringLiteral("数据更新成功！"));
-    QCOMPARE(store::scalar(m_folder->db(),
-                           "SELECT UserName || '/' || UserPart || '/' || DiffNum || "
-                           "'/' || UserStatus || JxID FROM UserList WHERE ID=2")
-                 .toString(),
-             QStringLiteral("甲 /三部/9/3|1|"));
-    // Saving a row unchanged is no duplicate of itself.
-    button(*form, "saveButton")->click();
-    QCOMPARE(m_ui->last().text, QStringLiteral("数据更新成功！"));
-    QCOMPARE(participants(*form)->currentItem()->text(1), QStringLiteral("2"));
-}
-
-void TestRosterManager::savePictureStates() {
-    m_folder->addUsers({"甲|一部"});
-    auto form = openManager();
-    QTemporaryDir dir;
-    const QString chosen = dir.filePath(QStringLiteral("face.png"));
-    QImage(20, 20, QImage::Format_RGB32).save(chosen);
-    edit(*form, "photoStateEdit")->setText(chosen);
-    button(*form, "saveButton")->click();
-    QCOMPARE(store::scalar(m_folder->db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
-             QStringLiteral("Photos/U1.png"));
-    QVERIFY(QFile::exists(m_folder->path("Photos/U1.png")));
-    QCOMPARE(edit(*form, "photoStateEdit")->text(), QStringLiteral("yes"));
-    QImage(30, 30, QImage::Format_RGB32).save(m_folder->path("Photos/camertemp.jpg"));
-    edit(*form, "photoStateEdit")->setText(QStringLiteral("camre"));
-    button(*form, "saveButton")->click();
-    QCOMPARE(store::scalar(m_folder->db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
-             QStringLiteral("Photos/U1.jpg"));
-    QCOMPARE(QImage(m_folder->path("Photos/U1.jpg")).size(), QSize(30, 30));
-    edit(*form, "photoStateEdit")->setText(QStringLiteral("no"));
-    button(*form, "saveButton")->click();
-    QCOMPARE(store::scalar(m_folder->db(), "SELECT UserPhoto FROM UserList WHERE ID=1").toString(),
-             QString());
-    QVERIFY(!QFile::exists(m_folder->path("Photos/U1.jpg")));
-    QVERIFY(QFile::exists(m_folder->path("Photos/camertemp.jpg")));
-}
-
-void TestRosterManager::deleteTickedRemovesPhotos() {
-    fillRoster(m_folder->db(), 1001);
-    store::exec(m_folder->db(), "UPDATE UserList SET UserPhoto='Photos/U1001.jpg' WHERE ID=1001");
-    QImage(5, 5, QImage::Format_RGB32).save(m_folder->path("Photos/U1001.jpg"));
-    auto form = openManager();
-    trigger(*form, "deleteAction");
-    QCOMPARE(m_ui->last().text, QStringLiteral("请勾选需要删除的名单!"));
-    form->showParticipants(QString(), 2);
-    trigger(*form, "tickAllAction");
-    QVERIFY(child<QCheckBox>(*form, "tickAllBox")->isChecked());
-    m_ui->answers.enqueue(false);
-    trigger(*form, "deleteAction");
-    QCOMPARE(m_ui->last().text, QStringLiteral("确认要删除选择的抽奖名单么?"));
-    QCOMPARE(store::scalar(m_folder->db(), "SELECT COUNT(*) FROM UserList").toInt(), 1001);
-    m_ui->answers.enqueue(true);
-    trigger(*form, "deleteAction");
-    QCOMPARE(store::scalar(m_folder->db(), "SELECT COUNT(*) FROM UserList").toInt(), 1000);
-    QVERIFY(!QFile::exists(m_folder->path("Photos/U1001.jpg")));
-    // The emptied last page clamps to the new last one.
-    QCOMPARE(labelText(*form, "pageLabel"), QStringLiteral("当前第∶1页/ 共1页"));
-}
-
-void TestRosterManager::batchDistinctionNumber_data() {
-    QTest::addColumn<QString>("answer");
-    QTest::addColumn<int>("stored");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("number") << "42" << 42 << "数据更新成功！";
-    QTest::newRow("cancel") << "" << 1 << "请输入区分编号\n只能输入数字";
-    QTest::newRow("text") << "4a" << 1 << "您没输入正确的区分编号!";
-    QTest::newRow("beyond 32 bits") << "99999999999" << 1 << "您没输入正确的区分编号!";
-}
-
-void TestRosterManager::batchDistinctionNumber() {
-    QFETCH(QString, answer);
-    QFETCH(int, stored);
-    QFETCH(QString, message);
-    m_folder->addUsers({"甲|一部|1", "乙|二部|1"});
-    auto form = openManager();
-    button(*form, "setDiffNumButton")->click();
-    QCOMPARE(m_ui->last().text, QStringLiteral("请勾选需要设置区分编号的名单!"));
-    participants(*form)->topLevelItem(0)->setCheckState(0, Qt::Checked);
-    m_ui->inputs.enqueue(answer);
-    button(*form, "setDiffNumButton")->click();
-    QCOMPARE(m_ui->last().text, message);
-    QCOMPARE(store::scalar(m_folder->db(), "SELECT DiffNum FROM UserList WHERE ID=1").toInt(),
-             stored);
-    QCOMPARE(store::scalar(m_folder->db(), "SELECT DiffNum FROM UserList WHERE ID=2").toInt(), 1);
-}
-
-void TestRosterManager::exportsShownPage() {
-    m_folder->addUsers({"甲,乙|一部|3", "丙\"|二部"});
-    auto form = openManager();
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("out.csv"));
-    m_ui->files.enqueue(path);
-    button(*form, "exportButton")->click();
-    QCOMPARE(m_ui->last().text, QStringLiteral("导出完毕"));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(),
-             QByteArray("\xEF\xBB\xBF") +
-                 QStringLiteral("排序,抽奖名单(抽奖时滚动的内容),备注,照片,状态,区分编号\r\n"
-                                "1,\"甲,乙\",一部,,,3\r\n2,\"丙\"\"\",二部,,,0\r\n")
-                     .toUtf8());
-    QVERIFY(button(*form, "exportButton")->isEnabled());
-}
-
-void TestRosterManager::addUserRules() {
-    m_folder->addUsers({"甲|一部"});
-    installRecordingStages();
-    AddParticipantDialog form;
-    QCOMPARE(edit(form, "diffNumEdit")->text(), QStringLiteral("0"));
-    QPushButton *add = button(form, "addButton");
-    add->click();
-    QCOMPARE(m_ui->last().text, QStringLiteral("请输入抽奖名单!"));
-    edit(form, "nameEdit")->setText(QStringLiteral(" 甲 "));
-    edit(form, "remarkEdit")->setText(QStringLiteral("一部"));
-    add->click();
-    QCOMPARE(m_ui->last().title, QStringLiteral("新增失败"));
-    QCOMPARE(form.result(), int(QDialog::Rejected));
-    edit(form, "remarkEdit")->setText(QStringLiteral("二部"));
-    edit(form, "diffNumEdit")->setText(QStringLiteral("12345678901"));
-    add->click();
-    QCOMPARE(m_ui->last().text, roster::kDiffNumTooLarge);
-    edit(form, "diffNumEdit")->setText(QString());
-    QImage(10, 10, QImage::Format_RGB32).save(m_folder->path("Photos/camertemp.jpg"));
-    edit(form, "photoStateEdit")->setText(QStringLiteral("camre"));
-    add->click();
-    QCOMPARE(form.result(), int(QDialog::Accepted));
-    QCOMPARE(form.addedId(), 2);
-    QCOMPARE(store::scalar(m_folder->db(),
-                           "SELECT UserName || '/' || UserPart || '/' || DiffNum || "
-                           "'/' || UserPhoto FROM UserList WHERE ID=2")
-                 .toString(),
-             QStringLiteral("甲/二部/0/Photos/U2.jpg"));
-    QVERIFY(QFile::exists(m_folder->path("Photos/U2.jpg")));
-}
-
-void TestRosterManager::cameraMissing() {
-    CameraCaptureDialog camera;
-    QLabel *status = child<QLabel>(camera, "statusLabel");
-    QCOMPARE(status->text(), QStringLiteral("正在开启摄像头..."));
-    QVERIFY(!button(camera, "captureButton")->isEnabled());
-    if (!QMediaDevices::defaultVideoInput().isNull()) QSKIP("this machine has a camera");
-    QTRY_COMPARE(status->text(), QStringLiteral("打开摄像头失败..."));
-    QVERIFY(!button(camera, "captureButton")->isEnabled());
-    button(camera, "cancelButton")->click();
-    QCOMPARE(camera.result(), int(QDialog::Rejected));
-}
-
-void TestRosterManager::cameraSaveHandsOver() {
-    CameraCaptureDialog camera;
-    QImage frame(640, 480, QImage::Format_RGB32);
-    frame.fill(Qt::red);
-    camera.freeze(frame);
-    QPushButton *capture = button(camera, "captureButton");
-    QCOMPARE(capture->text(), QStringLiteral("保存"));
-    QCOMPARE(button(camera, "cancelButton")->text(), QStringLiteral("重拍"));
-    QString handed;
-    connect(&camera, &CameraCaptureDialog::saved, this,
-            [&handed](const QString &path) { handed = path; });
-    capture->click();
-    QCOMPARE(handed, m_folder->path("Photos/camertemp.jpg"));
-    QCOMPARE(QImage(handed).size(), QSize(640, 480));
-    QCOMPARE(camera.result(), int(QDialog::Accepted));
-}
 
 QTEST_MAIN(TestRosterManager)
 #include "tst_rostermanager.moc"

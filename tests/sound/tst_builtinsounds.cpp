@@ -48,60 +48,55 @@ class TestBuiltInSounds : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void factoryFolderHasTheSounds_data();
-    void factoryFolderHasTheSounds();
-    void samplesAreClippedNotWrapped();
-    void realPlayerReadsTheChime();
+    void factoryFolderHasTheSounds_data() {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<double>("minSeconds");
+        QTest::addColumn<double>("maxSeconds");
+        QTest::newRow("win chime") << sound::kWinSound << 1.0 << 3.0;
+        QTest::newRow("drum roll") << sound::kRollSound << 2.0 << 5.0;
+        QTest::newRow("fanfare") << sound::kFanfareSound << 2.0 << 5.0;
+    }
+
+    void factoryFolderHasTheSounds() {
+        QFETCH(QString, file);
+        QFETCH(double, minSeconds);
+        QFETCH(double, maxSeconds);
+        QFile wav(testpaths::factoryDir() + file);
+        QVERIFY2(wav.open(QIODevice::ReadOnly), qPrintable(wav.fileName()));
+        const WavInfo info = readWav(wav.readAll());
+        QVERIFY(info.valid);
+        QCOMPARE(info.channels, 1);
+        QCOMPARE(info.sampleRate, 44100);
+        QCOMPARE(info.bits, 16);
+        QVERIFY(info.seconds >= minSeconds && info.seconds <= maxSeconds);
+        // Loud enough to hear in a hall, with headroom left.
+        QVERIFY(info.peak > 0.7 && info.peak < 0.95);
+        QVERIFY(info.rms > 0.03);
+    }
+
+    void samplesAreClippedNotWrapped() {
+        const WavInfo info = readWav(sound::wavFile({0.0f, 2.0f, -2.0f, 0.5f}, 8000));
+        QVERIFY(info.valid);
+        QCOMPARE(info.sampleRate, 8000);
+        QVERIFY(info.peak > 0.999);
+        const QByteArray bytes = sound::wavFile({2.0f, -2.0f}, 8000);
+        const auto *data = reinterpret_cast<const uchar *>(bytes.constData());
+        QCOMPARE(qFromLittleEndian<qint16>(data + 44), qint16(32767));
+        QCOMPARE(qFromLittleEndian<qint16>(data + 46), qint16(-32767));
+    }
+
+    void realPlayerReadsTheChime() {
+        // Qt Multimedia opens the file and knows its length also without an audio device.
+        MusicPlayer music;
+        music.setFileName(testpaths::factoryDir() + sound::kWinSound);
+        music.setVolume(MusicPlayer::kSilence);
+        QTRY_VERIFY_WITH_TIMEOUT(music.duration() > 2.0, 5000);
+        QVERIFY(music.duration() < 2.5);
+        QCOMPARE(music.state(), 0);
+        music.setPosition(99);
+        QTRY_COMPARE(music.position(), music.duration());
+    }
 };
-
-void TestBuiltInSounds::factoryFolderHasTheSounds_data() {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<double>("minSeconds");
-    QTest::addColumn<double>("maxSeconds");
-    QTest::newRow("win chime") << sound::kWinSound << 1.0 << 3.0;
-    QTest::newRow("drum roll") << sound::kRollSound << 2.0 << 5.0;
-    QTest::newRow("fanfare") << sound::kFanfareSound << 2.0 << 5.0;
-}
-
-void TestBuiltInSounds::factoryFolderHasTheSounds() {
-    QFETCH(QString, file);
-    QFETCH(double, minSeconds);
-    QFETCH(double, maxSeconds);
-    QFile wav(testpaths::factoryDir() + file);
-    QVERIFY2(wav.open(QIODevice::ReadOnly), qPrintable(wav.fileName()));
-    const WavInfo info = readWav(wav.readAll());
-    QVERIFY(info.valid);
-    QCOMPARE(info.channels, 1);
-    QCOMPARE(info.sampleRate, 44100);
-    QCOMPARE(info.bits, 16);
-    QVERIFY(info.seconds >= minSeconds && info.seconds <= maxSeconds);
-    // Loud enough to hear in a hall, with headroom left.
-    QVERIFY(info.peak > 0.7 && info.peak < 0.95);
-    QVERIFY(info.rms > 0.03);
-}
-
-void TestBuiltInSounds::samplesAreClippedNotWrapped() {
-    const WavInfo info = readWav(sound::wavFile({0.0f, 2.0f, -2.0f, 0.5f}, 8000));
-    QVERIFY(info.valid);
-    QCOMPARE(info.sampleRate, 8000);
-    QVERIFY(info.peak > 0.999);
-    const QByteArray bytes = sound::wavFile({2.0f, -2.0f}, 8000);
-    const auto *data = reinterpret_cast<const uchar *>(bytes.constData());
-    QCOMPARE(qFromLittleEndian<qint16>(data + 44), qint16(32767));
-    QCOMPARE(qFromLittleEndian<qint16>(data + 46), qint16(-32767));
-}
-
-void TestBuiltInSounds::realPlayerReadsTheChime() {
-    // Qt Multimedia opens the file and knows its length also without an audio device.
-    MusicPlayer music;
-    music.setFileName(testpaths::factoryDir() + sound::kWinSound);
-    music.setVolume(MusicPlayer::kSilence);
-    QTRY_VERIFY_WITH_TIMEOUT(music.duration() > 2.0, 5000);
-    QVERIFY(music.duration() < 2.5);
-    QCOMPARE(music.state(), 0);
-    music.setPosition(99);
-    QTRY_COMPARE(music.position(), music.duration());
-}
 
 QTEST_MAIN(TestBuiltInSounds)
 #include "tst_builtinsounds.moc"

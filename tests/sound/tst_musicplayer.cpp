@@ -15,162 +15,150 @@ class TestMusicPlayer : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void volume_data();
-    void volume();
-    void stateNumbering();
-    void playAfterTheEndRewinds();
-    void positionIsClamped_data();
-    void positionIsClamped();
-    void positionBeforeTheLengthIsKnown();
-    void secondFileStopsTheFirst();
-    void nothingToPlayIsSilent();
-    void releasingStopsTheSound();
+    void init() {
+        m_media = installFakeMedia();
+        m_media->lengths.insert(kSong, 180000);
+        m_media->lengths.insert(kChime, 2500);
+    }
+
+    void volume_data() {
+        QTest::addColumn<int>("set");
+        QTest::addColumn<int>("stored");
+        QTest::addColumn<float>("linear");
+        QTest::newRow("positive becomes full") << 5 << 0 << 1.0f;
+        QTest::newRow("-20 dB") << -2000 << -2000 << 0.1f;
+        QTest::newRow("-6 dB") << -600 << -600 << 0.501187f;
+        QTest::newRow("below silence") << -20000 << -10000 << 0.0f;
+    }
+
+    void volume() {
+        QFETCH(int, set);
+        QFETCH(int, stored);
+        QFETCH(float, linear);
+        MusicPlayer music;
+        music.setFileName(kSong);
+        music.setVolume(set);
+        QCOMPARE(music.volume(), stored);
+        QVERIFY(qAbs(m_media->last()->volume - linear) < 1e-5f);
+    }
+
+    void stateNumbering() {
+        MusicPlayer music;
+        QSignalSpy states(&music, &MusicPlayer::stateChanged);
+        QSignalSpy ends(&music, &MusicPlayer::ended);
+        music.setFileName(kSong);
+        QCOMPARE(music.state(), 0);
+        QVERIFY(music.hasEnded());
+        music.play();
+        QCOMPARE(music.state(), 1);
+        QVERIFY(!music.hasEnded());
+        music.pause();
+        QCOMPARE(music.state(), 2);
+        music.play();
+        music.stop();
+        QCOMPARE(music.state(), 0);
+        QList<int> seen;
+        for (const QList<QVariant> &signal : states)
+            seen << signal.at(0).toInt();
+        QCOMPARE(seen, (QList<int>{1, 2, 1, 0}));
+        QCOMPARE(ends.size(), 0);
+    }
+
+    void playAfterTheEndRewinds() {
+        MusicPlayer music;
+        QSignalSpy ends(&music, &MusicPlayer::ended);
+        music.setFileName(kChime);
+        music.play();
+        FakeMediaBackend *player = m_media->last();
+        player->finish();
+        QCOMPARE(ends.size(), 1);
+        QVERIFY(music.hasEnded());
+        QCOMPARE(music.position(), music.duration());
+        player->calls.clear();
+        music.play();
+        QCOMPARE(player->calls, (QStringList{"seek 0", "play"}));
+        QCOMPARE(music.state(), 1);
+
+        // Resuming in the middle does not rewind.
+        music.pause();
+        music.setPosition(1.0);
+        player->calls.clear();
+        music.play();
+        QCOMPARE(player->calls, QStringList{"play"});
+    }
+
+    void positionIsClamped_data() {
+        QTest::addColumn<double>("set");
+        QTest::addColumn<double>("position");
+        QTest::newRow("inside") << 1.25 << 1.25;
+        QTest::newRow("negative") << -5.0 << 0.0;
+        QTest::newRow("past the end") << 99.0 << 2.5;
+    }
+
+    void positionIsClamped() {
+        QFETCH(double, set);
+        QFETCH(double, position);
+        MusicPlayer music;
+        music.setFileName(kChime);
+        QCOMPARE(music.duration(), 2.5);
+        music.setPosition(set);
+        QCOMPARE(music.position(), position);
+    }
+
+    void positionBeforeTheLengthIsKnown() {
+        // The background music resumes where it was left, right after opening the file again.
+        MusicPlayer music;
+        m_media->last()->deferLength = true;
+        music.setFileName(kSong);
+        music.setPosition(42.5);
+        music.play();
+        QCOMPARE(music.position(), 42.5);
+        m_media->last()->reportLength();
+        QCOMPARE(m_media->last()->position, 42500);
+        QCOMPARE(music.position(), 42.5);
+    }
+
+    void secondFileStopsTheFirst() {
+        MusicPlayer music;
+        music.setFileName(kSong);
+        music.setVolume(-10000);
+        music.play();
+        FakeMediaBackend *player = m_media->last();
+        player->calls.clear();
+        music.setFileName(kChime);
+        QCOMPARE(player->calls.first(), QStringLiteral("load ") + kChime);
+        QCOMPARE(music.state(), 0);
+        QCOMPARE(music.fileName(), kChime);
+        // A new file starts at full volume.
+        QCOMPARE(music.volume(), 0);
+        QCOMPARE(player->volume, 1.0f);
+    }
+
+    void nothingToPlayIsSilent() {
+        MusicPlayer music;
+        music.play();  // no file yet
+        QVERIFY(!m_media->last()->calls.contains(QStringLiteral("play")));
+        music.setFileName(QStringLiteral("/nowhere/missing.mp3"));
+        QCOMPARE(music.duration(), 0.0);
+        music.play();
+        QCOMPARE(music.state(), 0);
+        QVERIFY(music.hasEnded());
+    }
+
+    void releasingStopsTheSound() {
+        auto *music = new MusicPlayer;
+        music->setFileName(kSong);
+        music->play();
+        QPointer<FakeMediaBackend> player = m_media->last();
+        QCOMPARE(player->current, MediaBackend::State::Playing);
+        player->calls.clear();
+        delete music;
+        QVERIFY(player.isNull());
+    }
 
 private:
     FakeMedia *m_media = nullptr;
 };
-
-void TestMusicPlayer::init() {
-    m_media = installFakeMedia();
-    m_media->lengths.insert(kSong, 180000);
-    m_media->lengths.insert(kChime, 2500);
-}
-
-void TestMusicPlayer::volume_data() {
-    QTest::addColumn<int>("set");
-    QTest::addColumn<int>("stored");
-    QTest::addColumn<float>("linear");
-    QTest::newRow("positive becomes full") << 5 << 0 << 1.0f;
-    QTest::newRow("-20 dB") << -2000 << -2000 << 0.1f;
-    QTest::newRow("-6 dB") << -600 << -600 << 0.501187f;
-    QTest::newRow("below silence") << -20000 << -10000 << 0.0f;
-}
-
-void TestMusicPlayer::volume() {
-    QFETCH(int, set);
-    QFETCH(int, stored);
-    QFETCH(float, linear);
-    MusicPlayer music;
-    music.setFileName(kSong);
-    music.setVolume(set);
-    QCOMPARE(music.volume(), stored);
-    QVERIFY(qAbs(m_media->last()->volume - linear) < 1e-5f);
-}
-
-void TestMusicPlayer::stateNumbering() {
-    MusicPlayer music;
-    QSignalSpy states(&music, &MusicPlayer::stateChanged);
-    QSignalSpy ends(&music, &MusicPlayer::ended);
-    music.setFileName(kSong);
-    QCOMPARE(music.state(), 0);
-    QVERIFY(music.hasEnded());
-    music.play();
-    QCOMPARE(music.state(), 1);
-    QVERIFY(!music.hasEnded());
-    music.pause();
-    QCOMPARE(music.state(), 2);
-    music.play();
-    music.stop();
-    QCOMPARE(music.state(), 0);
-    QList<int> seen;
-    for (const QList<QVariant> &signal : states)
-        seen << signal.at(0).toInt();
-    QCOMPARE(seen, (QList<int>{1, 2, 1, 0}));
-    QCOMPARE(ends.size(), 0);
-}
-
-void TestMusicPlayer::playAfterTheEndRewinds() {
-    MusicPlayer music;
-    QSignalSpy ends(&music, &MusicPlayer::ended);
-    music.setFileName(kChime);
-    music.play();
-    FakeMediaBackend *player = m_media->last();
-    player->finish();
-    QCOMPARE(ends.size(), 1);
-    QVERIFY(music.hasEnded());
-    QCOMPARE(music.position(), music.duration());
-    player->calls.clear();
-    music.play();
-    QCOMPARE(player->calls, (QStringList{"seek 0", "play"}));
-    QCOMPARE(music.state(), 1);
-
-    // Resuming in the middle does not rewind.
-    music.pause();
-    music.setPosition(1.0);
-    player->calls.clear();
-    music.play();
-    QCOMPARE(player->calls, QStringList{"play"});
-}
-
-void TestMusicPlayer::positionIsClamped_data() {
-    QTest::addColumn<double>("set");
-    QTest::addColumn<double>("position");
-    QTest::newRow("inside") << 1.25 << 1.25;
-    QTest::newRow("negative") << -5.0 << 0.0;
-    QTest::newRow("past the end") << 99.0 << 2.5;
-}
-
-void TestMusicPlayer::positionIsClamped() {
-    QFETCH(double, set);
-    QFETCH(double, position);
-    MusicPlayer music;
-    music.setFileName(kChime);
-    QCOMPARE(music.duration(), 2.5);
-    music.setPosition(set);
-    QCOMPARE(music.position(), position);
-}
-
-void TestMusicPlayer::positionBeforeTheLengthIsKnown() {
-    // The background music resumes where it was left, right after opening the file again.
-    MusicPlayer music;
-    m_media->last()->deferLength = true;
-    music.setFileName(kSong);
-    music.setPosition(42.5);
-    music.play();
-    QCOMPARE(music.position(), 42.5);
-    m_media->last()->reportLength();
-    QCOMPARE(m_media->last()->position, 42500);
-    QCOMPARE(music.position(), 42.5);
-}
-
-void TestMusicPlayer::secondFileStopsTheFirst() {
-    MusicPlayer music;
-    music.setFileName(kSong);
-    music.setVolume(-10000);
-    music.play();
-    FakeMediaBackend *player = m_media->last();
-    player->calls.clear();
-    music.setFileName(kChime);
-    QCOMPARE(player->calls.first(), QStringLiteral("load ") + kChime);
-    QCOMPARE(music.state(), 0);
-    QCOMPARE(music.fileName(), kChime);
-    // A new file starts at full volume.
-    QCOMPARE(music.volume(), 0);
-    QCOMPARE(player->volume, 1.0f);
-}
-
-void TestMusicPlayer::nothingToPlayIsSilent() {
-    MusicPlayer music;
-    music.play();  // no file yet
-    QVERIFY(!m_media->last()->calls.contains(QStringLiteral("play")));
-    music.setFileName(QStringLiteral("/nowhere/missing.mp3"));
-    QCOMPARE(music.duration(), 0.0);
-    music.play();
-    QCOMPARE(music.state(), 0);
-    QVERIFY(music.hasEnded());
-}
-
-void TestMusicPlayer::releasingStopsTheSound() {
-    auto *music = new MusicPlayer;
-    music->setFileName(kSong);
-    music->play();
-    QPointer<FakeMediaBackend> player = m_media->last();
-    QCOMPARE(player->current, MediaBackend::State::Playing);
-    player->calls.clear();
-    delete music;
-    QVERIFY(player.isNull());
-}
 
 QTEST_MAIN(TestMusicPlayer)
 #include "tst_musicplayer.moc"
