@@ -1268,10 +1268,6 @@ Delete the columns you do not need, then import again.</translation>
         <translation>Search for a name</translation>
     </message>
     <message>
-        <source>清除查询关键字</source>
-        <translation>Clear the search</translation>
-    </message>
-    <message>
         <source>查找名单</source>
         <translation>Search</translation>
     </message>
@@ -2000,10 +1996,6 @@ Left out an empty line</translation>
         <translation>Search the roster</translation>
     </message>
     <message>
-        <source>清除查询关键字</source>
-        <translation>Clear the search</translation>
-    </message>
-    <message>
         <source>查找名单</source>
         <translation>Search</translation>
     </message>
@@ -2561,6 +2553,10 @@ Group no. out of range, set to 0: line %1</translation>
     <message>
         <source>否(&amp;N)</source>
         <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>清除查询关键字</source>
+        <translation>Clear the search</translation>
     </message>
 </context>
 <context>

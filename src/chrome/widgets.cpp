@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
+#include <QToolButton>
 
 #include "chrome/icons.h"
 #include "chrome/style.h"
@@ -133,4 +134,17 @@ QHBoxLayout *okEscButtons(QWidget *dialog, QPushButton **ok, QPushButton **esc,
     row->addWidget(*ok);
     row->addWidget(*esc);
     return row;
+}
+
+QToolButton *clearSearchButton(QWidget *parent) {
+    auto *button = new QToolButton(parent);
+    button->setObjectName(QStringLiteral("clearSearchButton"));
+    button->setText(QStringLiteral("×"));
+    button->setToolTip(QCoreApplication::translate("chrome", "清除查询关键字"));
+    button->setCursor(Qt::PointingHandCursor);
+    // A tool button, so the push buttons' minimum width in the style sheet does not widen it.
+    button->setStyleSheet(QStringLiteral(
+        "QToolButton { border: none; font-size: 18px; color: rgb(169,97,100); padding: 0 6px; }"
+        "QToolButton:hover { color: rgb(200,40,58); }"));
+    return button;
 }

@@ -9,6 +9,7 @@
 
 class QHBoxLayout;
 class QPushButton;
+class QToolButton;
 
 // Small painted controls of the console and dialogs.
 
@@ -82,3 +83,6 @@ protected:
 // dialogs; the buttons are named "okButton" and "escButton".
 QHBoxLayout *okEscButtons(QWidget *dialog, QPushButton **ok, QPushButton **esc,
                           const QString &okCaption = QCoreApplication::translate("chrome", "确定"));
+
+// The small "×" at the end of a search field that empties it; named "clearSearchButton".
+QToolButton *clearSearchButton(QWidget *parent);

@@ -12,6 +12,7 @@
 #include "chrome/icons.h"
 #include "chrome/style.h"
 #include "chrome/widgethelpers.h"
+#include "chrome/widgets.h"
 #include "core/events.h"
 #include "core/store.h"
 #include "core/ui.h"
@@ -84,14 +85,7 @@ QWidget *GiveUpDialog::buildSearchBar() {
     m_searchEdit = new QLineEdit(bar);
     m_searchEdit->setObjectName(QStringLiteral("searchEdit"));
     m_searchEdit->setPlaceholderText(tr("请输入查询关键字"));
-    m_clearSearchButton = new QToolButton(bar);
-    m_clearSearchButton->setObjectName(QStringLiteral("clearSearchButton"));
-    m_clearSearchButton->setText(QStringLiteral("×"));
-    m_clearSearchButton->setToolTip(tr("清除查询关键字"));
-    m_clearSearchButton->setCursor(Qt::PointingHandCursor);
-    m_clearSearchButton->setStyleSheet(QStringLiteral(
-        "QToolButton { border: none; font-size: 18px; color: rgb(169,97,100); padding: 0 6px; }"
-        "QToolButton:hover { color: rgb(200,40,58); }"));
+    m_clearSearchButton = clearSearchButton(bar);
     m_searchButton = new QPushButton(tr("查找名单"), bar);
     m_searchButton->setObjectName(QStringLiteral("searchButton"));
     m_searchButton->setAutoDefault(false);

@@ -11,10 +11,12 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QToolBar>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include "chrome/widgethelpers.h"
+#include "chrome/widgets.h"
 #include "core/events.h"
 #include "core/logging.h"
 #include "core/settings.h"
@@ -101,9 +103,7 @@ QWidget *RosterManagerDialog::buildList() {
     m_searchEdit = new QLineEdit(panel);
     m_searchEdit->setObjectName(QStringLiteral("searchEdit"));
     m_searchEdit->setPlaceholderText(tr("输入名单关键字"));
-    m_clearSearchButton = new QPushButton(QStringLiteral("×"), panel);
-    m_clearSearchButton->setToolTip(tr("清除查询关键字"));
-    m_clearSearchButton->setFixedWidth(28);
+    m_clearSearchButton = clearSearchButton(panel);
     m_searchButton = new QPushButton(tr("查找名单"), panel);
     m_searchButton->setObjectName(QStringLiteral("searchButton"));
     m_sortCombo = new QComboBox(panel);
@@ -182,7 +182,7 @@ QWidget *RosterManagerDialog::buildList() {
         m_participantList->setFocus();
     });
     connect(m_searchEdit, &QLineEdit::returnPressed, m_searchButton, &QPushButton::click);
-    connect(m_clearSearchButton, &QPushButton::clicked, this, [this] {
+    connect(m_clearSearchButton, &QToolButton::clicked, this, [this] {
         m_searchEdit->clear();
         refresh();
     });

@@ -8,6 +8,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QToolBar;
+class QToolButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 class PictureBox;
@@ -58,7 +59,7 @@ private:
     void generateNumbers();
 
     QLineEdit *m_searchEdit = nullptr;
-    QPushButton *m_clearSearchButton = nullptr;
+    QToolButton *m_clearSearchButton = nullptr;
     QPushButton *m_searchButton = nullptr;
     QComboBox *m_sortCombo = nullptr;
     QTreeWidget *m_participantList = nullptr;
