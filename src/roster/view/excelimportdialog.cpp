@@ -55,9 +55,6 @@ ExcelImportDialog::ExcelImportDialog(const QString &path, QWidget *parent)
     m_duplicatesEdit->setObjectName(QStringLiteral("duplicatesEdit"));
     m_duplicatesEdit->setReadOnly(true);
     m_duplicatesEdit->hide();
-    m_resultLabel = new QLabel(this);
-    m_resultLabel->setObjectName(QStringLiteral("resultLabel"));
-    m_resultLabel->hide();
     m_startButton = new QPushButton(tr("开始导入"), this);
     m_startButton->setObjectName(QStringLiteral("startButton"));
     m_cancelButton = new QPushButton(tr("取消"), this);
@@ -108,7 +105,7 @@ void ExcelImportDialog::buildLayout() {
     previewLayout->addWidget(m_duplicatesEdit);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(m_templateButton);
-    buttons->addWidget(m_resultLabel, 1);
+    buttons->addWidget(resultLabel(), 1);
     buttons->addStretch();
     buttons->addWidget(m_startButton);
     buttons->addWidget(m_cancelButton);
@@ -279,8 +276,7 @@ void ExcelImportDialog::jobFinished(RosterImport::Outcome outcome) {
         m_previewList->hide();
     }
     if (job()->duplicates() > 0) m_previewBox->setTitle(tr("重复数据"));
-    m_resultLabel->setText(resultText());
-    m_resultLabel->show();
+    showResult(resultText());
     m_okButton->show();
     m_startButton->hide();
     m_cancelButton->hide();

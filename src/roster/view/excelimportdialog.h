@@ -63,7 +63,6 @@ private:
     QGroupBox *m_previewBox = nullptr;
     QTreeWidget *m_previewList = nullptr;
     QPlainTextEdit *m_duplicatesEdit = nullptr;
-    QLabel *m_resultLabel = nullptr;
     QPushButton *m_startButton = nullptr;
     QPushButton *m_cancelButton = nullptr;
     QPushButton *m_okButton = nullptr;

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QLabel>
 #include <QProgressBar>
 #include <QRadioButton>
 
@@ -17,6 +18,11 @@ ImportDialog::ImportDialog(const QString &closeQuestion, QWidget *parent)
     m_progressBar->setObjectName(QStringLiteral("progressBar"));
     m_progressBar->setTextVisible(true);
     m_progressBar->hide();
+    m_resultLabel = new QLabel(this);
+    m_resultLabel->setObjectName(QStringLiteral("resultLabel"));
+    // Wrapped, so a long count does not widen the dialog when it appears.
+    m_resultLabel->setWordWrap(true);
+    m_resultLabel->hide();
 }
 
 ImportDialog::~ImportDialog() {
@@ -105,6 +111,11 @@ void ImportDialog::checkDefaultMode(QRadioButton *append, QRadioButton *replace)
 
 bool ImportDialog::confirmReplace(const QString &title) {
     return roster::confirmReplace(store::mainConn(), appState().appPath, title);
+}
+
+void ImportDialog::showResult(const QString &text) {
+    m_resultLabel->setText(text);
+    m_resultLabel->show();
 }
 
 QString ImportDialog::resultText() const {

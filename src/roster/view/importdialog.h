@@ -6,6 +6,7 @@
 #include "core/ui.h"
 #include "roster/rosterimport.h"
 
+class QLabel;
 class QProgressBar;
 class QRadioButton;
 
@@ -25,6 +26,9 @@ public:
 protected:
     // The job's progress, for the derived dialog's layout (hidden until a job starts).
     QProgressBar *progressBar() const { return m_progressBar; }
+    // The line that tells the outcome beside the buttons (hidden until showResult).
+    QLabel *resultLabel() const { return m_resultLabel; }
+    void showResult(const QString &text);
     // Starts the job; a job that cannot start shows its message and returns false.
     bool runJob(std::unique_ptr<RosterImport> job);
     virtual void jobFinished(RosterImport::Outcome outcome) = 0;
@@ -46,6 +50,7 @@ protected:
 
 private:
     QProgressBar *m_progressBar = nullptr;
+    QLabel *m_resultLabel = nullptr;
     std::unique_ptr<RosterImport> m_job;
     QString m_closeQuestion;
 };

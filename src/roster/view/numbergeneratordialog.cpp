@@ -37,9 +37,6 @@ NumberGeneratorDialog::NumberGeneratorDialog(QWidget *parent)
     progress->addWidget(m_maskedCodesEdit);
     progress->addWidget(progressBar());
     m_progressPanel->hide();
-    m_resultLabel = new QLabel(this);
-    m_resultLabel->setObjectName(QStringLiteral("resultLabel"));
-    m_resultLabel->hide();
     m_startButton = new QPushButton(tr("开始生成"), this);
     m_startButton->setObjectName(QStringLiteral("startButton"));
     m_cancelButton = new QPushButton(tr("取消"), this);
@@ -47,7 +44,7 @@ NumberGeneratorDialog::NumberGeneratorDialog(QWidget *parent)
     m_okButton->setObjectName(QStringLiteral("okButton"));
     m_okButton->hide();
     auto *buttons = new QHBoxLayout;
-    buttons->addWidget(m_resultLabel, 1);
+    buttons->addWidget(resultLabel(), 1);
     buttons->addWidget(m_startButton);
     buttons->addWidget(m_cancelButton);
     buttons->addWidget(m_okButton);
@@ -194,7 +191,5 @@ void NumberGeneratorDialog::jobFinished(RosterImport::Outcome outcome) {
     m_okButton->setEnabled(true);
     if (outcome != RosterImport::Outcome::Finished) return;
     showMaskedCodes();
-    m_resultLabel->setText(
-        tr("共导入%1条，屏蔽%2条").arg(job()->imported()).arg(job()->duplicates()));
-    m_resultLabel->show();
+    showResult(tr("共导入%1条，屏蔽%2条").arg(job()->imported()).arg(job()->duplicates()));
 }

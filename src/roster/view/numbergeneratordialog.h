@@ -41,7 +41,6 @@ private:
     QLabel *m_sampleLabel = nullptr;
     QWidget *m_progressPanel = nullptr;
     QPlainTextEdit *m_maskedCodesEdit = nullptr;
-    QLabel *m_resultLabel = nullptr;
     QPushButton *m_startButton = nullptr;
     QPushButton *m_cancelButton = nullptr;
     QPushButton *m_okButton = nullptr;

@@ -45,9 +45,6 @@ TextImportDialog::TextImportDialog(const QString &path, QWidget *parent)
     auto *resultLayout = new QVBoxLayout(m_resultBox);
     resultLayout->addWidget(hint);
     resultLayout->addWidget(m_duplicatesEdit, 1);
-    m_resultLabel = new QLabel(this);
-    m_resultLabel->setObjectName(QStringLiteral("resultLabel"));
-    m_resultLabel->hide();
     m_startButton = new QPushButton(tr("开始导入"), this);
     m_startButton->setObjectName(QStringLiteral("startButton"));
     m_cancelButton = new QPushButton(tr("取消"), this);
@@ -61,7 +58,7 @@ TextImportDialog::TextImportDialog(const QString &path, QWidget *parent)
     choice->addWidget(m_appendButton);
     choice->addWidget(m_replaceButton);
     auto *buttons = new QHBoxLayout;
-    buttons->addWidget(m_resultLabel, 1);
+    buttons->addWidget(resultLabel(), 1);
     buttons->addWidget(m_startButton);
     buttons->addWidget(m_cancelButton);
     buttons->addWidget(m_okButton);
@@ -119,8 +116,7 @@ void TextImportDialog::jobFinished(RosterImport::Outcome outcome) {
         m_duplicatesEdit->setPlainText(job()->log().mid(1));
         m_duplicatesEdit->show();
     }
-    m_resultLabel->setText(resultText());
-    m_resultLabel->show();
+    showResult(resultText());
     m_okButton->show();
     m_startButton->hide();
     m_cancelButton->hide();

@@ -30,7 +30,6 @@ private:
     QRadioButton *m_replaceButton = nullptr;
     QGroupBox *m_resultBox = nullptr;
     QPlainTextEdit *m_duplicatesEdit = nullptr;
-    QLabel *m_resultLabel = nullptr;
     QPushButton *m_startButton = nullptr;
     QPushButton *m_cancelButton = nullptr;
     QPushButton *m_okButton = nullptr;
