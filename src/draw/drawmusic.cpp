@@ -121,7 +121,6 @@ void DrawMusic::play(const QString &path, double fromSeconds) {
     m_player->play();
     m_current = path;
     m_pausedForMinimise = false;
-    Q_EMIT started(path);
 }
 
 void DrawMusic::stop() {

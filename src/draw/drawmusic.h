@@ -52,10 +52,6 @@ public:
     // The file last started, empty when none.
     QString current() const { return m_current; }
 
-Q_SIGNALS:
-    // A file started, from its beginning or, for the background, from where it was left.
-    void started(const QString &path);
-
 private:
     void onEnded();
     bool isOn(music::Slot slot) const;
