@@ -113,37 +113,31 @@ private Q_SLOTS:
     void lineFields_data() {
         QTest::addColumn<QString>("separator");
         QTest::addColumn<QStringList>("lines");
-        QTest::addColumn<QStringList>("rows");  // name/part/photo/diff of the last line
-        QTest::newRow("four fields") << "," << QStringList{"张三,研发部,p/1.jpg,7"}
-                                     << QStringList{"张三", "研发部", "p/1.jpg", "7"};
-        QTest::newRow("two fields reset photo and number")
-            << "," << QStringList{"a,b,p.jpg,5", "张三 , 研发部 "}
-            << QStringList{"张三", "研发部", "", "0"};
-        QTest::newRow("no separator keeps photo and number, not remark")
-            << "," << QStringList{"a,b,p.jpg,5", "王五"} << QStringList{"王五", "", "p.jpg", "5"};
-        QTest::newRow("more than four keeps all but the name")
-            << "," << QStringList{"a,b,p.jpg,5", "x,y,z,1,2"}
-            << QStringList{"x", "b", "p.jpg", "5"};
-        QTest::newRow("empty separator takes the line whole")
-            << "" << QStringList{"a,b"} << QStringList{"a,b", "", "", "0"};
-        QTest::newRow("number not numeric")
-            << "," << QStringList{"a,b,c,x"} << QStringList{"a", "b", "c", "0"};
-        QTest::newRow("number past 32 bits is told")  // "!": stored as 0, and the log says so
-            << "," << QStringList{"a,b,c,12345678901"} << QStringList{"a", "b", "c", "0!"};
-        QTest::newRow("apostrophe kept")
-            << "|" << QStringList{"O'Brien|外联部"} << QStringList{"O'Brien", "外联部", "", "0"};
+        QTest::addColumn<QString>("row");  // name|part|photo|number of the last line
+        const auto row = [](const char *tag, const char *separator, const QStringList &lines,
+                            const char *fields) {
+            QTest::newRow(tag) << separator << lines << fields;
+        };
+        row("four fields", ",", {"张三,研发部,p/1.jpg,7"}, "张三|研发部|p/1.jpg|7");
+        row("two reset photo and number", ",", {"a,b,p.jpg,5", "张三 , 研发部 "}, "张三|研发部||0");
+        row("no separator keeps photo and number", ",", {"a,b,p.jpg,5", "王五"}, "王五||p.jpg|5");
+        row("more than four keep all but the name", ",", {"a,b,p.jpg,5", "x,y,z,1,2"},
+            "x|b|p.jpg|5");
+        row("empty separator takes the line whole", "", {"a,b"}, "a,b|||0");
+        row("number not numeric", ",", {"a,b,c,x"}, "a|b|c|0");
+        row("number past 32 bits is told", ",", {"a,b,c,12345678901"}, "a|b|c|0!");  // "!": logged
+        row("apostrophe kept", "|", {"O'Brien|外联部"}, "O'Brien|外联部||0");
     }
 
     void lineFields() {
         QFETCH(QString, separator);
         QFETCH(QStringList, lines);
-        QFETCH(QStringList, rows);
         textimport::TxtLineParser parser(separator);
         textimport::TxtRow row;
         for (const QString &line : lines)
             row = parser.parse(line);
         const QString diff = QString::number(row.diffNum) + (row.diffNumTooLarge ? "!" : "");
-        QCOMPARE((QStringList{row.name, row.part, row.photo, diff}), rows);
+        QTEST(QStringList({row.name, row.part, row.photo, diff}).join(QLatin1Char('|')), "row");
     }
 
     void codes_data() {
@@ -181,28 +175,26 @@ private Q_SLOTS:
 
     void masks_data() {
         QTest::addColumn<QString>("mask");
-        QTest::addColumn<QStringList>("excluded");
-        QTest::addColumn<QStringList>("kept");
+        QTest::addColumn<QStringList>("excluded");  // of ST0001E, 4, 5, 13, 14, 31 and 40
         const QStringList unlucky{"ST0004E", "ST0013E", "ST0014E", "ST0040E"};
-        QTest::newRow("ascii comma") << "4,13" << unlucky << QStringList{"ST0001E", "ST0031E"};
-        QTest::newRow("full-width comma") << "4，13" << unlucky << QStringList{"ST0031E"};
-        QTest::newRow("empty mask") << "" << QStringList{} << QStringList{"ST0004E"};
+        QTest::newRow("ascii comma") << "4,13" << unlucky;
+        QTest::newRow("full-width comma") << "4，13" << unlucky;
+        QTest::newRow("empty mask") << "" << QStringList{};
         QTest::newRow("trailing comma adds no group")
-            << "4," << QStringList{"ST0004E"} << QStringList{"ST0001E", "ST0013E"};
+            << "4," << QStringList{"ST0004E", "ST0014E", "ST0040E"};
         QTest::newRow("blanks around groups")
-            << "4, 13 ，5" << QStringList{"ST0013E", "ST0005E"} << QStringList{"ST0001E"};
-        QTest::newRow("only separators") << " , ，" << QStringList{} << QStringList{"ST0001E"};
+            << "4, 13 ，5" << QStringList{"ST0004E", "ST0005E", "ST0013E", "ST0014E", "ST0040E"};
+        QTest::newRow("only separators") << " , ，" << QStringList{};
     }
 
     void masks() {
         QFETCH(QString, mask);
-        QFETCH(QStringList, excluded);
-        QFETCH(QStringList, kept);
         const QStringList parts = numbergen::maskParts(mask);
-        for (const QString &code : excluded)
-            QVERIFY2(numbergen::isExcluded(code, parts), qPrintable(code));
-        for (const QString &code : kept)
-            QVERIFY2(!numbergen::isExcluded(code, parts), qPrintable(code));
+        QStringList excluded;
+        for (const char *code :
+             {"ST0001E", "ST0004E", "ST0005E", "ST0013E", "ST0014E", "ST0031E", "ST0040E"})
+            if (numbergen::isExcluded(QString::fromLatin1(code), parts)) excluded << code;
+        QTEST(excluded, "excluded");
     }
 
     void photoNames_data() {
