@@ -24,9 +24,8 @@ private Q_SLOTS:
     void openStart() {
         QFETCH(QString, requested);
         QFETCH(QString, lastUsed);
-        QFETCH(QString, expected);
-        QCOMPARE(dialogfolders::openStart(requested, lastUsed, QStringLiteral("/home/docs")),
-                 expected);
+        QTEST(dialogfolders::openStart(requested, lastUsed, QStringLiteral("/home/docs")),
+              "expected");
     }
 
     void saveStart_data() {
@@ -39,8 +38,7 @@ private Q_SLOTS:
 
     void saveStart() {
         QFETCH(QString, suggested);
-        QFETCH(QString, expected);
-        QCOMPARE(dialogfolders::saveStart(suggested, QStringLiteral("/app/record")), expected);
+        QTEST(dialogfolders::saveStart(suggested, QStringLiteral("/app/record")), "expected");
     }
 
 private:

@@ -31,10 +31,8 @@ private Q_SLOTS:
 
     void pathParts() {
         QFETCH(QString, path);
-        QFETCH(QString, ext);
-        QFETCH(QString, name);
-        QCOMPARE(getExt(path), ext);
-        QCOMPARE(getFileName(path), name);
+        QTEST(getExt(path), "ext");
+        QTEST(getFileName(path), "name");
     }
 
     void fileExistsOnlyForFiles() {
@@ -81,7 +79,6 @@ private Q_SLOTS:
 
     void randomNames() {
         const QString a = makeRandomName(16);
-        QCOMPARE(a.size(), 16);
         QVERIFY(QRegularExpression(QStringLiteral("^[0-9a-z]{16}$")).match(a).hasMatch());
         QVERIFY(a != makeRandomName(16));
     }
@@ -100,8 +97,7 @@ private Q_SLOTS:
     void digest() {
         QFETCH(QString, text);
         QFETCH(int, form);
-        QFETCH(QString, digest);
-        QCOMPARE(md5(text, form), digest);
+        QTEST(md5(text, form), "digest");
     }
 
     void selectComboFallsBackToTheFirstItem_data() {
@@ -114,12 +110,11 @@ private Q_SLOTS:
 
     void selectComboFallsBackToTheFirstItem() {
         QFETCH(QString, text);
-        QFETCH(int, index);
         QComboBox combo;
         combo.addItems({"A", " B ", "C"});
         combo.setCurrentIndex(2);
         selectCombo(&combo, text);
-        QCOMPARE(combo.currentIndex(), index);
+        QTEST(combo.currentIndex(), "index");
     }
 
     void centerFormNeverLeavesTheScreen() {

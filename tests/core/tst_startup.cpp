@@ -79,8 +79,7 @@ private Q_SLOTS:
         QLockFile other(folder.path(QStringLiteral("quellio.lock")));
         QVERIFY(other.tryLock(0));
         QVERIFY(!folder.start());
-        QCOMPARE(m_ui->last().text, QStringLiteral("程序已经在运行!!"));
-        QCOMPARE(m_ui->last().title, QStringLiteral("提示"));
+        QCOMPARE(m_ui->last().title + m_ui->last().text, QStringLiteral("提示程序已经在运行!!"));
         QCOMPARE(m_ui->last().style, MsgStyle::Exclamation);
         other.unlock();
         m_ui->clear();

@@ -15,6 +15,10 @@ bool touch(const QString &path) {
     return !writeFile(path, "x").isEmpty();
 }
 
+QStringList photosFolder(const TempProgramFolder &folder) {
+    return QDir(folder.path("Photos")).entryList(QDir::Files);
+}
+
 void setPhoto(QSqlDatabase db, int id, const QString &photo) {
     QVERIFY(
         store::exec(db, QStringLiteral("UPDATE UserList SET UserPhoto=? WHERE ID=?"), {photo, id}));
@@ -59,11 +63,10 @@ private Q_SLOTS:
         QString error;
         QVERIFY(roster::deleteParticipants(db, {ids[0], ids[1], ids[3], ids[4]}, &error));
         QVERIFY(QFile::exists(m_outsideFile));
-        QVERIFY(QFile::exists(m_folder->path("Photos/shared.jpg")));  // 乙 still names it
-        QVERIFY(!QFile::exists(m_folder->path("Photos/U4.jpg")));
-        QVERIFY(QFile::exists(m_folder->path("Photos/U5.jpg")));  // the prize's picture
+        // 乙 still names shared.jpg, and U5.jpg is the prize's picture.
+        QCOMPARE(photosFolder(*m_folder), (QStringList{"shared.jpg", "U5.jpg"}));
         QVERIFY(roster::deleteParticipants(db, {ids[2]}, &error));
-        QVERIFY(!QFile::exists(m_folder->path("Photos/shared.jpg")));
+        QCOMPARE(photosFolder(*m_folder), QStringList{"U5.jpg"});
     }
 
     void clearingAPhoto_data() {
@@ -106,22 +109,17 @@ private Q_SLOTS:
             QStringLiteral(","), true);
         QCOMPARE(job.runToEnd(), RosterImport::Outcome::Finished);
         QCOMPARE(job.imported(), 2);
-        QVERIFY(QFile::exists(m_folder->path("Photos/U1.jpg")));  // a new row names it
-        QVERIFY(QFile::exists(m_folder->path("Photos/LIU.jpg")));
-        QVERIFY(!QFile::exists(m_folder->path("Photos/U7.jpg")));
-        QVERIFY(!QFile::exists(m_folder->path("Photos/U2.jpg")));
-        QVERIFY(!QFile::exists(m_folder->path("Photos/zhang.jpg")));  // the replaced row's photo
+        // Kept: the camera's last shot, the prize's picture and what the new rows name.
+        QCOMPARE(photosFolder(*m_folder),
+                 (QStringList{"camertemp.jpg", "JP1.jpg", "LIU.jpg", "U1.jpg"}));
         QVERIFY(QFile::exists(m_outsideFile));
-        QVERIFY(QFile::exists(m_folder->path("Photos/JP1.jpg")));        // the prize's picture
-        QVERIFY(QFile::exists(m_folder->path("Photos/camertemp.jpg")));  // the camera's last shot
         QCOMPARE(store::scalar(db, QStringLiteral("SELECT COUNT(*) FROM JPList")).toInt(), 1);
 
         // Without the new rows naming it, a file whose name merely holds a "U" stays as well.
         setPhoto(db, 2, QString());
         ExcelImport excel({{"王五"}}, {true}, QStringLiteral(" "), false, true);
         QCOMPARE(excel.runToEnd(), RosterImport::Outcome::Finished);
-        QVERIFY(QFile::exists(m_folder->path("Photos/LIU.jpg")));
-        QVERIFY(!QFile::exists(m_folder->path("Photos/U1.jpg")));
+        QCOMPARE(photosFolder(*m_folder), (QStringList{"camertemp.jpg", "JP1.jpg", "LIU.jpg"}));
     }
 
 private:

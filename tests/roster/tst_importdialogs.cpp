@@ -55,6 +55,13 @@ QString labelText(const QWidget &form, const char *name) {
     return child<QLabel>(form, name)->text();
 }
 
+QStringList treeTexts(const QTreeWidget *tree, int column) {
+    QStringList texts;
+    for (int i = 0; i < tree->topLevelItemCount(); ++i)
+        texts << tree->topLevelItem(i)->text(column);
+    return texts;
+}
+
 QString logText(const QWidget &form, const char *name) {
     return child<QPlainTextEdit>(form, name)->toPlainText();
 }
@@ -93,20 +100,17 @@ private Q_SLOTS:
         auto *columns = child<QTreeWidget>(form, "columnList");
         auto *preview = child<QTreeWidget>(form, "previewList");
         QPushButton *start = button(form, "startButton");
-        QCOMPARE(sheets->count(), 2);
         QCOMPARE(sheets->item(1)->text(), QStringLiteral("Sheet 2"));
-        QCOMPARE(columns->topLevelItemCount(), 7);
-        QCOMPARE(columns->topLevelItem(0)->text(1), QStringLiteral("F1"));
+        QCOMPARE(treeTexts(columns, 1), (QStringList{"F1", "F2", "F3", "F4", "F5", "F6", "F7"}));
         QVERIFY(!start->isEnabled());
         columns->topLevelItem(1)->setCheckState(0, Qt::Checked);
         QVERIFY(start->isEnabled());
-        QCOMPARE(preview->topLevelItemCount(), 4);
         QCOMPARE(preview->topLevelItem(0)->text(1), QStringLiteral("姓名 "));
         child<QCheckBox>(form, "headerRowBox")->setChecked(true);
-        QCOMPARE(preview->topLevelItem(0)->text(1), QStringLiteral("张三 "));
+        QCOMPARE(treeTexts(preview, 1),
+                 (QStringList{"张三 ", "李四 ", "王五 ", "以下省略更多内容..."}));
         QVERIFY(preview->topLevelItem(0)->text(2).startsWith(
             QStringLiteral("10001 研发部 13800138000 2023-05-08 12.5 ")));
-        QCOMPARE(preview->topLevelItem(3)->text(1), QStringLiteral("以下省略更多内容..."));
 
         sheets->setCurrentRow(1);
         form.waitForSheet();
@@ -120,9 +124,10 @@ private Q_SLOTS:
         QVERIFY(form.isImporting());
         QVERIFY(!sheets->isEnabled());
         form.waitForJob();
-        QCOMPARE(labelText(form, "resultLabel"), QStringLiteral("共导入数据2条，屏蔽重复数据1条"));
-        QCOMPARE(child<QGroupBox>(form, "previewBox")->title(), QStringLiteral("重复数据"));
-        QCOMPARE(logText(form, "duplicatesEdit"), QStringLiteral("重复数据：陈七"));
+        QCOMPARE((QStringList{labelText(form, "resultLabel"),
+                              child<QGroupBox>(form, "previewBox")->title(),
+                              logText(form, "duplicatesEdit")}),
+                 (QStringList{"共导入数据2条，屏蔽重复数据1条", "重复数据", "重复数据：陈七"}));
         QVERIFY(!button(form, "okButton")->isHidden());
         QVERIFY(start->isHidden());
         QCOMPARE(rosterRows(m_folder->db()), (QStringList{"1|陈七|行政部|0", "2|周八|客服部|0"}));
@@ -176,8 +181,7 @@ private Q_SLOTS:
         QCOMPARE(child<QListWidget>(form, "sheetList")->item(0)->text(),
                  QStringLiteral("抽奖名单"));
         button(form, "templateButton")->click();
-        QCOMPARE(m_ui->openedUrls.size(), 1);
-        QCOMPARE(m_ui->openedUrls.first().toLocalFile(), m_folder->path("demo.xlsx"));
+        QCOMPARE(m_ui->openedUrls, QList<QUrl>{QUrl::fromLocalFile(m_folder->path("demo.xlsx"))});
     }
 
     void textDialogOpensOnAppendOnlyOverARoster_data() {

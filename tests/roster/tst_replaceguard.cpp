@@ -24,9 +24,8 @@ private Q_SLOTS:
             QVERIFY(store::exec(folder.db(), "UPDATE UserList SET JxID=?, UserStatus=? WHERE ID=?",
                                 win));
         const roster::StoredRecords records = roster::storedRecords(folder.db());
-        QCOMPARE(records.participants, 3);
-        QCOMPARE(records.wins, 3);
-        QCOMPARE(records.giveUps, 1);
+        QCOMPARE((QList<qint64>{records.participants, records.wins, records.giveUps}),
+                 (QList<qint64>{3, 3, 1}));
         QVERIFY(roster::importOpensOnAppend(folder.db()));
         QVERIFY(roster::replaceQuestion(records).startsWith(
             QStringLiteral("将删除现有 3 名参与者和 3 条中奖记录")));

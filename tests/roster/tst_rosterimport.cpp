@@ -62,10 +62,11 @@ void writeImage(const QString &path, int w, int h) {
     QVERIFY(image.save(path));
 }
 
-enum Kind { Excel, Text, Photos };
+enum Kind { Excel, Text, Photos, Numbers };
 
 // One of the three imports over the same (name, remark) pairs: the rows of a sheet, the lines
-// of a text file, or pictures named "name,remark.jpg" written into dir.
+// of a text file, or pictures named "name,remark.jpg" written into dir, big enough that
+// shrinking them takes a while.
 std::unique_ptr<RosterImport> importOf(int kind, const QList<QStringList> &people, bool replace,
                                        const QTemporaryDir &dir) {
     QStringList lines;
@@ -78,9 +79,9 @@ std::unique_ptr<RosterImport> importOf(int kind, const QList<QStringList> &peopl
     QStringList files;
     for (const QString &line : std::as_const(lines)) {
         files << dir.filePath(line + QStringLiteral(".jpg"));
-        writeImage(files.last(), 10, 10);
+        writeImage(files.last(), 900, 900);
     }
-    return std::make_unique<PhotoImport>(files, false, 8, replace);
+    return std::make_unique<PhotoImport>(files, true, 1, replace);
 }
 
 }  // namespace
@@ -103,10 +104,8 @@ private Q_SLOTS:
         QStringList lines;
         QString error;
         QVERIFY2(TxtImport::readLines(fixture(file), &lines, &error), qPrintable(error));
-        QCOMPARE(lines.at(0), QStringLiteral("张三,研发部,Photos/U1.jpg,7"));  // nothing skipped
-        QCOMPARE(lines.at(1), QStringLiteral("李四,市场部"));
-        QCOMPARE(lines.at(3), QStringLiteral("O'Brien,外联部,,x"));
-        QCOMPARE(lines.at(4), QString());
+        QCOMPARE(lines.mid(0, 5), (QStringList{"张三,研发部,Photos/U1.jpg,7", "李四,市场部", "王五",
+                                               "O'Brien,外联部,,x", ""}));
         QVERIFY(!TxtImport::readLines(fixture(QStringLiteral("binary.txt")), &lines, &error));
         QVERIFY(error.contains(QStringLiteral("文本")));
     }
@@ -114,37 +113,31 @@ private Q_SLOTS:
     void lineFields_data() {
         QTest::addColumn<QString>("separator");
         QTest::addColumn<QStringList>("lines");
-        QTest::addColumn<QStringList>("rows");  // name/part/photo/diff of the last line
-        QTest::newRow("four fields") << "," << QStringList{"张三,研发部,p/1.jpg,7"}
-                                     << QStringList{"张三", "研发部", "p/1.jpg", "7"};
-        QTest::newRow("two fields reset photo and number")
-            << "," << QStringList{"a,b,p.jpg,5", "张三 , 研发部 "}
-            << QStringList{"张三", "研发部", "", "0"};
-        QTest::newRow("no separator keeps photo and number, not remark")
-            << "," << QStringList{"a,b,p.jpg,5", "王五"} << QStringList{"王五", "", "p.jpg", "5"};
-        QTest::newRow("more than four keeps all but the name")
-            << "," << QStringList{"a,b,p.jpg,5", "x,y,z,1,2"}
-            << QStringList{"x", "b", "p.jpg", "5"};
-        QTest::newRow("empty separator takes the line whole")
-            << "" << QStringList{"a,b"} << QStringList{"a,b", "", "", "0"};
-        QTest::newRow("number not numeric")
-            << "," << QStringList{"a,b,c,x"} << QStringList{"a", "b", "c", "0"};
-        QTest::newRow("number past 32 bits is told")  // "!": stored as 0, and the log says so
-            << "," << QStringList{"a,b,c,12345678901"} << QStringList{"a", "b", "c", "0!"};
-        QTest::newRow("apostrophe kept")
-            << "|" << QStringList{"O'Brien|外联部"} << QStringList{"O'Brien", "外联部", "", "0"};
+        QTest::addColumn<QString>("row");  // name|part|photo|number of the last line
+        const auto row = [](const char *tag, const char *separator, const QStringList &lines,
+                            const char *fields) {
+            QTest::newRow(tag) << separator << lines << fields;
+        };
+        row("four fields", ",", {"张三,研发部,p/1.jpg,7"}, "张三|研发部|p/1.jpg|7");
+        row("two reset photo and number", ",", {"a,b,p.jpg,5", "张三 , 研发部 "}, "张三|研发部||0");
+        row("no separator keeps photo and number", ",", {"a,b,p.jpg,5", "王五"}, "王五||p.jpg|5");
+        row("more than four keep all but the name", ",", {"a,b,p.jpg,5", "x,y,z,1,2"},
+            "x|b|p.jpg|5");
+        row("empty separator takes the line whole", "", {"a,b"}, "a,b|||0");
+        row("number not numeric", ",", {"a,b,c,x"}, "a|b|c|0");
+        row("number past 32 bits is told", ",", {"a,b,c,12345678901"}, "a|b|c|0!");  // "!": logged
+        row("apostrophe kept", "|", {"O'Brien|外联部"}, "O'Brien|外联部||0");
     }
 
     void lineFields() {
         QFETCH(QString, separator);
         QFETCH(QStringList, lines);
-        QFETCH(QStringList, rows);
         textimport::TxtLineParser parser(separator);
         textimport::TxtRow row;
         for (const QString &line : lines)
             row = parser.parse(line);
         const QString diff = QString::number(row.diffNum) + (row.diffNumTooLarge ? "!" : "");
-        QCOMPARE((QStringList{row.name, row.part, row.photo, diff}), rows);
+        QTEST(QStringList({row.name, row.part, row.photo, diff}).join(QLatin1Char('|')), "row");
     }
 
     void codes_data() {
@@ -167,45 +160,41 @@ private Q_SLOTS:
     void codes() {
         QFETCH(QStringList, startEndPad);
         QFETCH(bool, pad);
-        QFETCH(QString, preview);
-        QFETCH(QString, first);
         numbergen::Options options;
         options.startText = startEndPad.at(0);
         options.endText = startEndPad.at(1);
         options.padText = startEndPad.at(2);
         options.pad = pad;
-        QCOMPARE(numbergen::previewText(options), preview);
+        QTEST(numbergen::previewText(options), "preview");
         int from = 0;
         int to = 0;
-        QCOMPARE(
+        QTEST(
             numbergen::range(options, &from, &to) ? numbergen::makeCode(options, from) : QString(),
-            first);
+            "first");
     }
 
     void masks_data() {
         QTest::addColumn<QString>("mask");
-        QTest::addColumn<QStringList>("excluded");
-        QTest::addColumn<QStringList>("kept");
+        QTest::addColumn<QStringList>("excluded");  // of ST0001E, 4, 5, 13, 14, 31 and 40
         const QStringList unlucky{"ST0004E", "ST0013E", "ST0014E", "ST0040E"};
-        QTest::newRow("ascii comma") << "4,13" << unlucky << QStringList{"ST0001E", "ST0031E"};
-        QTest::newRow("full-width comma") << "4，13" << unlucky << QStringList{"ST0031E"};
-        QTest::newRow("empty mask") << "" << QStringList{} << QStringList{"ST0004E"};
+        QTest::newRow("ascii comma") << "4,13" << unlucky;
+        QTest::newRow("full-width comma") << "4，13" << unlucky;
+        QTest::newRow("empty mask") << "" << QStringList{};
         QTest::newRow("trailing comma adds no group")
-            << "4," << QStringList{"ST0004E"} << QStringList{"ST0001E", "ST0013E"};
+            << "4," << QStringList{"ST0004E", "ST0014E", "ST0040E"};
         QTest::newRow("blanks around groups")
-            << "4, 13 ，5" << QStringList{"ST0013E", "ST0005E"} << QStringList{"ST0001E"};
-        QTest::newRow("only separators") << " , ，" << QStringList{} << QStringList{"ST0001E"};
+            << "4, 13 ，5" << QStringList{"ST0004E", "ST0005E", "ST0013E", "ST0014E", "ST0040E"};
+        QTest::newRow("only separators") << " , ，" << QStringList{};
     }
 
     void masks() {
         QFETCH(QString, mask);
-        QFETCH(QStringList, excluded);
-        QFETCH(QStringList, kept);
         const QStringList parts = numbergen::maskParts(mask);
-        for (const QString &code : excluded)
-            QVERIFY2(numbergen::isExcluded(code, parts), qPrintable(code));
-        for (const QString &code : kept)
-            QVERIFY2(!numbergen::isExcluded(code, parts), qPrintable(code));
+        QStringList excluded;
+        for (const char *code :
+             {"ST0001E", "ST0004E", "ST0005E", "ST0013E", "ST0014E", "ST0031E", "ST0040E"})
+            if (numbergen::isExcluded(QString::fromLatin1(code), parts)) excluded << code;
+        QTEST(excluded, "excluded");
     }
 
     void photoNames_data() {
@@ -241,8 +230,7 @@ private Q_SLOTS:
     void shrinkRule() {
         QFETCH(QSize, size);
         QFETCH(int, slider);
-        QFETCH(QSize, result);
-        QCOMPARE(photoimport::shrunkSize(size, slider), result);
+        QTEST(photoimport::shrunkSize(size, slider), "result");
     }
 
     void settlesPictures() {
@@ -286,8 +274,7 @@ private Q_SLOTS:
         QVERIFY(book.readSheet(1, -1, &sheet, &error));
         ExcelImport job(sheet.rows, {true, false}, QStringLiteral(" "), true, false);
         QCOMPARE(job.runToEnd(), RosterImport::Outcome::Finished);
-        QCOMPARE(job.imported(), 1);
-        QCOMPARE(job.duplicates(), 2);
+        QCOMPARE((QList<qint64>{job.imported(), job.duplicates()}), (QList<qint64>{1, 2}));
         QCOMPARE(names(folder.db()), (QStringList{"周八/客服部", "陈七/行政部"}));
         QVERIFY(job.log().contains(QStringLiteral("\n重复数据：陈七")));
 
@@ -297,10 +284,8 @@ private Q_SLOTS:
                            QStringLiteral("-"), true, true);
         QCOMPARE(merged.runToEnd(), RosterImport::Outcome::Finished);
         QCOMPARE(merged.imported(), 5);  // the empty name of row 5 is "-"
-        const QStringList rows = names(folder.db());
-        QCOMPARE(rows.first().section(QLatin1Char('/'), 0, 0), QStringLiteral("张三-"));
-        QVERIFY(rows.first().endsWith(
-            QStringLiteral("10001-研发部-13800138000-2023-05-08-12.5-10002-")));
+        QCOMPARE(names(folder.db()).first(),
+                 QStringLiteral("张三-/10001-研发部-13800138000-2023-05-08-12.5-10002-"));
     }
 
     void photoImportStagesPictures() {
@@ -319,16 +304,12 @@ private Q_SLOTS:
              b.filePath(QStringLiteral("张三,宣传部.jpg")), broken},
             true, 8, true);
         QCOMPARE(job.runToEnd(), RosterImport::Outcome::Finished);
-        QCOMPARE(job.imported(), 3);
-        QCOMPARE(job.duplicates(), 1);
-        QVERIFY(job.log().contains(QStringLiteral("PNG不支持压缩∶")));
-        QVERIFY(job.log().contains(QStringLiteral("重复图片∶")));
-        QVERIFY(job.log().contains(QStringLiteral("压缩失败∶")));
-        QCOMPARE(names(folder.db()), (QStringList{"张三/宣传部 ", "李四/ ", "赵六/ "}));
+        QCOMPARE((QList<qint64>{job.imported(), job.duplicates()}), (QList<qint64>{3, 1}));
+        for (const char *told : {"PNG不支持压缩∶", "重复图片∶", "压缩失败∶"})
+            QVERIFY2(job.log().contains(QString::fromUtf8(told)), told);
         // The picture that failed is not pointed at.
-        QCOMPARE(store::scalar(folder.db(), "SELECT UserPhoto FROM UserList WHERE UserName='赵六'")
-                     .toString(),
-                 QString());
+        QCOMPARE(column(folder.db(), "SELECT UserName || UserPart || UserPhoto FROM UserList"),
+                 (QStringList{"张三宣传部 Photos/U1.jpg", "李四 Photos/U2.png", "赵六 "}));
         QCOMPARE(QImage(folder.path("Photos/U1.jpg")).size(), QSize(800, 400));
         QCOMPARE(QImage(folder.path("Photos/U2.png")).size(), QSize(900, 900));
         QCOMPARE(
@@ -355,9 +336,8 @@ private Q_SLOTS:
         NumberGeneration job(options);
         QCOMPARE(job.runToEnd(), RosterImport::Outcome::Finished);
         const QStringList rows = names(folder.db());
-        QCOMPARE(rows.first(), QStringLiteral("ST0001E/"));
+        QCOMPARE(rows.mid(0, 4), (QStringList{"ST0001E/", "ST0002E/", "ST0003E/", "ST0005E/"}));
         QCOMPARE(rows.last(), QStringLiteral("ST1000E/"));
-        QVERIFY(!rows.contains(QStringLiteral("ST0004E/")));
         QVERIFY(!rows.contains(QStringLiteral("ST0113E/")));
         QCOMPARE(job.imported() + job.excluded(), 1000);
         QCOMPARE(indexes(folder.db()), indexesBefore);
@@ -377,7 +357,7 @@ private Q_SLOTS:
         QTest::newRow("excel replace") << int(Excel);
         QTest::newRow("text append") << int(Text);
         QTest::newRow("photo replace") << int(Photos);
-        QTest::newRow("number generator") << -1;
+        QTest::newRow("number generator") << int(Numbers);
     }
 
     void cancelLeavesRosterAsItWas() {
@@ -389,26 +369,15 @@ private Q_SLOTS:
         const QStringList before = dumpRoster(folder.db());
         const QStringList indexesBefore = indexes(folder.db());
         QVERIFY(indexesBefore.size() >= 5);
+        QList<QStringList> people;  // more than one slice of work
+        for (int i = 0; i < (kind == Photos ? 200 : 60000); ++i)
+            people << QStringList{QStringLiteral("人%1").arg(i), QStringLiteral("部")};
         QTemporaryDir pictures;
-        QList<workbook::Row> rows;
-        QStringList lines;
-        QStringList files;
-        for (int i = 0; i < 60000; ++i) {
-            rows << QStringList{QStringLiteral("人%1").arg(i)};
-            lines << QStringLiteral("人%1,部").arg(i);
-        }
-        for (int i = 0; i < 200; ++i) {
-            files << pictures.filePath(QStringLiteral("人%1.jpg").arg(i));
-            writeImage(files.last(), 900, 900);
-        }
         numbergen::Options options;
         options.endText = QStringLiteral("99999");
-        std::unique_ptr<RosterImport> job;
-        if (kind == Excel)
-            job = std::make_unique<ExcelImport>(rows, QList<bool>{true}, " ", false, true);
-        if (kind == Text) job = std::make_unique<TxtImport>(lines, ",", false);
-        if (kind == Photos) job = std::make_unique<PhotoImport>(files, true, 1, true);
-        if (!job) job = std::make_unique<NumberGeneration>(options);
+        std::unique_ptr<RosterImport> job = kind == Numbers
+                                                ? std::make_unique<NumberGeneration>(options)
+                                                : importOf(kind, people, kind != Text, pictures);
         // Cancel as the close question does: after the first slice has written rows.
         connect(job.get(), &RosterImport::progress, job.get(), [&job] { job->cancel(); });
         QCOMPARE(job->runToEnd(), RosterImport::Outcome::Cancelled);
@@ -485,16 +454,15 @@ private Q_SLOTS:
         QTemporaryDir pictures;
         const auto nothing = importOf(kind, {{"", "研发部"}, {"  ", "x"}}, true, pictures);
         QCOMPARE(nothing->runToEnd(), RosterImport::Outcome::Finished);
-        QCOMPARE(nothing->imported(), 0);
         QCOMPARE(dumpRoster(folder.db()), before);
         QVERIFY(QFile::exists(folder.path("Photos/U1.jpg")));
 
         const auto job =
             importOf(kind, {{"   ", "市场部"}, {"张三", "研发部"}, {"\t", "y"}}, false, pictures);
         QCOMPARE(job->runToEnd(), RosterImport::Outcome::Finished);
-        QCOMPARE(job->imported(), 1);
-        QCOMPARE(job->blankNames(), 2);
-        QCOMPARE(job->log().count(QStringLiteral("屏蔽空白数据")), 2);
+        QCOMPARE((QList<qint64>{job->imported(), job->blankNames(),
+                                job->log().count(QStringLiteral("屏蔽空白数据"))}),
+                 (QList<qint64>{1, 2, 2}));
         QCOMPARE(names(folder.db()).size(), 2);
         QVERIFY(names(folder.db()).last().startsWith(QStringLiteral("张三/研发部")));
     }
