@@ -68,8 +68,6 @@ private Q_SLOTS:
                          "3,二等奖,平板电脑,李四,市场部,中奖", "4,二等奖,平板电脑,王五,财务部,中奖",
                          "5,二等奖,平板电脑,赵六,行政部,弃奖"}));
         QCOMPARE(list.prizeTotal, 15);
-        QVERIFY(list.rows[4].greyRow);
-        QVERIFY(!list.rows[3].greyRow);
     }
 
     void statusTexts_data() {
@@ -87,17 +85,14 @@ private Q_SLOTS:
 
     void statusTexts() {
         QFETCH(QVariant, status);
-        QFETCH(QString, text);
-        QFETCH(bool, greyRow);
-        QFETCH(bool, greyStatus);
         m_folder->addAward(QStringLiteral("一等奖"), 1, 1);
         const QList<int> ids = m_folder->addUsers({"张三"});
         setWins(ids[0], "|1|", status, "2026-11-05 20:00:00");
         const results::WinnerList list = results::readWinnerList(m_folder->db());
         QCOMPARE(list.rows.size(), 1);
-        QCOMPARE(list.rows[0].status, text);
-        QCOMPARE(list.rows[0].greyRow, greyRow);
-        QCOMPARE(list.rows[0].greyStatus, greyStatus);
+        QTEST(list.rows[0].status, "text");
+        QTEST(list.rows[0].greyRow, "greyRow");
+        QTEST(list.rows[0].greyStatus, "greyStatus");
     }
 
     void listShowsRowsAndTotals() {
