@@ -94,15 +94,13 @@ private Q_SLOTS:
         QVERIFY(readAll(path).size() < expected.size());
     }
 
-    void noAwardsIsRefused() {
+    // Without awards nothing is written. Without a chosen file the list goes under record/;
+    // without winners it is the header alone.
+    void noAwardsNoFileNoWinners() {
         const QString path = m_folder->path(QStringLiteral("none.csv"));
         QVERIFY(exportWinners(path, true).isEmpty());
         QCOMPARE(m_ui->texts(), QStringList{QStringLiteral("没有奖项导出失败!")});
         QVERIFY(!QFile::exists(path));
-    }
-
-    // Without a chosen file the list goes under record/; without winners it is the header alone.
-    void defaultFileIsUnderRecord() {
         const QDateTime time(QDate(2026, 3, 4), QTime(9, 5));
         QCOMPARE(results::defaultExportPath(time),
                  m_folder->path(QStringLiteral("record/中奖记录20263495.csv")));
