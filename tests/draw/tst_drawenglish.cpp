@@ -46,7 +46,7 @@ private Q_SLOTS:
         s.key(Qt::Key_Space);
         QVERIFY(s.waitState(draw::Running, 3000));
         s.key(Qt::Key_Space);
-        QVERIFY(s.stopGuardPanel()->isVisible());
+        QVERIFY(s.form->findChild<QWidget *>(QStringLiteral("stopGuardPanel"))->isVisible());
         verifyNoChinese(shownTexts(*s.form));
         const std::unique_ptr<QWidget> end(new EndOfDrawDialog(s.engine()));
         verifyNoChinese(shownTexts(*end));
