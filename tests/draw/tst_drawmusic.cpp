@@ -4,6 +4,7 @@
 #include "draw/drawmusic.h"
 #include "sound/musicplayer.h"
 #include "support/fakemediabackend.h"
+#include "support/filebytes.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,9 +20,7 @@ struct Sounds {
     QString parade = file(QStringLiteral("parade.mp3"), 30000);
 
     QString file(const QString &name, qint64 lengthMs) {
-        const QString path = dir.filePath(name);
-        QFile out(path);
-        if (out.open(QIODevice::WriteOnly)) out.write("x");
+        const QString path = writeFile(dir.filePath(name), "x");
         media->lengths.insert(path, lengthMs);
         return path;
     }

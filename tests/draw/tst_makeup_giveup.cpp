@@ -14,6 +14,7 @@
 #include "enginerig.h"
 #include "results/view/printwinners.h"
 #include "stage/protocol.h"
+#include "support/filebytes.h"
 #include "support/scriptedui.h"
 
 using namespace Qt::StringLiterals;
@@ -316,9 +317,8 @@ private Q_SLOTS:
         QCOMPARE(restarted.count(), 1);
         const QStringList snapshots = QDir(rig.folder.path("History")).entryList({u"*.tmp"_s});
         QCOMPARE(snapshots.size(), 1);
-        QFile file(rig.folder.path("History/") + snapshots[0]);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QVERIFY(file.readAll().endsWith(u"\r\n1,一等奖,车,张三,研发部\r\n"_s.toUtf8()));
+        QVERIFY(readFile(rig.folder.path("History/") + snapshots[0])
+                    .endsWith(u"\r\n1,一等奖,车,张三,研发部\r\n"_s.toUtf8()));
         QCOMPARE(rig.cell(ids[0], "JxID").toString(), QString());
     }
 

@@ -1,4 +1,3 @@
-#include <QFile>
 #include <QtTest>
 
 #include <functional>
@@ -10,6 +9,7 @@
 #include "draw/rostersnapshot.h"
 #include "draw/verifier.h"
 #include "stage/protocol.h"
+#include "support/filebytes.h"
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
@@ -42,14 +42,11 @@ struct Evening {
         return started && draw(first) && draw(first) && draw(fives) && draw(open);
     }
     QStringList logLines() const {
-        QFile file(draw::auditLogPath(folder.path()));
-        file.open(QIODevice::ReadOnly);
-        return QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+        return QString::fromUtf8(readFile(draw::auditLogPath(folder.path())))
+            .split('\n', Qt::SkipEmptyParts);
     }
     void writeLog(const QStringList &lines) const {
-        QFile file(draw::auditLogPath(folder.path()));
-        file.open(QIODevice::WriteOnly | QIODevice::Truncate);
-        file.write((lines.join('\n') + '\n').toUtf8());
+        writeFile(draw::auditLogPath(folder.path()), (lines.join('\n') + '\n').toUtf8());
     }
     draw::VerifyReport verify() const {
         return draw::verifyProgramFolder(folder.path(), folder.db());
@@ -155,13 +152,9 @@ private Q_SLOTS:
         }) << quint64(1);
         QTest::newRow("the roster behind a press changed") << Tamper([](Evening &e, QStringList &) {
             const QString hash = field(e.logLines().first(), "roster");
-            QFile file(draw::rosterFilePath(e.folder.path(), hash));
-            file.open(QIODevice::ReadWrite);
-            QByteArray bytes = file.readAll();
-            const QByteArray entry = QByteArray::number(e.fiveHolder) + ",5\n";
-            bytes.replace(entry, QByteArray::number(e.fiveHolder) + ",6\n");
-            file.seek(0);
-            file.write(bytes);
+            const QString path = draw::rosterFilePath(e.folder.path(), hash);
+            const QByteArray holder = QByteArray::number(e.fiveHolder);
+            writeFile(path, readFile(path).replace(holder + ",5\n", holder + ",6\n"));
         }) << quint64(3);
         // Lines removed or moved break the chain where they were.
         QTest::newRow("a line removed") << Tamper([](Evening &, QStringList &lines) {

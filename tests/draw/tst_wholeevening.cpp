@@ -6,6 +6,7 @@
 #include "drawdialogs.h"
 #include "livescreen.h"
 #include "stage/protocol.h"
+#include "support/filebytes.h"
 
 using namespace Qt::StringLiterals;
 
@@ -141,10 +142,8 @@ private Q_SLOTS:
 
         // The file holds the store's winners: award by award in draw order, batch by batch, with
         // nobody who gave up.
-        QFile file(csv);
-        QVERIFY(file.open(QIODevice::ReadOnly));
         const QStringList lines =
-            QString::fromUtf8(file.readAll()).split(u"\r\n"_s, Qt::SkipEmptyParts);
+            QString::fromUtf8(readFile(csv)).split(u"\r\n"_s, Qt::SkipEmptyParts);
         QCOMPARE(lines.size(), 1 + 20 + 10 + 2 + 3);
         QSqlQuery query(s.folder.db());
         QVERIFY(query.exec(
@@ -173,9 +172,8 @@ private Q_SLOTS:
             }
         }
         // The check written beside the list finds the evening's ten presses as drawn.
-        QFile check(s.folder.path(QStringLiteral("record/晚会中奖名单-核对.txt")));
-        QVERIFY(check.open(QIODevice::ReadOnly));
-        const QString checked = QString::fromUtf8(check.readAll());
+        const QString checked =
+            QString::fromUtf8(readFile(s.folder.path(u"record/晚会中奖名单-核对.txt"_s)));
         QVERIFY2(checked.contains(QStringLiteral("10次抽奖: 10次相符")), qPrintable(checked));
 
         // A restart, then the window closes and reveals its secret: the log still holds, and every

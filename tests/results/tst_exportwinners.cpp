@@ -4,6 +4,7 @@
 #include "core/appstate.h"
 #include "core/store.h"
 #include "results/exportwinners.h"
+#include "support/filebytes.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
@@ -14,11 +15,6 @@ void win(QSqlDatabase db, int userId, const QString &jxId, const QString &time) 
                 QStringLiteral("UPDATE UserList SET JxID=?, UpdateTime=?, UserStatus=3 "
                                "WHERE ID=?"),
                 {jxId, time, userId});
-}
-
-QByteArray readAll(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 const QByteArray kHeader = QByteArrayLiteral("\xEF\xBB\xBF") +
@@ -83,7 +79,7 @@ private Q_SLOTS:
                                                   "4,二等奖,\"平板, 电脑\",王五,\"销售,一组\"\r\n"
                                                   "5,二等奖,\"平板, 电脑\",张三,研发部\r\n")
                                                   .toUtf8();
-        QCOMPARE(readAll(path), expected);
+        QCOMPARE(readFile(path), expected);
         QCOMPARE(m_ui->last().text, path + QStringLiteral("\n导出名单完毕!!"));
 
         // A second export overwrites the file and, without showDone, says nothing.
@@ -91,7 +87,7 @@ private Q_SLOTS:
         win(m_folder->db(), users[0], QString(), QString());
         QCOMPARE(exportWinners(path, false), path);
         QVERIFY(m_ui->records.isEmpty());
-        QVERIFY(readAll(path).size() < expected.size());
+        QVERIFY(readFile(path).size() < expected.size());
     }
 
     // Without awards nothing is written. Without a chosen file the list goes under record/;
@@ -107,7 +103,7 @@ private Q_SLOTS:
         m_folder->addAward(QStringLiteral("一等奖"), 3, 1);
         const QString written = exportWinners(QString(), false);
         QVERIFY(written.startsWith(m_folder->path(QStringLiteral("record/中奖记录"))));
-        QCOMPARE(readAll(written), kHeader);
+        QCOMPARE(readFile(written), kHeader);
     }
 
 private:

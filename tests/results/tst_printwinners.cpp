@@ -1,4 +1,3 @@
-#include <QFile>
 #include <QPaintEngine>
 #include <QPdfWriter>
 #include <QtTest>
@@ -7,6 +6,7 @@
 #include "core/store.h"
 #include "results/printout.h"
 #include "results/view/printwinners.h"
+#include "support/filebytes.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
@@ -199,8 +199,7 @@ private Q_SLOTS:
         QVERIFY(printWinners(true));
         QCOMPARE(m_ui->texts(),
                  (QStringList{QStringLiteral("找不到打印机"), QStringLiteral("打印完成!")}));
-        QFile pdf(path);
-        QVERIFY(pdf.open(QIODevice::ReadOnly) && pdf.readAll().startsWith("%PDF"));
+        QVERIFY(readFile(path).startsWith("%PDF"));
     }
 
     // Refused with a message: a batch not drawn yet (before the printer is looked at), nothing
