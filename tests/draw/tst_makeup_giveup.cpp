@@ -165,8 +165,10 @@ private Q_SLOTS:
         // No 16-bit ID left: a message, nothing stored, the dialog stays.
         store::exec(rig.folder.db(), u"UPDATE JPList SET ID=32767 WHERE ID=3"_s);
         MakeUpDrawDialog full;
+        QSignalSpy fullLoad(&full, &MakeUpDrawDialog::awardChanged);
         addNewAward(full, {u"再加一个"_s, u"1"_s, u"1"_s, u"红包"_s});
         QCOMPARE(m_ui->texts(), QStringList({draw::kAwardsFullMessage}));
+        QVERIFY(fullLoad.isEmpty());
         QCOMPARE(store::scalar(rig.folder.db(), "SELECT COUNT(*) FROM JPList").toInt(), 3);
     }
 
