@@ -85,6 +85,15 @@ void rechain(QStringList &lines) {
     }
 }
 
+// Edits the winners on the line of that kind of the fourth press.
+void editWinners(QStringList &lines, const QString &kind,
+                 const std::function<void(QStringList &)> &edit) {
+    QString &line = lines[lineOf(lines, kind, 4)];
+    QStringList winners = field(line, "winners").split(',');
+    edit(winners);
+    line = withField(line, "winners", winners.join(','));
+}
+
 QList<quint64> failedPresses(const draw::VerifyReport &report) {
     QList<quint64> failed;
     for (const draw::PressVerdict &verdict : report.presses)
@@ -125,25 +134,19 @@ private Q_SLOTS:
         QTest::addColumn<quint64>("press");
         // Edits a forger numbers and hashes again are found by what the lines say.
         QTest::newRow("a winner edited") << Tamper([](Evening &, QStringList &lines) {
-            QString &line = lines[lineOf(lines, "press", 4)];
-            QStringList winners = field(line, "winners").split(',');
-            winners[0] = QString::number(winners[0].toLongLong() % 40 + 1);
-            line = withField(line, "winners", winners.join(','));
+            editWinners(lines, "press", [](QStringList &winners) {
+                winners[0] = QString::number(winners[0].toLongLong() % 40 + 1);
+            });
             rechain(lines);
         }) << quint64(4);
-        QTest::newRow("last winner dropped, count lowered")
-            << Tamper([](Evening &, QStringList &lines) {
-                   for (const QString kind : {"press", "record"}) {
-                       QString &line = lines[lineOf(lines, kind, 4)];
-                       QStringList winners = field(line, "winners").split(',');
-                       winners.removeLast();
-                       line = withField(line, "winners", winners.join(','));
-                       if (kind == QLatin1String("press"))
-                           line = withField(line, "batch", QString::number(winners.size()));
-                   }
-                   rechain(lines);
-               })
-            << quint64(4);
+        QTest::newRow("last winner dropped, count lowered") << Tamper([](Evening &,
+                                                                         QStringList &lines) {
+            for (const QString kind : {"press", "record"})
+                editWinners(lines, kind, [](QStringList &winners) { winners.removeLast(); });
+            QString &press = lines[lineOf(lines, "press", 4)];
+            press = withField(press, "batch", QString::number(field(press, "batch").toInt() - 1));
+            rechain(lines);
+        }) << quint64(4);
         QTest::newRow("a seed changed") << Tamper([](Evening &, QStringList &lines) {
             QString &line = lines[lineOf(lines, "press", 1)];
             line = withField(line, "seed",
