@@ -131,14 +131,13 @@ private Q_SLOTS:
         QFETCH(int, n1);
         QFETCH(int, n2);
         QFETCH(QList<int>, diffNums);
-        TempProgramFolder folder;
-        QVERIFY(folder.start());
-        QStringList rows;
-        for (int diff : diffNums)
-            rows << QStringLiteral("p|x|%1").arg(diff);
-        folder.addUsers(rows);
-        const AwardRule rule{1, 1, rangeType, n1, n2};
-        const draw::Candidates candidates = draw::loadCandidates(folder.db(), rule);
+        draw::Roster roster;
+        for (int i = 0; i < diffNums.size(); ++i) {
+            roster.ids.push_back(i + 1);
+            roster.diffNums.push_back(diffNums[i]);
+        }
+        const draw::Candidates candidates =
+            draw::selectCandidates(roster, {}, AwardRule{1, 1, rangeType, n1, n2});
         QTEST(toList(candidates.primary), "primary");
         QTEST(toList(candidates.fallback), "fallback");
     }
