@@ -13,11 +13,8 @@
 #include "draw/view/endofdrawdialog.h"
 #include "draw/view/giveupdialog.h"
 #include "draw/view/makeupdrawdialog.h"
+#include "support/childwidget.h"
 
-template <class Widget>
-inline Widget *child(QWidget &dialog, const char *name) {
-    return dialog.findChild<Widget *>(QLatin1String(name));
-}
 inline QPushButton *button(QWidget &dialog, const char *name) {
     return child<QPushButton>(dialog, name);
 }

@@ -71,9 +71,6 @@ struct LiveScreen {
     const draw::DrawSession &session() const { return engine().session(); }
     int state() const { return engine().state(); }
     QTimer *timer(const char *name) const { return form->findChild<QTimer *>(QLatin1String(name)); }
-    QWidget *stopGuardPanel() const {
-        return form->findChild<QWidget *>(QStringLiteral("stopGuardPanel"));
-    }
     // A key as the operator presses it on the stage.
     void key(int qtKey) {
         QKeyEvent press(QEvent::KeyPress, qtKey, Qt::NoModifier);

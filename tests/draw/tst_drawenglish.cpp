@@ -2,14 +2,8 @@
 #include <QQuickItem>
 
 #include "core/language.h"
-#include "design/templatepage.h"
-#include "design/view/designerwindow.h"
 #include "draw/view/endofdrawdialog.h"
-#include "draw/view/giveupdialog.h"
-#include "draw/view/makeupdrawdialog.h"
 #include "livescreen.h"
-#include "stage/protocol.h"
-#include "support/recordingstage.h"
 #include "support/showntexts.h"
 
 namespace {
@@ -52,43 +46,10 @@ private Q_SLOTS:
         s.key(Qt::Key_Space);
         QVERIFY(s.waitState(draw::Running, 3000));
         s.key(Qt::Key_Space);
-        QVERIFY(s.stopGuardPanel()->isVisible());
+        QVERIFY(s.form->findChild<QWidget *>(QStringLiteral("stopGuardPanel"))->isVisible());
         verifyNoChinese(shownTexts(*s.form));
         const std::unique_ptr<QWidget> end(new EndOfDrawDialog(s.engine()));
         verifyNoChinese(shownTexts(*end));
-    }
-
-    void windowShowsNoChinese_data() {
-        QTest::addColumn<QByteArray>("window");
-        QTest::newRow("designer") << QByteArray("designer");
-        QTest::newRow("give up") << QByteArray("give up");
-        QTest::newRow("make up") << QByteArray("make up");
-    }
-
-    void windowShowsNoChinese() {
-        QFETCH(QByteArray, window);
-        TempProgramFolder folder;
-        QVERIFY(folder.start());
-        installScriptedUi();
-        QList<QPointer<RecordingStage>> &stages = installRecordingStages();
-        folder.addAward(QStringLiteral("First"), 3, 1);
-        std::unique_ptr<QWidget> shown;
-        if (window == "designer") {
-            const QString name = QStringLiteral("通用模板（16:9)");
-            design::copyToWorkingFile(folder.path(), name);
-            appState().skinFile = design::templatePath(folder.path(), name);
-            shown = std::make_unique<DesignerWindow>();
-            stages.last()->reply(proto::cmd::loadok);
-        } else if (window == "give up") {
-            shown = std::make_unique<GiveUpDialog>();
-        } else {
-            shown = std::make_unique<MakeUpDrawDialog>();
-        }
-        shown->show();
-        QVERIFY(QTest::qWaitForWindowExposed(shown.get()));
-        verifyNoChinese(shownTexts(*shown));
-        shown.reset();
-        setStageFactory({});
     }
 };
 

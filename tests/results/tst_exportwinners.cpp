@@ -4,6 +4,7 @@
 #include "core/appstate.h"
 #include "core/store.h"
 #include "results/exportwinners.h"
+#include "support/filebytes.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 
@@ -16,11 +17,6 @@ void win(QSqlDatabase db, int userId, const QString &jxId, const QString &time) 
                 {jxId, time, userId});
 }
 
-QByteArray readAll(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 const QByteArray kHeader = QByteArrayLiteral("\xEF\xBB\xBF") +
                            QStringLiteral("序号,奖项名称,奖品成名,中奖名单,备注\r\n").toUtf8();
 
@@ -30,6 +26,13 @@ class TestExportWinners : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() {
+        m_folder = std::make_unique<TempProgramFolder>();
+        QVERIFY(m_folder->start());
+        m_ui = installScriptedUi();
+    }
+    void cleanup() { m_folder.reset(); }
+
     void quoting_data() {
         QTest::addColumn<QStringList>("fields");
         QTest::addColumn<QByteArray>("line");
@@ -49,29 +52,25 @@ private Q_SLOTS:
     }
 
     void writesAwardsInOrderAndWinnersByTime() {
-        TempProgramFolder folder;
-        QVERIFY(folder.start());
-        ScriptedUi *scripted = installScriptedUi();
-        const int second = folder.addAward(QStringLiteral("二等奖"), 5, 1, 1, 0, 0, 0,
-                                           QStringLiteral("平板, 电脑"));
-        const int first =
-            folder.addAward(QStringLiteral("一等奖"), 5, 1, 1, 0, 0, 0, QStringLiteral("笔记本"));
-        folder.addAward(QStringLiteral("特等奖"), 1, 1);
-        store::exec(folder.db(),
+        const int second = m_folder->addAward(QStringLiteral("二等奖"), 5, 1, 1, 0, 0, 0,
+                                              QStringLiteral("平板, 电脑"));
+        const int first = m_folder->addAward(QStringLiteral("一等奖"), 5, 1, 1, 0, 0, 0,
+                                             QStringLiteral("笔记本"));
+        m_folder->addAward(QStringLiteral("特等奖"), 1, 1);
+        store::exec(m_folder->db(),
                     "UPDATE JPList SET OrderNum=CASE ID WHEN ? THEN 1 WHEN ? THEN 2 ELSE 3 END",
                     {first, second});
         const QList<int> users =
-            folder.addUsers({QStringLiteral("张三|研发部"), QStringLiteral("李\"四\"|市场部"),
-                             QStringLiteral("王五|销售,一组"), QStringLiteral("赵六|行政部")});
+            m_folder->addUsers({QStringLiteral("张三|研发部"), QStringLiteral("李\"四\"|市场部"),
+                                QStringLiteral("王五|销售,一组"), QStringLiteral("赵六|行政部")});
         const QString a1 = store::awardMarker(first);
         const QString a2 = store::awardMarker(second);
-        win(folder.db(), users[0], a1 + a2, QStringLiteral("2026-01-01 20:00:05"));
-        win(folder.db(), users[1], a1, QStringLiteral("2026-01-01 20:00:01"));
-        win(folder.db(), users[2], a2, QStringLiteral("2026-01-01 19:00:00"));
-        win(folder.db(), users[3], a1, QStringLiteral("2026-01-01 20:00:01"));
+        win(m_folder->db(), users[0], a1 + a2, QStringLiteral("2026-01-01 20:00:05"));
+        win(m_folder->db(), users[1], a1, QStringLiteral("2026-01-01 20:00:01"));
+        win(m_folder->db(), users[2], a2, QStringLiteral("2026-01-01 19:00:00"));
+        win(m_folder->db(), users[3], a1, QStringLiteral("2026-01-01 20:00:01"));
 
-        const QString path = folder.path(QStringLiteral("out.csv"));
-        QFile::remove(path);
+        const QString path = m_folder->path(QStringLiteral("out.csv"));
         QCOMPARE(exportWinners(path, true), path);
         const QByteArray expected = kHeader + QStringLiteral(
                                                   "1,一等奖,笔记本,\"李\"\"四\"\"\",市场部\r\n"
@@ -80,42 +79,36 @@ private Q_SLOTS:
                                                   "4,二等奖,\"平板, 电脑\",王五,\"销售,一组\"\r\n"
                                                   "5,二等奖,\"平板, 电脑\",张三,研发部\r\n")
                                                   .toUtf8();
-        QCOMPARE(readAll(path), expected);
-        QCOMPARE(scripted->last().text, path + QStringLiteral("\n导出名单完毕!!"));
-        QCOMPARE(scripted->last().title, QStringLiteral("提示"));
+        QCOMPARE(readFile(path), expected);
+        QCOMPARE(m_ui->last().text, path + QStringLiteral("\n导出名单完毕!!"));
 
         // A second export overwrites the file and, without showDone, says nothing.
-        scripted->clear();
-        win(folder.db(), users[0], QString(), QString());
+        m_ui->clear();
+        win(m_folder->db(), users[0], QString(), QString());
         QCOMPARE(exportWinners(path, false), path);
-        QVERIFY(scripted->records.isEmpty());
-        QVERIFY(readAll(path).size() < expected.size());
+        QVERIFY(m_ui->records.isEmpty());
+        QVERIFY(readFile(path).size() < expected.size());
     }
 
-    void noAwardsIsRefused() {
-        TempProgramFolder folder;
-        QVERIFY(folder.start());
-        ScriptedUi *scripted = installScriptedUi();
-        const QString path = folder.path(QStringLiteral("none.csv"));
+    // Without awards nothing is written. Without a chosen file the list goes under record/;
+    // without winners it is the header alone.
+    void noAwardsNoFileNoWinners() {
+        const QString path = m_folder->path(QStringLiteral("none.csv"));
         QVERIFY(exportWinners(path, true).isEmpty());
-        QCOMPARE(scripted->texts(), QStringList{QStringLiteral("没有奖项导出失败!")});
-        QCOMPARE(scripted->last().title, QStringLiteral("警告"));
+        QCOMPARE(m_ui->texts(), QStringList{QStringLiteral("没有奖项导出失败!")});
         QVERIFY(!QFile::exists(path));
-    }
-
-    // Without a chosen file the list goes under record/; without winners it is the header alone.
-    void defaultFileIsUnderRecord() {
-        TempProgramFolder folder;
-        QVERIFY(folder.start());
-        installScriptedUi();
         const QDateTime time(QDate(2026, 3, 4), QTime(9, 5));
         QCOMPARE(results::defaultExportPath(time),
-                 folder.path(QStringLiteral("record/中奖记录20263495.csv")));
-        folder.addAward(QStringLiteral("一等奖"), 3, 1);
+                 m_folder->path(QStringLiteral("record/中奖记录20263495.csv")));
+        m_folder->addAward(QStringLiteral("一等奖"), 3, 1);
         const QString written = exportWinners(QString(), false);
-        QVERIFY(written.startsWith(folder.path(QStringLiteral("record/中奖记录"))));
-        QCOMPARE(readAll(written), kHeader);
+        QVERIFY(written.startsWith(m_folder->path(QStringLiteral("record/中奖记录"))));
+        QCOMPARE(readFile(written), kHeader);
     }
+
+private:
+    std::unique_ptr<TempProgramFolder> m_folder;
+    ScriptedUi *m_ui = nullptr;
 };
 
 QTEST_MAIN(TestExportWinners)
