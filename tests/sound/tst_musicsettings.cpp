@@ -52,6 +52,16 @@ private Q_SLOTS:
         QCOMPARE(readFile(music("drum.wav")), QByteArray("new drum"));
     }
 
+    void sameNameFromElsewhereReplacesTheRowsOwnFile() {
+        writeFile(music("drum.wav"), "old drum");
+        store(music::Background, "drum.wav");
+        music::Settings chosen = shown();
+        chosen[music::Background].path = writeFile(outside("drum.wav"), "new drum");
+        music::saveSettings(appState().appPath, chosen);
+        QCOMPARE(key(music::Background), QStringLiteral("drum.wav"));
+        QCOMPARE(readFile(music("drum.wav")), QByteArray("new drum"));
+    }
+
     void sameNameFromElsewhereBesideAnotherRowsSound() {
         writeFile(music("drum.wav"), "background drum");
         store(music::Background, "drum.wav");
