@@ -95,7 +95,6 @@ private Q_SLOTS:
         QFETCH(double, position);
         MusicPlayer music;
         music.setFileName(kChime);
-        QCOMPARE(music.duration(), 2.5);
         music.setPosition(set);
         QCOMPARE(music.position(), position);
     }
