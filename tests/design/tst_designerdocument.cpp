@@ -1,5 +1,4 @@
 #include <QFile>
-#include <QSqlQuery>
 #include <QtTest>
 
 #include "core/appstate.h"

@@ -27,68 +27,29 @@ PayloadContext context(Reader reader, bool filesExist = true) {
     return c;
 }
 
+// Rows as the table holds them, column by column.
 ObjRow textRow(const QString &name = QStringLiteral("txt_jpinfo")) {
-    ObjRow r;
-    r.ObjName = name;
-    r.ObjType = proto::vbAddTxt;
-    r.ObjDepth = 3;
-    r.ObjX = 12.5;
-    r.ObjY = 40;
-    r.ObjAlpha = 90;
-    r.bgColor = QStringLiteral("0x112233");
-    r.bgAlpha = 30;
-    r.borderNum = 2;
-    r.borderType = QStringLiteral("box");
-    r.fTxt = QStringLiteral("名额 $1 名");
-    r.fFont = QStringLiteral("黑体");
-    r.fColor = QStringLiteral("0xFF0000");
-    r.fSize = 24;
-    r.fBold = QStringLiteral("true");
-    r.fUnderline = QStringLiteral("true");
-    r.lineHeight = 1.5;
-    r.txtAlign = QStringLiteral("center");
-    r.isShadown = 1;
-    return r;
+    return {name, proto::vbAddTxt, 3,       0,      12.5,  40,           0,      0,
+            90,   "0x112233",      30,      2,      "box", "名额 $1 名", "黑体", "0xFF0000",
+            24,   "true",          "false", "true", 1.5,   "center",     1,      1,
+            "",   "false"};
 }
 
 ObjRow scrollRow() {
-    ObjRow r = textRow(QStringLiteral("scr_luckls"));
-    r.ObjType = proto::vbAddStxt;
-    r.ObjDirection = 2;
-    r.ObjW = 280;
-    r.ObjH = 20;
-    r.fTxt = QStringLiteral("欢迎");
-    r.SrcV = 4;
-    return r;
+    return {"scr_luckls", proto::vbAddStxt, 3,       2,      12.5,  40,       280,    20,
+            90,           "0x112233",       30,      2,      "box", "欢迎",   "黑体", "0xFF0000",
+            24,           "true",           "false", "true", 1.5,   "center", 1,      4,
+            "",           "false"};
 }
 
-ObjRow imageRow() {
-    ObjRow r;
-    r.ObjName = QStringLiteral("img_0123456789abcdef");
-    r.ObjType = proto::vbAddImg;
-    r.ObjDepth = 5;
-    r.ObjX = 10;
-    r.ObjY = 20;
-    r.ObjW = 200;
-    r.ObjH = 150;
-    r.ObjAlpha = 80;
-    r.isImgFilter = QStringLiteral("true");
-    r.ImgPath = QStringLiteral("skin\\sPhoto\\imgk3j9x0aa.png");  // an old row's backslashes
-    return r;
-}
-
-ObjRow animationRow() {
-    ObjRow r = imageRow();
-    r.ObjName = QStringLiteral("swf_0123456789abcdef");
-    r.ObjType = proto::vbAddSwf;
-    r.ImgPath = QStringLiteral("skin/sPhoto/swfp0p0p0p0.gif");
-    return r;
+ObjRow pictureRow(const QString &name, const QString &type, const QString &path) {
+    return {name,       type,    5, 0,       10, 20,     200,        150,   80,
+            "0xFFFFFF", 50,      5, "round", "", "宋体", "0x000000", 16,    "false",
+            "false",    "false", 0, "left",  0,  1,      path,       "true"};
 }
 
 ObjRow boxRow() {
-    ObjRow r;
-    r.ObjName = QStringLiteral("ssm_vornex");
-    r.ObjType = proto::vbAddJpBox;
+    ObjRow r = pictureRow("ssm_vornex", proto::vbAddJpBox, QString());
     r.ObjDepth = 7;
     r.ObjX = 360;
     r.ObjY = 168;
@@ -105,8 +66,10 @@ ObjRow rowOf(const QString &kind) {
     if (kind == QLatin1String("txt")) return textRow();
     if (kind == QLatin1String("fbt")) return textRow(QStringLiteral("txt_fbt"));
     if (kind == QLatin1String("scr")) return scrollRow();
-    if (kind == QLatin1String("img")) return imageRow();
-    if (kind == QLatin1String("swf")) return animationRow();
+    if (kind == QLatin1String("img"))  // an old row's backslashes
+        return pictureRow("img_0123456789abcdef", proto::vbAddImg, "skin\\sPhoto\\imgk3j9x0aa.png");
+    if (kind == QLatin1String("swf"))
+        return pictureRow("swf_0123456789abcdef", proto::vbAddSwf, "skin/sPhoto/swfp0p0p0p0.gif");
     if (kind == QLatin1String("ssm")) return boxRow();
     ObjRow odd = textRow();
     odd.ObjType = QStringLiteral("vbAddMovie");
@@ -141,6 +104,12 @@ PlayRow nameRow() {
     return r;
 }
 
+// One case of objectCommand: the command sent as "name=value", or "" for nothing sent.
+void objectRow(const char *tag, const char *kind, Reader reader, const QString &command,
+               bool filesExist = true, ObjectForm form = ObjectForm::Load) {
+    QTest::newRow(tag) << kind << reader << form << filesExist << command;
+}
+
 }  // namespace
 
 // The stage reads these values field by field: each case compares one whole value as text.
@@ -153,62 +122,40 @@ private Q_SLOTS:
         QTest::addColumn<Reader>("reader");
         QTest::addColumn<ObjectForm>("form");
         QTest::addColumn<bool>("filesExist");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("value");
-
-        const ObjectForm load = ObjectForm::Load;
-        const QString txt = QStringLiteral(
-            "false|txt_jpinfo|3|12.5|40|90|0x112233|30|2|box|名额 $1 "
-            "名|黑体|0xFF0000|24|true|false|"
-            "true");
-        QTest::newRow("txt console: 17 fields")
-            << "txt" << Reader::Console << load << true << proto::vbAddTxt << txt;
-        QTest::newRow("subtitle in the designer")
-            << "fbt" << Reader::Designer << load << true << proto::vbAddTxt
-            << "false|txt_fbt|3|12.5|40|90|0x112233|30|2|box|幸运大抽奖|黑体|0xFF0000|24|true|"
-               "false|"
-               "true|1.5|center|1";
-
-        const QString scr = QStringLiteral(
-            "false|scr_luckls|3|2|12.5|40|280|20|0x112233|30|box|2|欢迎|90|黑体|0xFF0000|24|true|"
-            "false|true|4");
-        QTest::newRow("scr console: 21 fields")
-            << "scr" << Reader::Console << load << true << proto::vbAddStxt << scr;
-        QTest::newRow("scr draw: 22 fields")
-            << "scr" << Reader::Draw << load << true << proto::vbAddStxt << scr + "|1";
-
-        const QString img = QStringLiteral("false|img_0123456789abcdef|5|10|20|");
-        QTest::newRow("img console, no file test")
-            << "img" << Reader::Console << load << false << proto::vbAddImg
-            << img + "200|150|80|true|" + kPicture;
-        QTest::newRow("img designer") << "img" << Reader::Designer << load << true
-                                      << proto::vbAddImg << img + "200|150|80|true|" + kPicture;
-        QTest::newRow("img designer, file gone")
-            << "img" << Reader::Designer << load << false << proto::vbAddImg
-            << img + "128|128|80|true|/opt/q/skin/Src/block.png";
-        QTest::newRow("img draw, file gone")
-            << "img" << Reader::Draw << load << false << proto::vbAddImg
-            << img + "128|128|80|true|/opt/q/skin/Src/block.png";
-
-        const QString swf = QStringLiteral("false|swf_0123456789abcdef|5|10|20|");
-        QTest::newRow("swf console: not shown")
-            << "swf" << Reader::Console << load << true << QString() << QString();
-        QTest::newRow("swf designer") << "swf" << Reader::Designer << load << true
-                                      << proto::vbAddSwf << swf + "200|150|" + kAnimation;
-
-        const QString box = QStringLiteral("ssm_vornex|360|168|616|500|7");
-        const QString font = QStringLiteral("|黑体|0xB0171F|30|true|false|false");
-        QTest::newRow("ssm console: long")
-            << "ssm" << Reader::Console << load << true << proto::vbAddJpBox << box + font;
-        QTest::newRow("ssm designer load: short")
-            << "ssm" << Reader::Designer << load << true << proto::vbAddJpBox << box;
-        QTest::newRow("ssm designer refresh: long")
-            << "ssm" << Reader::Designer << ObjectForm::Refresh << true << proto::vbAddJpBox
-            << box + font;
-        QTest::newRow("ssm draw: short")
-            << "ssm" << Reader::Draw << load << true << proto::vbAddJpBox << box;
-        QTest::newRow("unknown type: nothing")
-            << "odd" << Reader::Designer << load << true << QString() << QString();
+        QTest::addColumn<QString>("command");
+        const Reader console = Reader::Console, designer = Reader::Designer, draw = Reader::Draw;
+        const QString txt = "vbAddTxt=false|txt_jpinfo|3|12.5|40|90|0x112233|30|2|box|";
+        objectRow("txt console: 17 fields", "txt", console,
+                  txt + "名额 $1 名|黑体|0xFF0000|24|true|false|true");
+        objectRow("subtitle in the designer", "fbt", designer,
+                  "vbAddTxt=false|txt_fbt|3|12.5|40|90|0x112233|30|2|box|幸运大抽奖|黑体|"
+                  "0xFF0000|24|true|false|true|1.5|center|1");
+        const QString scr =
+            "vbAddStxt=false|scr_luckls|3|2|12.5|40|280|20|0x112233|30|box|2|"
+            "欢迎|90|黑体|0xFF0000|24|true|false|true|4";
+        objectRow("scr console: 21 fields", "scr", console, scr);
+        objectRow("scr draw: 22 fields", "scr", draw, scr + "|1");
+        const QString img = "vbAddImg=false|img_0123456789abcdef|5|10|20|";
+        const QString block = img + "128|128|80|true|/opt/q/skin/Src/block.png";
+        objectRow("img console, no file test", "img", console, img + "200|150|80|true|" + kPicture,
+                  false);
+        objectRow("img designer", "img", designer, img + "200|150|80|true|" + kPicture);
+        objectRow("img designer, file gone", "img", designer, block, false);
+        objectRow("img draw, file gone", "img", draw, block, false);
+        objectRow("swf console: not shown", "swf", console, "");
+        objectRow("swf designer", "swf", designer,
+                  "vbAddSwf=false|swf_0123456789abcdef|5|10|20|200|150|" + kAnimation);
+        objectRow("swf designer, file gone", "swf", designer,
+                  "vbAddSwf=false|swf_0123456789abcdef|5|10|20|128|128|/opt/q/skin/Src/block.png",
+                  false);
+        const QString box = "vbAddJpBox=ssm_vornex|360|168|616|500|7";
+        const QString font = "|黑体|0xB0171F|30|true|false|false";
+        objectRow("ssm console: long", "ssm", console, box + font);
+        objectRow("ssm designer load: short", "ssm", designer, box);
+        objectRow("ssm designer refresh: long", "ssm", designer, box + font, true,
+                  ObjectForm::Refresh);
+        objectRow("ssm draw: short", "ssm", draw, box);
+        objectRow("unknown type: nothing", "odd", designer, "");
     }
 
     void objectPayloads() {
@@ -216,10 +163,9 @@ private Q_SLOTS:
         QFETCH(Reader, reader);
         QFETCH(ObjectForm, form);
         QFETCH(bool, filesExist);
-        const StageCommand command = objectCommand(rowOf(kind), context(reader, filesExist), form);
-        QTEST(command.name, "name");
-        QTEST(command.value, "value");
-        QCOMPARE(command.usedBlockPicture, command.value.contains(QLatin1String("block.png")));
+        const StageCommand sent = objectCommand(rowOf(kind), context(reader, filesExist), form);
+        QTEST(sent.isEmpty() ? QString() : sent.name + '=' + sent.value, "command");
+        QCOMPARE(sent.usedBlockPicture, sent.value.contains(QLatin1String("block.png")));
     }
 
     void separatorsNeverReachTheStageRaw() {
@@ -246,69 +192,62 @@ private Q_SLOTS:
     }
 
     void pageValues() {
-        BgRow bg;
-        bg.found = true;
-        bg.BgW = 1024;
-        bg.BgH = 768;
-        bg.BgColor = QStringLiteral("0x9E1B22");
+        BgRow bg{true, 1024, 768, QStringLiteral("0x9E1B22"), QString()};
         QCOMPARE(backgroundColorPayload(bg, context(Reader::Designer)),
                  QStringLiteral("1024|768|0x9E1B22"));
         QCOMPARE(backgroundColorPayload(bg, context(Reader::Draw)),
                  QStringLiteral("1024|768|0x9E1B22|10"));
         // An empty picture still sends the folder itself, except in the console.
         QCOMPARE(backgroundImagePayload(bg, kApp), QStringLiteral("/opt/q/|1024|768"));
-        QVERIFY(sendsBackgroundImage(bg, context(Reader::Designer)));
-        QVERIFY(sendsBackgroundImage(bg, context(Reader::Draw)));
-        QVERIFY(!sendsBackgroundImage(bg, context(Reader::Console)));
+        const auto sends = [&bg](Reader reader, bool filesExist = true) {
+            return sendsBackgroundImage(bg, context(reader, filesExist));
+        };
+        QCOMPARE(
+            (QList<bool>{sends(Reader::Designer), sends(Reader::Draw), sends(Reader::Console)}),
+            (QList<bool>{true, true, false}));
         bg.BgImg = QStringLiteral("skin\\sPhoto\\imgk3j9x0aa.png");
         QCOMPARE(backgroundImagePayload(bg, kApp), kPicture + QStringLiteral("|1024|768"));
-        QVERIFY(sendsBackgroundImage(bg, context(Reader::Console)));
-        QVERIFY(!sendsBackgroundImage(bg, context(Reader::Console, false)));
+        QCOMPARE((QList<bool>{sends(Reader::Console), sends(Reader::Console, false)}),
+                 (QList<bool>{true, false}));
 
         QCOMPARE(selectObjectPayload(QStringLiteral("txt_zbt")), QStringLiteral("txt_zbt|true"));
         QCOMPARE(swapDepthPayload(QStringLiteral("a"), QStringLiteral("b")), QStringLiteral("a|b"));
-        QCOMPARE(startScrollPayload(true, 5, Reader::Designer), QStringLiteral("yes|5"));
-        QCOMPARE(startScrollPayload(false, 5, Reader::Designer), QStringLiteral("no|5"));
-        QCOMPARE(startScrollPayload(true, 5, Reader::Draw), QStringLiteral("yes"));
+        QCOMPARE((QStringList{startScrollPayload(true, 5, Reader::Designer),
+                              startScrollPayload(false, 5, Reader::Designer),
+                              startScrollPayload(true, 5, Reader::Draw)}),
+                 (QStringList{"yes|5", "no|5", "yes"}));
     }
 
     void previewFit_data() {
-        QTest::addColumn<int>("bgW");
-        QTest::addColumn<int>("bgH");
-        QTest::addColumn<int>("boxW");
-        QTest::addColumn<int>("boxH");
-        QTest::addColumn<QString>("scale");
-        QTest::newRow("4:3") << 1024 << 768 << 236 << 177 << "23.046875";
-        QTest::newRow("the box itself") << 257 << 177 << 257 << 177 << "100";
-        QTest::newRow("16:9") << 1920 << 1080 << 257 << 144 << "13.3854166666667";
-        QTest::newRow("tall") << 600 << 1200 << 88 << 177 << "14.75";
-        QTest::newRow("no page") << 0 << 0 << 257 << 177 << "100";
+        QTest::addColumn<QSize>("page");
+        QTest::addColumn<QString>("fit");  // width x height, scale
+        QTest::newRow("4:3") << QSize(1024, 768) << "236x177 23.046875";
+        QTest::newRow("the box itself") << QSize(257, 177) << "257x177 100";
+        QTest::newRow("16:9") << QSize(1920, 1080) << "257x144 13.3854166666667";
+        QTest::newRow("tall") << QSize(600, 1200) << "88x177 14.75";
+        QTest::newRow("no page") << QSize(0, 0) << "257x177 100";
     }
 
     void previewFit() {
-        QFETCH(int, bgW);
-        QFETCH(int, bgH);
-        const PreviewFit fit = design::previewFit(bgW, bgH);
-        QTEST(fit.width, "boxW");
-        QTEST(fit.height, "boxH");
-        QTEST(previewScalePayload(fit), "scale");
+        QFETCH(QSize, page);
+        const PreviewFit fit = design::previewFit(page.width(), page.height());
+        QTEST(QStringLiteral("%1x%2 ").arg(fit.width).arg(fit.height) + previewScalePayload(fit),
+              "fit");
     }
 
     void stageScale_data() {
-        QTest::addColumn<int>("hostW");
-        QTest::addColumn<int>("hostH");
+        QTest::addColumn<QSize>("host");
         QTest::addColumn<bool>("fullScreen");
         QTest::addColumn<QString>("value");
-        QTest::newRow("full screen 1920x1080") << 1920 << 1080 << true << "187.5|140.625";
-        QTest::newRow("window keeps the frame") << 1026 << 798 << false << "100|100";
-        QTest::newRow("window, odd size") << 802 << 630 << false << "78.125|78.125";
+        QTest::newRow("full screen 1920x1080") << QSize(1920, 1080) << true << "187.5|140.625";
+        QTest::newRow("window keeps the frame") << QSize(1026, 798) << false << "100|100";
+        QTest::newRow("window, odd size") << QSize(802, 630) << false << "78.125|78.125";
     }
 
     void stageScale() {
-        QFETCH(int, hostW);
-        QFETCH(int, hostH);
+        QFETCH(QSize, host);
         QFETCH(bool, fullScreen);
-        QTEST(stageScalePayload(hostW, hostH, fullScreen, 1024, 768), "value");
+        QTEST(stageScalePayload(host.width(), host.height(), fullScreen, 1024, 768), "value");
     }
 
     void addPayloads() {
@@ -382,9 +321,9 @@ private Q_SLOTS:
                  "1024|384|7|1|2|200|180|3|0x111111|60|4|0x222222|70|3|2|1|" + titleStyle + "|" +
                      nameStyle);
         // Halves go to the even neighbour.
-        QCOMPARE(playbackSide(50, 1023), 512);
-        QCOMPARE(playbackSide(50, 1021), 510);
-        QCOMPARE(playbackSide(70, 1024), 717);
+        QCOMPARE(
+            (QList<int>{playbackSide(50, 1023), playbackSide(50, 1021), playbackSide(70, 1024)}),
+            (QList<int>{512, 510, 717}));
     }
 
     void luckPlayValues() {

@@ -7,6 +7,7 @@
 #include "core/appstate.h"
 #include "design/templatepage.h"
 #include "design/view/templaterestoredialog.h"
+#include "support/childwidget.h"
 #include "support/filebytes.h"
 #include "support/tempprogramfolder.h"
 
@@ -37,16 +38,14 @@ private Q_SLOTS:
 
         TemplateRestoreDialog dialog;
         QSignalSpy reload(&dialog, &TemplateRestoreDialog::reloadRequested);
-        auto *steps = dialog.findChild<QTimer *>(QStringLiteral("stepTimer"));
-        QVERIFY(steps);
+        auto *steps = child<QTimer>(dialog, "stepTimer");
         steps->stop();
         QVERIFY(!dialog.close());  // not while a step is under way
         steps->start(0);
         QVERIFY(reload.wait());
         QCOMPARE(reload.count(), 1);
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
-        auto *status = dialog.findChild<QLabel *>(QStringLiteral("statusLabel"));
-        QVERIFY(status);
+        auto *status = child<QLabel>(dialog, "statusLabel");
         QCOMPARE(status->text(), notice);
         QCOMPARE(status->styleSheet().contains(QStringLiteral("220,0,0")), !withFactoryCopy);
         if (withFactoryCopy) {

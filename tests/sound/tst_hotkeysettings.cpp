@@ -36,6 +36,10 @@ QLabel *savedTick(const QWidget &form, int row) {
     return rowChild<QLabel>(form, row, "SavedTick");
 }
 
+void clashRow(const char *tag, const QList<int> &presses, const QList<int> &stored) {
+    QTest::newRow(tag) << presses << stored;
+}
+
 void save(const QWidget &form) {
     child<QPushButton>(form, "saveButton")->click();
 }
@@ -94,53 +98,42 @@ private Q_SLOTS:
     }
 
     void clashes_data() {
-        // Keys pressed per row (row index -> Qt key), then the KeyAsc of each of the nine rows and
-        // the rows that show the clash text. The factory keys: space, space, backspace, delete, E,
-        // P, L, M, F.
-        QTest::addColumn<QList<int>>("rows");
-        QTest::addColumn<QList<int>>("keys");
+        // Keys pressed per row (row index -> Qt key), then the KeyAsc of each of the nine rows; a
+        // row that clashes keeps no key (-1). The factory keys: space, space, backspace, delete,
+        // E, P, L, M, F.
+        QTest::addColumn<QList<int>>("presses");  // row, Qt key, row, Qt key...
         QTest::addColumn<QList<int>>("stored");
-        QTest::addColumn<QList<int>>("clashRows");
-        QTest::newRow("start and stop share a key")
-            << QList<int>{0, 1} << QList<int>{Qt::Key_Return, Qt::Key_Return}
-            << QList<int>{13, 13, 8, 46, 69, 80, 76, 77, 70} << QList<int>{};
-        QTest::newRow("start and clear: the later row loses")
-            << QList<int>{0, 2} << QList<int>{Qt::Key_Q, Qt::Key_Q}
-            << QList<int>{81, 32, -1, 46, 69, 80, 76, 77, 70} << QList<int>{2};
-        QTest::newRow("start takes a stored key: start loses")
-            << QList<int>{0} << QList<int>{Qt::Key_E}
-            << QList<int>{-1, 32, 8, 46, 69, 80, 76, 77, 70} << QList<int>{0};
-        QTest::newRow("two of the seven on one key")
-            << QList<int>{3, 7} << QList<int>{Qt::Key_K, Qt::Key_K}
-            << QList<int>{32, 32, 8, 75, 69, 80, 76, -1, 70} << QList<int>{7};
-        QTest::newRow("stop may not share with the seven")
-            << QList<int>{1} << QList<int>{Qt::Key_F}
-            << QList<int>{32, -1, 8, 46, 69, 80, 76, 77, 70} << QList<int>{1};
-        QTest::newRow("a row takes a key another row gives up")
-            << QList<int>{4, 5} << QList<int>{Qt::Key_P, Qt::Key_E}
-            << QList<int>{32, 32, 8, 46, -1, 69, 76, 77, 70} << QList<int>{4};
-        QTest::newRow("unsupported key is stored as its code")
-            << QList<int>{6} << QList<int>{Qt::Key_Left}
-            << QList<int>{32, 32, 8, 46, 69, 80, 37, 77, 70} << QList<int>{};
+        clashRow("start and stop share a key", {0, Qt::Key_Return, 1, Qt::Key_Return},
+                 {13, 13, 8, 46, 69, 80, 76, 77, 70});
+        clashRow("start and clear: the later row loses", {0, Qt::Key_Q, 2, Qt::Key_Q},
+                 {81, 32, -1, 46, 69, 80, 76, 77, 70});
+        clashRow("start takes a stored key: start loses", {0, Qt::Key_E},
+                 {-1, 32, 8, 46, 69, 80, 76, 77, 70});
+        clashRow("two of the seven on one key", {3, Qt::Key_K, 7, Qt::Key_K},
+                 {32, 32, 8, 75, 69, 80, 76, -1, 70});
+        clashRow("stop may not share with the seven", {1, Qt::Key_F},
+                 {32, -1, 8, 46, 69, 80, 76, 77, 70});
+        clashRow("a row takes a key another row gives up", {4, Qt::Key_P, 5, Qt::Key_E},
+                 {32, 32, 8, 46, -1, 69, 76, 77, 70});
+        clashRow("unsupported key is stored as its code", {6, Qt::Key_Left},
+                 {32, 32, 8, 46, 69, 80, 37, 77, 70});
     }
 
     void clashes() {
-        QFETCH(QList<int>, rows);
-        QFETCH(QList<int>, keys);
-        QFETCH(QList<int>, stored);
-        QFETCH(QList<int>, clashRows);
+        QFETCH(QList<int>, presses);
         HotkeySettingsDialog form;
-        for (int i = 0; i < rows.size(); ++i)
-            QTest::keyClick(keyEdit(form, rows.at(i)), Qt::Key(keys.at(i)));
+        for (int i = 0; i + 1 < presses.size(); i += 2)
+            QTest::keyClick(keyEdit(form, presses.at(i)), Qt::Key(presses.at(i + 1)));
         save(form);
-        for (int id = 1; id <= 9; ++id)
-            QCOMPARE(storedKey(id), stored.at(id - 1));
+        QList<int> stored;
         for (int row = 0; row < 9; ++row) {
-            const bool clash = clashRows.contains(row);
+            stored << storedKey(row + 1);
+            const bool clash = stored.last() == -1;
             QCOMPARE(keyEdit(form, row)->text() == QStringLiteral("重复,保存失效"), clash);
             QCOMPARE(savedTick(form, row)->isVisibleTo(&form), !clash);
             if (clash) QVERIFY(isRed(keyEdit(form, row)));
         }
+        QTEST(stored, "stored");
         // The dialog stays open and says nothing.
         QVERIFY(m_ui->records.isEmpty());
     }
@@ -154,14 +147,12 @@ private Q_SLOTS:
         QCOMPARE(keyEdit(form, 3)->text(), QStringLiteral("不支持该键"));
         QVERIFY(isRed(keyEdit(form, 4)));
         save(form);
-        for (int id : {4, 5})
-            QCOMPARE(storedKey(id), -1);
-        QCOMPARE(keyEdit(form, 3)->text(), QStringLiteral("重复,保存失效"));
-        QCOMPARE(keyEdit(form, 4)->text(), QStringLiteral("重复,保存失效"));
-        QCOMPARE(storedKey(6), 0);
+        QCOMPARE((QList<int>{storedKey(1), storedKey(4), storedKey(5), storedKey(6)}),
+                 (QList<int>{32, -1, -1, 0}));
+        QCOMPARE((QStringList{keyEdit(form, 3)->text(), keyEdit(form, 4)->text()}),
+                 (QStringList{"重复,保存失效", "重复,保存失效"}));
         QVERIFY(!savedTick(form, 5)->isVisibleTo(&form));
         QVERIFY(keyEdit(form, 5)->text() != QStringLiteral("重复,保存失效"));
-        QCOMPARE(storedKey(1), 32);
         QVERIFY(savedTick(form, 0)->isVisibleTo(&form));
     }
 
@@ -199,21 +190,19 @@ private Q_SLOTS:
         auto *guardBox = child<QCheckBox>(form, "guardBox");
         auto *guardSlider = child<QSlider>(form, "guardSlider");
         QVERIFY(guardBox->isChecked());  // factory: on, 3 seconds
-        QCOMPARE(guardSlider->value(), 3);
-        QCOMPARE(guardSlider->minimum(), 1);
-        QCOMPARE(guardSlider->maximum(), 100);
-        QCOMPARE(guardSlider->pageStep(), 5);
+        QCOMPARE((QList<int>{guardSlider->value(), guardSlider->minimum(), guardSlider->maximum(),
+                             guardSlider->pageStep()}),
+                 (QList<int>{3, 1, 100, 5}));
         guardSlider->setValue(7);
         guardBox->setChecked(false);
         QVERIFY(!guardSlider->isEnabled());
         save(form);
-        QCOMPARE(appState().isTimeProtect, qint16(0));
-        QCOMPARE(appState().timeProtectNum, qint16(7));
+        QCOMPARE((QList<int>{appState().isTimeProtect, appState().timeProtectNum}),
+                 (QList<int>{0, 7}));
         const QString ini = m_folder->path(QStringLiteral("config.ini"));
-        QCOMPARE(readIni(QStringLiteral("main"), QStringLiteral("isTimeProtect"), ini),
-                 QStringLiteral("0"));
-        QCOMPARE(readIni(QStringLiteral("main"), QStringLiteral("timeProtectNum"), ini),
-                 QStringLiteral("7"));
+        QCOMPARE((QStringList{readIni("main", "isTimeProtect", ini),
+                              readIni("main", "timeProtectNum", ini)}),
+                 (QStringList{"0", "7"}));
     }
 
 private:

@@ -27,49 +27,44 @@ private Q_SLOTS:
         writeFile(music("drum.wav"), "drum");
         store(music::Background, "bg.mp3");
         store(music::Start, "drum.wav");
-        music::Settings chosen = shown();
-        chosen[music::Background].path = music("drum.wav");
-        chosen[music::Start].path = writeFile(outside("new.wav"), "new");
-        music::saveSettings(appState().appPath, chosen);
-        QCOMPARE(key(music::Background), QStringLiteral("drum.wav"));
-        QCOMPARE(key(music::Start), QStringLiteral("new.wav"));
-        QCOMPARE(readFile(music("drum.wav")), QByteArray("drum"));
-        QCOMPARE(readFile(music("new.wav")), QByteArray("new"));
-        QVERIFY(!QFile::exists(music("bg.mp3")));  // replaced and named by no row
+        save({{music::Background, music("drum.wav")},
+              {music::Start, writeFile(outside("new.wav"), "new")}});
+        QCOMPARE(keys(), (QStringList{"drum.wav", "new.wav", "no", "no"}));
+        // bg.mp3 was replaced and is named by no row.
+        QCOMPARE(musicFolder(), (QStringList{"drum.wav=drum", "new.wav=new"}));
     }
 
     // The start row's drum.wav is replaced, while the background takes a drum.wav from elsewhere.
     void fileJustCopiedUnderTheOldNameStays() {
         writeFile(music("drum.wav"), "old drum");
         store(music::Start, "drum.wav");
-        music::Settings chosen = shown();
         QDir().mkpath(outside("other"));
-        chosen[music::Background].path = writeFile(outside("other/drum.wav"), "new drum");
-        chosen[music::Start].path = writeFile(outside("new.wav"), "new");
-        music::saveSettings(appState().appPath, chosen);
-        QCOMPARE(key(music::Background), QStringLiteral("drum.wav"));
-        QCOMPARE(key(music::Start), QStringLiteral("new.wav"));
-        QCOMPARE(readFile(music("drum.wav")), QByteArray("new drum"));
+        save({{music::Background, writeFile(outside("other/drum.wav"), "new drum")},
+              {music::Start, writeFile(outside("new.wav"), "new")}});
+        QCOMPARE(keys(), (QStringList{"drum.wav", "new.wav", "no", "no"}));
+        QCOMPARE(musicFolder(), (QStringList{"drum.wav=new drum", "new.wav=new"}));
+    }
+
+    void sameNameFromElsewhereReplacesTheRowsOwnFile() {
+        writeFile(music("drum.wav"), "old drum");
+        store(music::Background, "drum.wav");
+        save({{music::Background, writeFile(outside("drum.wav"), "new drum")}});
+        QCOMPARE(keys(), (QStringList{"drum.wav", "no", "no", "no"}));
+        QCOMPARE(musicFolder(), QStringList{"drum.wav=new drum"});
     }
 
     void sameNameFromElsewhereBesideAnotherRowsSound() {
         writeFile(music("drum.wav"), "background drum");
         store(music::Background, "drum.wav");
-        music::Settings chosen = shown();
-        chosen[music::Start].path = writeFile(outside("drum.wav"), "start drum");
-        music::saveSettings(appState().appPath, chosen);
-        QCOMPARE(key(music::Background), QStringLiteral("drum.wav"));
-        QCOMPARE(readFile(music("drum.wav")), QByteArray("background drum"));
-        QCOMPARE(key(music::Start), QStringLiteral("drum-2.wav"));
-        QCOMPARE(readFile(music("drum-2.wav")), QByteArray("start drum"));
+        save({{music::Start, writeFile(outside("drum.wav"), "start drum")}});
+        QCOMPARE(keys(), (QStringList{"drum.wav", "drum-2.wav", "no", "no"}));
+        QCOMPARE(musicFolder(), (QStringList{"drum-2.wav=start drum", "drum.wav=background drum"}));
     }
 
     void fileInsideMusicIsSaved() {
         writeFile(music("fanfare.mp3"), "fanfare");
-        music::Settings chosen = shown();
-        chosen[music::Luck].path = music("fanfare.mp3");
-        music::saveSettings(appState().appPath, chosen);
-        QCOMPARE(key(music::Luck), QStringLiteral("fanfare.mp3"));
+        save({{music::Luck, music("fanfare.mp3")}});
+        QCOMPARE(keys(), (QStringList{"no", "no", "fanfare.mp3", "no"}));
         QCOMPARE(music::readSettings(appState().appPath)[music::Luck].path, music("fanfare.mp3"));
     }
 
@@ -77,10 +72,8 @@ private Q_SLOTS:
     void keyLeadingOutOfMusicNeverDeletes() {
         writeFile(m_folder->path("demo.mp3"), "the operator's");
         store(music::Background, "../demo.mp3");
-        music::Settings chosen = shown();
-        chosen[music::Background].path = writeFile(outside("party.mp3"), "party");
-        music::saveSettings(appState().appPath, chosen);
-        QCOMPARE(key(music::Background), QStringLiteral("party.mp3"));
+        save({{music::Background, writeFile(outside("party.mp3"), "party")}});
+        QCOMPARE(keys().value(0), QStringLiteral("party.mp3"));
         QCOMPARE(readFile(m_folder->path("demo.mp3")), QByteArray("the operator's"));
     }
 
@@ -92,16 +85,28 @@ private:
         m_folder->setConfig(settings::kMusic, keys.fileKey, name);
         m_folder->setConfig(settings::kMusic, keys.flagKey, "1");
     }
-    QString key(int slot) const {
-        return readIni(settings::kMusic, QLatin1String(music::keysOf(slot).fileKey),
-                       appState().iniPath);
+    QStringList keys() const {
+        QStringList all;
+        for (int slot = 0; slot < music::SlotCount; ++slot)
+            all << readIni(settings::kMusic, QLatin1String(music::keysOf(slot).fileKey),
+                           appState().iniPath);
+        return all;
     }
-    // What the dialog hands over: every row's file as shown, the new choices among them.
-    music::Settings shown() const {
+    // What Music/ holds, as "name=bytes" by name.
+    QStringList musicFolder() const {
+        QStringList files;
+        for (const QString &name : QDir(music(QString())).entryList(QDir::Files, QDir::Name))
+            files << name + '=' + QString::fromUtf8(readFile(music(name)));
+        return files;
+    }
+    // Saves what the dialog hands over: every row's file as shown, with these rows chosen anew.
+    void save(const QList<QPair<int, QString>> &choices) const {
         music::Settings settings = music::readSettings(appState().appPath);
         for (music::SlotSetting &slot : settings)
             slot.on = true;
-        return settings;
+        for (const auto &[slot, path] : choices)
+            settings[size_t(slot)].path = path;
+        music::saveSettings(appState().appPath, settings);
     }
 
     std::unique_ptr<TempProgramFolder> m_folder;

@@ -3,7 +3,6 @@
 // A QML movie on a QmlStage, offscreen, with every command it raises written down, and the
 // payloads of the 16:9 factory template as the draw screen sends them.
 
-#include <QElapsedTimer>
 #include <QImage>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -11,7 +10,6 @@
 #include <QWidget>
 #include <QtTest>
 
-#include "chrome/widgethelpers.h"
 #include "core/fonts.h"
 #include "stage/protocol.h"
 #include "stage/view/qmlstage.h"
@@ -48,12 +46,7 @@ public:
         QCoreApplication::processEvents();
     }
 
-    int count(const QString &command) const {
-        int n = 0;
-        for (const auto &c : commands)
-            n += c.first == command ? 1 : 0;
-        return n;
-    }
+    int count(const QString &command) const { return int(args(command).size()); }
     QStringList args(const QString &command) const {
         QStringList out;
         for (const auto &c : commands)

@@ -58,7 +58,6 @@ private Q_SLOTS:
 
     void viewerShowsAndClears() {
         QTemporaryDir dir;
-        QVERIFY(dir.isValid());
         makePortraits(dir.path(), {7}, QSize(120, 160));
         const QString photo = dir.path() + QStringLiteral("/u7.jpg");
         StageRig rig(QStringLiteral("viewer.qml"), QmlStage::Host::Automatic, QSize(189, 152));

@@ -9,6 +9,7 @@
 #include "draw/livescreen.h"
 #include "stage/protocol.h"
 #include "stage/stagescreens.h"
+#include "support/childwidget.h"
 #include "support/moviecall.h"
 
 namespace {
@@ -44,8 +45,7 @@ private Q_SLOTS:
     void defaultScreen() {
         QFETCH(QList<QRect>, screens);
         QFETCH(int, console);
-        QFETCH(int, expected);
-        QCOMPARE(stagescreens::defaultIndex(screens, console), expected);
+        QTEST(stagescreens::defaultIndex(screens, console), "expected");
     }
 
     void stageOpensOnTheLargestScreenBesideTheConsole() {
@@ -63,13 +63,11 @@ private Q_SLOTS:
         QVERIFY(folder.start());
         installScriptedUi();
         DrawWizardDialog wizard(DrawWizardDialog::Purpose::StartDraw);
-        auto *screens = wizard.findChild<QComboBox *>(QStringLiteral("screenCombo"));
-        QVERIFY(screens);
+        auto *screens = child<QComboBox>(wizard, "screenCombo");
         QCOMPARE(screens->count(), 2);
         QCOMPARE(screens->currentText(), QStringLiteral("hall  1920 × 1080"));
         screens->setCurrentIndex(screens->findText(QStringLiteral("desk  1280 × 1024")));
-        QVERIFY(wizard.findChild<QPushButton *>(QStringLiteral("okButton")));
-        wizard.findChild<QPushButton *>(QStringLiteral("okButton"))->click();
+        child<QPushButton>(wizard, "okButton")->click();
         QCOMPARE(appState().stageScreen, QStringLiteral("desk"));
         appState().stageScreen.clear();
     }

@@ -1,7 +1,6 @@
 #include <QtTest>
 
 #include "core/appstate.h"
-#include "core/store.h"
 #include "design/stageload.h"
 #include "stagerig.h"
 #include "support/tempprogramfolder.h"
@@ -46,12 +45,9 @@ private Q_SLOTS:
         const design::PayloadContext context = design::contextFor(design::Reader(reader));
         design::LoadReport report;
         QString error;
-        QVERIFY2(
-            design::loadTemplateFile(
-                rig.stage, folder.path(QStringLiteral("skin/")) + skin + QStringLiteral(".jsk"),
-                context, &report, &error),
-            qPrintable(error));
-        QVERIFY(!report.sentNames.isEmpty());
+        const QString file = folder.path(QStringLiteral("skin/")) + skin + QStringLiteral(".jsk");
+        QVERIFY2(design::loadTemplateFile(rig.stage, file, context, &report, &error),
+                 qPrintable(error));
         const QStringList onPage = rig.callList("objectNames");
         for (const QString &name : report.sentNames)
             QVERIFY2(onPage.contains(name), qPrintable(name));
@@ -59,20 +55,9 @@ private Q_SLOTS:
         if (reader != int(design::Reader::Draw)) return;
 
         // The draw area takes the template's own cell style.
-        QVERIFY(store::openTemplate(
-            folder.path(QStringLiteral("skin/")) + skin + QStringLiteral(".jsk"),
-            QStringLiteral("stagetest"), &error));
-        QSqlDatabase db = QSqlDatabase::database(QStringLiteral("stagetest"));
-        design::LoadBlockValues values;
-        values.sample = design::longestUserName(folder.db());
-        values.maxImgWidth = 200;
-        values.maxImgHeight = 200;
-        values.batchCount = 2;
+        const design::LoadBlockValues values{design::longestUserName(folder.db()), 200, 200, 0, 2};
         rig.send(proto::vbndluck, QStringLiteral("0|欧阳明月$1|张伟$2"));
-        rig.send(proto::vbLoadBlock, design::loadBlockValue(db, values));
-        db.close();
-        db = QSqlDatabase();
-        QSqlDatabase::removeDatabase(QStringLiteral("stagetest"));
+        rig.send(proto::vbLoadBlock, design::loadBlockValue(file, values));
         QCOMPARE(rig.count(proto::cmd::blocksetok), 1);
         QCOMPARE(rig.callList("cellNames").size(), 2);
     }
