@@ -119,20 +119,15 @@ private Q_SLOTS:
         QCOMPARE(d.window->selectedObject(), design::sysobj::txt_jxname);
         const int x = d.stored("txt_jxname", "ObjX").toInt();
         const int w = d.info("txt_jxname").value("width").toInt();
-        QVERIFY2(QList<int>({x, x + w / 2, x + w}).contains(guide.toInt()),
-                 qPrintable(
-                     QStringLiteral("guide %1, object %2 + %3").arg(guide.toInt()).arg(x).arg(w)));
+        QVERIFY(QList<int>({x, x + w / 2, x + w}).contains(guide.toInt()));
         QVERIFY(x != 100);
         QVERIFY(d.stored("txt_jxname", "ObjY").toInt() > 250);
-        QVERIFY(saveLit(*d.window));
 
         // The draw area's bottom-right handle resizes it.
-        const QVariantMap area = d.info("ssm_vornex");
         d.drag({600 + 100, 240 + 100}, {600 + 100, 240 + 100});  // select it
         d.drag({600 + 1224, 240 + 700}, {600 + 1124, 240 + 650});
         QCOMPARE(d.stored("ssm_vornex", "ObjW").toInt(), 1124);
         QCOMPARE(d.stored("ssm_vornex", "ObjH").toInt(), 650);
-        QCOMPARE(area.value("x").toInt(), 600);
 
         QWidget *surface = d.window->findChild<QQuickWidget *>();
         QTest::keyClick(surface, Qt::Key_Right);

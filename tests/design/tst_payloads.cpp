@@ -266,26 +266,6 @@ private Q_SLOTS:
                  "false|" + name + "|9|50|70|0|0|" + kAnimation);
     }
 
-    void loadBlock() {
-        LoadBlockValues values{QStringLiteral("欧阳|娜娜"), 200, 180, 2, 5};
-        PlayRow block = defaultPlayRow(rows::blockValue);
-        block.found = true;
-        block.BgType = QStringLiteral("box");
-        block.BgColor = QStringLiteral("0xFFF4D6");
-        block.BgAlpha = 92;
-        block.DotX = 14;
-        block.DotY = 12;
-        block.PaddingNum = 10;
-        block.fSize = 30;
-        QCOMPARE(loadBlockPayload(values, block),
-                 QStringLiteral("欧阳‖娜娜|200|180|2|5|box|0xFFF4D6|92|14|12|10|"
-                                "黑体|0xFF0000|30|100|true|false|false|center|1|s|"));
-        values.sample = proto::demoText;
-        QCOMPARE(
-            loadBlockPayload(values, defaultPlayRow(rows::blockValue)),
-            QStringLiteral("演示文字|200|180||黑体|0xFF0000|26|100|true|false|false|center|1|s|"));
-    }
-
     void drawAreaPreview() {
         // Texts as typed: an emptied dot box sends an empty field, the demo text goes trimmed.
         DrawAreaPreviewValues values{200, 200, 1,  "6", 1,          "0x123456",

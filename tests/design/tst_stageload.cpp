@@ -179,9 +179,11 @@ private Q_SLOTS:
                             {QStringLiteral("上官|婉儿$")}));
         QCOMPARE(longestUserName(folder.db()), QStringLiteral("上官|婉儿$"));
 
+        // Three different paddings, so that no two of them can swap unseen.
+        editTemplate(folder.path(k43), {"UPDATE LuckPlay SET DotY=13 WHERE ObjName='blockValue'"});
         LoadBlockValues values{longestUserName(folder.db()), 200, 180, 1, 3};
         QCOMPARE(loadBlockValue(folder.path(k43), values),
-                 QStringLiteral("上官‖婉儿＄|200|180|1|3|round|0xFFF4D6|92|14|14|12|"
+                 QStringLiteral("上官‖婉儿＄|200|180|1|3|round|0xFFF4D6|92|14|13|12|"
                                 "黑体|0xB0171F|30|100|true|false|false|center|0|s|"));
         QVERIFY(ui->records.isEmpty());
 

@@ -66,13 +66,13 @@ QStringList columnTexts(const QTreeWidget *list, int column) {
     return texts;
 }
 
-// Fills the editor, presses 保存 and returns what the operator is told.
+// Fills the editor, presses 保存 (or the button named) and returns what the operator is told.
 QString saveAs(const QWidget &form, const ScriptedUi *ui, const char *name, const char *remark,
-               const char *diffNum) {
+               const char *diffNum, const char *button = "saveButton") {
     child<QLineEdit>(form, "nameEdit")->setText(QString::fromUtf8(name));
     child<QLineEdit>(form, "remarkEdit")->setText(QString::fromUtf8(remark));
     child<QLineEdit>(form, "diffNumEdit")->setText(QString::fromUtf8(diffNum));
-    child<QPushButton>(form, "saveButton")->click();
+    child<QPushButton>(form, button)->click();
     return ui->last().text;
 }
 
@@ -317,22 +317,15 @@ private Q_SLOTS:
         installRecordingStages();
         AddParticipantDialog form;
         QCOMPARE(edit(form, "diffNumEdit")->text(), QStringLiteral("0"));
-        QPushButton *add = button(form, "addButton");
-        add->click();
-        QCOMPARE(m_ui->last().text, QStringLiteral("请输入抽奖名单!"));
-        edit(form, "nameEdit")->setText(QStringLiteral(" 甲 "));
-        edit(form, "remarkEdit")->setText(QStringLiteral("一部"));
-        add->click();
+        QCOMPARE(saveAs(form, m_ui, "", "", "0", "addButton"), "请输入抽奖名单!");
+        saveAs(form, m_ui, " 甲 ", "一部", "0", "addButton");
         QCOMPARE(m_ui->last().title, QStringLiteral("新增失败"));
         QCOMPARE(form.result(), int(QDialog::Rejected));
-        edit(form, "remarkEdit")->setText(QStringLiteral("二部"));
-        edit(form, "diffNumEdit")->setText(QStringLiteral("12345678901"));
-        add->click();
-        QCOMPARE(m_ui->last().text, roster::kDiffNumTooLarge);
-        edit(form, "diffNumEdit")->setText(QString());
+        QCOMPARE(saveAs(form, m_ui, " 甲 ", "二部", "12345678901", "addButton"),
+                 roster::kDiffNumTooLarge);
         QImage(10, 10, QImage::Format_RGB32).save(m_folder->path("Photos/camertemp.jpg"));
         edit(form, "photoStateEdit")->setText(QStringLiteral("camre"));
-        add->click();
+        saveAs(form, m_ui, " 甲 ", "二部", "", "addButton");
         QCOMPARE(form.result(), int(QDialog::Accepted));
         QCOMPARE(form.addedId(), 2);
         QCOMPARE(store::scalar(m_folder->db(),

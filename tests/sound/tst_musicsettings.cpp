@@ -21,60 +21,46 @@ private Q_SLOTS:
     }
     void cleanup() { m_folder.reset(); }
 
-    // The start sound moves to the background row and the start row gets a new sound.
-    void movingASoundToAnotherRowKeepsIt() {
-        writeFile(music("bg.mp3"), "bg");
-        writeFile(music("drum.wav"), "drum");
-        store(music::Background, "bg.mp3");
-        store(music::Start, "drum.wav");
-        save({{music::Background, music("drum.wav")},
-              {music::Start, writeFile(outside("new.wav"), "new")}});
-        QCOMPARE(keys(), (QStringList{"drum.wav", "new.wav", "no", "no"}));
-        // bg.mp3 was replaced and is named by no row.
-        QCOMPARE(musicFolder(), (QStringList{"drum.wav=drum", "new.wav=new"}));
+    // Each row, lists joined by "|": Music/ before ("name=bytes", "../" for the program folder),
+    // the stored keys, the rows chosen anew ("path=bytes" written outside, a bare path inside the
+    // program folder), then the keys and files after the save.
+    void saveKeepsCopiesAndDeletes_data() {
+        for (const char *column : {"before", "stored", "choices", "keysAfter", "after"})
+            QTest::addColumn<QString>(column);
+        const auto row = [](const char *tag, const char *before, const char *stored,
+                            const char *choices, const char *keysAfter, const char *after) {
+            QTest::newRow(tag) << QString(before) << QString(stored) << QString(choices)
+                               << QString(keysAfter) << QString(after);
+        };
+        row("sound moved to another row is kept, the replaced one goes", "bg.mp3=bg|drum.wav=drum",
+            "bg.mp3|drum.wav", "Music/drum.wav|new.wav=new", "drum.wav|new.wav|no|no",
+            "drum.wav=drum|new.wav=new");
+        row("file just copied under the old name stays", "drum.wav=old drum", "no|drum.wav",
+            "drum.wav=new drum|new.wav=new", "drum.wav|new.wav|no|no",
+            "drum.wav=new drum|new.wav=new");
+        row("same name from elsewhere replaces the row's own file", "drum.wav=old drum", "drum.wav",
+            "drum.wav=new drum", "drum.wav|no|no|no", "drum.wav=new drum");
+        row("same name from elsewhere beside another row's sound", "drum.wav=background drum",
+            "drum.wav", "|drum.wav=start drum", "drum.wav|drum-2.wav|no|no",
+            "drum-2.wav=start drum|drum.wav=background drum");
+        row("file inside Music/ is saved by name", "fanfare.mp3=fanfare", "no",
+            "||Music/fanfare.mp3", "no|no|fanfare.mp3|no", "fanfare.mp3=fanfare");
+        // A hand-edited key naming a file outside Music/ is replaced, never followed to delete.
+        row("key leading out of Music/ never deletes", "../demo.mp3=the operator's", "../demo.mp3",
+            "party.mp3=party", "party.mp3|no|no|no", "../demo.mp3=the operator's|party.mp3=party");
     }
-
-    // The start row's drum.wav is replaced, while the background takes a drum.wav from elsewhere.
-    void fileJustCopiedUnderTheOldNameStays() {
-        writeFile(music("drum.wav"), "old drum");
-        store(music::Start, "drum.wav");
-        QDir().mkpath(outside("other"));
-        save({{music::Background, writeFile(outside("other/drum.wav"), "new drum")},
-              {music::Start, writeFile(outside("new.wav"), "new")}});
-        QCOMPARE(keys(), (QStringList{"drum.wav", "new.wav", "no", "no"}));
-        QCOMPARE(musicFolder(), (QStringList{"drum.wav=new drum", "new.wav=new"}));
-    }
-
-    void sameNameFromElsewhereReplacesTheRowsOwnFile() {
-        writeFile(music("drum.wav"), "old drum");
-        store(music::Background, "drum.wav");
-        save({{music::Background, writeFile(outside("drum.wav"), "new drum")}});
-        QCOMPARE(keys(), (QStringList{"drum.wav", "no", "no", "no"}));
-        QCOMPARE(musicFolder(), QStringList{"drum.wav=new drum"});
-    }
-
-    void sameNameFromElsewhereBesideAnotherRowsSound() {
-        writeFile(music("drum.wav"), "background drum");
-        store(music::Background, "drum.wav");
-        save({{music::Start, writeFile(outside("drum.wav"), "start drum")}});
-        QCOMPARE(keys(), (QStringList{"drum.wav", "drum-2.wav", "no", "no"}));
-        QCOMPARE(musicFolder(), (QStringList{"drum-2.wav=start drum", "drum.wav=background drum"}));
-    }
-
-    void fileInsideMusicIsSaved() {
-        writeFile(music("fanfare.mp3"), "fanfare");
-        save({{music::Luck, music("fanfare.mp3")}});
-        QCOMPARE(keys(), (QStringList{"no", "no", "fanfare.mp3", "no"}));
-        QCOMPARE(music::readSettings(appState().appPath)[music::Luck].path, music("fanfare.mp3"));
-    }
-
-    // A hand-edited key naming a file outside Music/ is replaced, never followed to delete.
-    void keyLeadingOutOfMusicNeverDeletes() {
-        writeFile(m_folder->path("demo.mp3"), "the operator's");
-        store(music::Background, "../demo.mp3");
-        save({{music::Background, writeFile(outside("party.mp3"), "party")}});
-        QCOMPARE(keys().value(0), QStringLiteral("party.mp3"));
-        QCOMPARE(readFile(m_folder->path("demo.mp3")), QByteArray("the operator's"));
+    void saveKeepsCopiesAndDeletes() {
+        QFETCH(QString, before);
+        QFETCH(QString, stored);
+        QFETCH(QString, choices);
+        for (const QString &file : before.split('|'))
+            writeFile(music(file.section('=', 0, 0)), file.section('=', 1).toUtf8());
+        const QStringList storedNames = stored.split('|');
+        for (int slot = 0; slot < storedNames.size(); ++slot)
+            store(slot, storedNames[slot]);
+        save(choices.split('|'));
+        QTEST(keys().join('|'), "keysAfter");
+        QTEST(files().join('|'), "after");
     }
 
 private:
@@ -92,20 +78,28 @@ private:
                            appState().iniPath);
         return all;
     }
-    // What Music/ holds, as "name=bytes" by name.
-    QStringList musicFolder() const {
+    // The sound files of the program folder ("../"), then all of Music/, as "name=bytes" by name.
+    QStringList files() const {
         QStringList files;
-        for (const QString &name : QDir(music(QString())).entryList(QDir::Files, QDir::Name))
+        for (const QString &name : QDir(m_folder->path()).entryList({"*.mp3", "*.wav"}))
+            files << "../" + name + '=' + QString::fromUtf8(readFile(m_folder->path(name)));
+        for (const QString &name : QDir(music(QString())).entryList(QDir::Files))
             files << name + '=' + QString::fromUtf8(readFile(music(name)));
         return files;
     }
-    // Saves what the dialog hands over: every row's file as shown, with these rows chosen anew.
-    void save(const QList<QPair<int, QString>> &choices) const {
+    // Saves what the dialog hands over: every row's file as shown, the chosen rows replaced.
+    void save(const QStringList &choices) const {
         music::Settings settings = music::readSettings(appState().appPath);
         for (music::SlotSetting &slot : settings)
             slot.on = true;
-        for (const auto &[slot, path] : choices)
-            settings[size_t(slot)].path = path;
+        for (int slot = 0; slot < choices.size(); ++slot) {
+            QString &path = settings[size_t(slot)].path;
+            if (choices[slot].contains('='))
+                path = writeFile(outside(choices[slot].section('=', 0, 0)),
+                                 choices[slot].section('=', 1).toUtf8());
+            else if (!choices[slot].isEmpty())
+                path = m_folder->path(choices[slot]);
+        }
         music::saveSettings(appState().appPath, settings);
     }
 

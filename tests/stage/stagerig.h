@@ -80,9 +80,9 @@ public:
     // --- the draw screen's side, as literal payloads of the 16:9 factory template ----------
 
     // The reply to asok: background, keys, objects, award, as DrawWindow sends them.
-    void pushTemplate(const QString &photos = QString(), int luckDelay = 0) {
+    void pushTemplate(const QString &photos) {
         if (!photos.isEmpty()) send(proto::loadAllUserPics, photos);
-        send(proto::setAsBgColor, QStringLiteral("1920|1080|0x9E1B22|%1").arg(luckDelay));
+        send(proto::setAsBgColor, QStringLiteral("1920|1080|0x9E1B22|0"));
         send(proto::setAsBgImg, appPath() + QStringLiteral("|1920|1080"));
         // start and stop share the space bar; then C, Z, O, P, L, M, F.
         send(proto::setAsKeys, QStringLiteral("32|32|67|90|79|80|76|77|70"));
@@ -114,12 +114,11 @@ public:
     }
 
     // loadok -> gotoPlay2 -> asok -> pushes -> loaduserok.
-    bool startUp(const QString &photos = QString(), int luckDelay = 0,
-                 const QString &prizePicture = QString()) {
+    bool startUp(const QString &photos = QString(), const QString &prizePicture = QString()) {
         if (!waitFor(proto::cmd::loadok)) return false;
-        onCommand = [this, photos, luckDelay, prizePicture](const QString &c, const QString &) {
+        onCommand = [this, photos, prizePicture](const QString &c, const QString &) {
             if (c != proto::cmd::asok) return;
-            pushTemplate(photos, luckDelay);
+            pushTemplate(photos);
             loadAward(QStringLiteral("一等奖"), 5, 5, QStringLiteral("笔记本电脑"), prizePicture);
             send(proto::updateLuckLst, QStringLiteral("当前奖项暂无获奖名单..."));
             send(proto::changBtn, proto::buttons::defulte);

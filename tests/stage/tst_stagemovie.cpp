@@ -14,7 +14,7 @@ private Q_SLOTS:
         StageRig rig(QStringLiteral("stage.qml"));
         QVERIFY2(rig.loaded, qPrintable(rig.stage.errors().join('\n')));
         QVERIFY(rig.stage.usesWindow());
-        QVERIFY(rig.startUp(QString(), 0, prize));
+        QVERIFY(rig.startUp(QString(), prize));
         QCOMPARE(rig.commands,
                  (QList<QPair<QString, QString>>{{proto::cmd::loadok, QString()},
                                                  {proto::cmd::asok, QString()},
