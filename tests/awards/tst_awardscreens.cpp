@@ -22,6 +22,7 @@
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
+#include "support/treerows.h"
 
 namespace {
 
@@ -44,19 +45,6 @@ QTreeWidgetItem *rowOf(const QWidget &manager, int id) {
         if (list->topLevelItem(i)->data(AwardManagerDialog::ColCheck, Qt::UserRole) == key)
             return list->topLevelItem(i);
     qFatal("no row for award %d", id);
-}
-
-// Every row of the list, its cells joined by "|".
-QStringList listTexts(const QWidget &manager) {
-    const QTreeWidget *list = awardList(manager);
-    QStringList rows;
-    for (int i = 0; i < list->topLevelItemCount(); ++i) {
-        QStringList cells;
-        for (int column = 0; column < list->columnCount(); ++column)
-            cells << list->topLevelItem(i)->text(column);
-        rows << cells.join(QLatin1Char('|'));
-    }
-    return rows;
 }
 
 // Selecting a row loads its award into the editor.
@@ -102,9 +90,10 @@ private Q_SLOTS:
         QTreeWidget *list = awardList(dialog);
         QCOMPARE(list->headerItem()->text(AwardManagerDialog::ColRange),
                  QStringLiteral("区分编号范围"));
-        QCOMPARE(listTexts(dialog), (QStringList{"|1|特等奖|1|1|新能源汽车||否|不限制",
-                                                 "|2|一等奖|3|1|笔记本电脑||是|100 < (介于) < 500",
-                                                 "|3|二等奖|10|2|平板电脑||否|大于(>) 2000"}));
+        QCOMPARE(treeRows(awardList(dialog)),
+                 (QStringList{"|1|特等奖|1|1|新能源汽车||否|不限制",
+                              "|2|一等奖|3|1|笔记本电脑||是|100 < (介于) < 500",
+                              "|3|二等奖|10|2|平板电脑||否|大于(>) 2000"}));
         const QTreeWidgetItem *second = list->topLevelItem(1);
         QCOMPARE(second->data(AwardManagerDialog::ColCheck, Qt::UserRole).toString(),
                  QStringLiteral("K2"));
@@ -213,7 +202,8 @@ private Q_SLOTS:
         QCOMPARE(list->topLevelItemCount(), 3);
         m_ui->answers.enqueue(true);
         click(dialog, "deleteAwardsButton");
-        QCOMPARE(listTexts(dialog), QStringList{"|1|二等奖|10|2|平板电脑||否|大于(>) 2000"});
+        QCOMPARE(treeRows(awardList(dialog)),
+                 QStringList{"|1|二等奖|10|2|平板电脑||否|大于(>) 2000"});
         QCOMPARE(selectedId(dialog), 3);
         QCOMPARE(changed.count(), 1);
     }

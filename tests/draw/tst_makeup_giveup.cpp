@@ -16,21 +16,15 @@
 #include "stage/protocol.h"
 #include "support/filebytes.h"
 #include "support/scriptedui.h"
+#include "support/treerows.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// The rows of the give-up list on show, as "name|awards|status".
-QStringList shownRows(GiveUpDialog &dialog) {
-    QStringList rows;
-    for (int i = 0; i < winnerList(dialog)->topLevelItemCount(); ++i) {
-        const QTreeWidgetItem *item = row(dialog, i);
-        rows << item->text(GiveUpDialog::ColName) + '|' + item->text(GiveUpDialog::ColAwards) +
-                    '|' + item->text(GiveUpDialog::ColStatus);
-    }
-    return rows;
-}
+// The give-up list's columns the tests read: "name|awards|status".
+const QList<int> kShownColumns{GiveUpDialog::ColName, GiveUpDialog::ColAwards,
+                               GiveUpDialog::ColStatus};
 
 }  // namespace
 
@@ -197,8 +191,9 @@ private Q_SLOTS:
                  u"无1"_s);
         QCOMPARE(QList<int>({rig.winners(first), rig.winners(second)}), QList<int>({1, 1}));
         // Still listed, as given up, with nothing in the awards column.
-        QCOMPARE(shownRows(dialog), QStringList({u"王五|二等奖|已中奖"_s, u"张三||已弃奖"_s,
-                                                 u"李四|一等奖|已中奖"_s}));
+        QCOMPARE(
+            treeRows(winnerList(dialog), kShownColumns),
+            QStringList({u"王五|二等奖|已中奖"_s, u"张三||已弃奖"_s, u"李四|一等奖|已中奖"_s}));
         // What the draw screen does on givenUp: one more draw of one on the first award.
         rig.engine.reloadAward(true, true);
         QCOMPARE(rig.session.batchCount, 1);
@@ -224,7 +219,7 @@ private Q_SLOTS:
         // The page line, how many rows, the first and the last name, and whether previous page,
         // next page and give-up can be pressed.
         const auto shown = [&] {
-            const QStringList rows = shownRows(dialog);
+            const QStringList rows = treeRows(winnerList(dialog), kShownColumns);
             QStringList view{pageInfo(dialog), QString::number(rows.size()),
                              rows.value(0).section('|', 0, 0),
                              rows.value(rows.size() - 1).section('|', 0, 0)};
@@ -275,8 +270,9 @@ private Q_SLOTS:
         rig.setWins(ids[2], "|3|", 2, "2026-11-05 20:00:02");
         rig.setWins(ids[3], "|1||99|", 7, "2026-11-05 20:00:01");
         GiveUpDialog dialog;
-        QCOMPARE(shownRows(dialog), QStringList({"甲|三等奖 奖13|已中奖", "乙||已弃奖",
-                                                 "丙|奖3|已领奖", "丁|三等奖|"}));
+        QCOMPARE(
+            treeRows(winnerList(dialog), kShownColumns),
+            QStringList({"甲|三等奖 奖13|已中奖", "乙||已弃奖", "丙|奖3|已领奖", "丁|三等奖|"}));
         QList<QColor> colours;
         for (int i = 0; i < 3; ++i)
             colours << row(dialog, i)->foreground(GiveUpDialog::ColStatus).color();

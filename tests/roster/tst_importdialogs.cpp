@@ -26,6 +26,7 @@
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
 #include "support/testpaths.h"
+#include "support/treerows.h"
 
 namespace {
 
@@ -53,13 +54,6 @@ QLineEdit *edit(const QWidget &form, const char *name) {
 
 QString labelText(const QWidget &form, const char *name) {
     return child<QLabel>(form, name)->text();
-}
-
-QStringList treeTexts(const QTreeWidget *tree, int column) {
-    QStringList texts;
-    for (int i = 0; i < tree->topLevelItemCount(); ++i)
-        texts << tree->topLevelItem(i)->text(column);
-    return texts;
 }
 
 QString logText(const QWidget &form, const char *name) {
@@ -101,13 +95,13 @@ private Q_SLOTS:
         auto *preview = child<QTreeWidget>(form, "previewList");
         QPushButton *start = button(form, "startButton");
         QCOMPARE(sheets->item(1)->text(), QStringLiteral("Sheet 2"));
-        QCOMPARE(treeTexts(columns, 1), (QStringList{"F1", "F2", "F3", "F4", "F5", "F6", "F7"}));
+        QCOMPARE(treeRows(columns, {1}), (QStringList{"F1", "F2", "F3", "F4", "F5", "F6", "F7"}));
         QVERIFY(!start->isEnabled());
         columns->topLevelItem(1)->setCheckState(0, Qt::Checked);
         QVERIFY(start->isEnabled());
         QCOMPARE(preview->topLevelItem(0)->text(1), QStringLiteral("姓名 "));
         child<QCheckBox>(form, "headerRowBox")->setChecked(true);
-        QCOMPARE(treeTexts(preview, 1),
+        QCOMPARE(treeRows(preview, {1}),
                  (QStringList{"张三 ", "李四 ", "王五 ", "以下省略更多内容..."}));
         QVERIFY(preview->topLevelItem(0)->text(2).startsWith(
             QStringLiteral("10001 研发部 13800138000 2023-05-08 12.5 ")));

@@ -23,6 +23,7 @@
 #include "support/recordingstage.h"
 #include "support/scriptedui.h"
 #include "support/tempprogramfolder.h"
+#include "support/treerows.h"
 
 namespace {
 
@@ -57,13 +58,6 @@ QPushButton *button(const QWidget &form, const char *name) {
 
 QString labelText(const QWidget &form, const char *name) {
     return child<QLabel>(form, name)->text();
-}
-
-QStringList columnTexts(const QTreeWidget *list, int column) {
-    QStringList texts;
-    for (int i = 0; i < list->topLevelItemCount(); ++i)
-        texts << list->topLevelItem(i)->text(column);
-    return texts;
 }
 
 // Fills the editor, presses 保存 (or the button named) and returns what the operator is told.
@@ -110,7 +104,7 @@ private Q_SLOTS:
         stages.last()->reply(QStringLiteral("other"), QStringLiteral("yes"));
         QCOMPARE(participants(form)->topLevelItemCount(), 0);
         stages.last()->reply(proto::cmd::loadok, QStringLiteral("yes"));
-        QCOMPARE(columnTexts(participants(form), 1), (QStringList{"1", "2"}));
+        QCOMPARE(treeRows(participants(form), {1}), (QStringList{"1", "2"}));
         // The row count equals the table's, so the last row is selected and loaded.
         QCOMPARE(edit(form, "nameEdit")->text(), QStringLiteral("乙"));
     }
@@ -185,7 +179,7 @@ private Q_SLOTS:
         auto form = openManager();
         QCOMPARE(labelText(*form, "wonLabel"), QStringLiteral("已中奖人数：1"));
         QCOMPARE(labelText(*form, "gaveUpLabel"), QStringLiteral("弃奖∶1"));
-        QCOMPARE(columnTexts(participants(*form), 5),
+        QCOMPARE(treeRows(participants(*form), {5}),
                  (QStringList{"已弃奖", "已领奖", "", "", "", "", "", "", "", "已中奖"}));
         QCOMPARE(participants(*form)->topLevelItem(0)->foreground(5).color(), QColor(255, 0, 0));
         QCOMPARE(participants(*form)->topLevelItem(9)->foreground(5).color(), QColor(18, 118, 0));
